@@ -1,0 +1,14 @@
+# Every target of this project compiles with the same warnings, all of them errors.
+add_library(karvenis_strict INTERFACE)
+target_compile_options(karvenis_strict INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wduplicated-cond -Werror)
+if(KARVENIS_SANITIZE)
+  add_compile_options(-fsanitize=${KARVENIS_SANITIZE} -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KARVENIS_SANITIZE})
+endif()
+if(KARVENIS_COVERAGE)
+  add_compile_options(--coverage -fprofile-abs-path)
+  add_link_options(--coverage)
+endif()

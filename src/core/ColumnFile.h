@@ -1,0 +1,47 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/ColumnRecord.h"
+#include "core/RecordFile.h"
+
+namespace karvenis {
+
+/// The column files of the current directory.
+inline constexpr char randomColumns[] = "KARVENIS.RND";    ///< the columns the user kept
+inline constexpr char combinationList[] = "KARVENIS.LST";  ///< the combination list
+inline constexpr char listBackup[] = "KARVENIS.OLD";  ///< the combination list before its change
+
+/// An open column file. Records pass through the column record buffer it was made with.
+class ColumnFile {
+ public:
+  /// Opens `name`, creating it where it is missing. Throws RunTimeError(open).
+  ColumnFile(Files& files, const std::string& name, ColumnRecord& buffer)
+      : buffer_(buffer), file_(files, name, ColumnRecord::size) {}
+
+  std::uint64_t length() const { return file_.length(); }
+  /// Records in the file: length / 16, halves to even.
+  std::int32_t count() const { return file_.count(); }
+  /// Reads record `number` (from 1) into the buffer; past the end it is all 0.
+  void get(std::int64_t number);
+  /// Writes the buffer as record `number`.
+  void put(std::int64_t number);
+  /// Returns with everything on disk and the file closed. Throws RunTimeError(write).
+  void close() { file_.close(); }
+
+ private:
+  ColumnRecord& buffer_;
+  RecordFile file_;
+};
+
+/// Records of `name`, which must exist.
+std::int32_t columnCount(Files& files, const std::string& name);
+
+/// Whether `name` exists and is at least one record (16 bytes) long.
+bool holdsColumns(Files& files, const std::string& name);
+
+/// Copies the combination list, where there is one, over its backup.
+void backUpList(Files& files);
+
+}  // namespace karvenis

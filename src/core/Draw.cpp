@@ -1,0 +1,94 @@
+#include "core/Draw.h"
+
+#include <algorithm>
+#include <bitset>
+#include <span>
+#include <utility>
+
+namespace karvenis {
+namespace {
+
+std::span<const std::int16_t> bankos(const SharedState& state) {
+  const auto count = std::clamp<std::int16_t>(state.Banko[0], 0, mostBankos);
+  return std::span(state.Banko).subspan(1, static_cast<std::size_t>(count));
+}
+
+std::span<const std::int16_t> balls(const SharedState& state) {
+  const auto count = std::clamp<std::int16_t>(state.Bag[0], 0, ballsInAll);
+  return std::span(state.Bag).subspan(1, static_cast<std::size_t>(count));
+}
+
+void fillBag(SharedState& state) {
+  const auto kept = bankos(state);
+  std::int16_t count = 0;
+  for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
+    if (std::ranges::find(kept, ball) != kept.end()) continue;
+    ++count;
+    state.Bag[static_cast<std::size_t>(count)] = ball;
+  }
+  state.Bag[0] = count;
+}
+
+}  // namespace
+
+std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position) {
+  const auto banko = bankos(state);
+  const auto place = static_cast<std::size_t>(position);
+  if (place <= banko.size()) return banko[place - 1];
+  if (state.Bag[0] <= 0) fillBag(state);
+  const auto bag = balls(state);
+  return bag[static_cast<std::size_t>(chance.index(static_cast<std::int32_t>(bag.size())) - 1)];
+}
+
+void SortColumn(Column& column) {
+  for (int pass = 1; pass <= ballsInColumn; ++pass) {
+    for (std::size_t k = 1; k < ballsInColumn; ++k) {
+      if (column[k + 1] < column[k]) std::swap(column[k], column[k + 1]);
+    }
+  }
+}
+
+bool canDraw(const SharedState& state) {
+  std::bitset<65536> taken;
+  const auto bit = [](std::int16_t ball) { return static_cast<std::uint16_t>(ball); };
+  for (const std::int16_t banko : bankos(state)) {
+    if (taken.test(bit(banko))) return false;
+    taken.set(bit(banko));
+  }
+  std::size_t distinct = taken.count();
+  const auto offer = [&](std::int16_t ball) {
+    if (!taken.test(bit(ball))) ++distinct;
+    taken.set(bit(ball));
+  };
+  if (balls(state).empty()) {
+    for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) offer(ball);
+  } else {
+    std::ranges::for_each(balls(state), offer);
+  }
+  return distinct >= ballsInColumn;
+}
+
+void drawDistinct(SharedState& state, Chance& chance) {
+  Column& column = state.Drawn;
+  for (std::int16_t position = 1; position <= ballsInColumn; ++position) {
+    column[static_cast<std::size_t>(position)] = PickBall(state, chance, position);
+  }
+  // A repeat restarts the comparisons, the rest of the inner loop included, at position 1. Only the
+  // later ball of a pair is drawn again, so a banko is never replaced.
+  for (std::size_t i = 1; i < ballsInColumn; ++i) {
+    for (std::size_t j = i + 1; j <= ballsInColumn; ++j) {
+      while (column[j] == column[i]) {
+        column[j] = PickBall(state, chance, static_cast<std::int16_t>(j));
+        i = 1;
+      }
+    }
+  }
+}
+
+void DrawColumn(SharedState& state, Chance& chance, Clock& clock, bool sorted) {
+  chance.seedFrom(clock);
+  drawDistinct(state, chance);
+  if (sorted) SortColumn(state.Drawn);
+}
+
+}  // namespace karvenis

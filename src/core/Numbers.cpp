@@ -1,0 +1,63 @@
+#include "core/Numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace karvenis {
+namespace {
+
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n'; }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+template <typename Int>
+Int roundedInto(double number) {
+  const double low = std::numeric_limits<Int>::min();
+  const double high = std::numeric_limits<Int>::max();
+  const double rounded = std::nearbyint(number);  // the default rounding mode: halves to even
+  if (!(rounded > low)) return std::numeric_limits<Int>::min();
+  if (rounded > high) return std::numeric_limits<Int>::max();
+  return static_cast<Int>(rounded);
+}
+
+}  // namespace
+
+std::string withBlank(std::int64_t number) {
+  return number < 0 ? std::to_string(number) : " " + std::to_string(number);
+}
+
+std::string padded(std::int64_t number, std::size_t digits) {
+  std::string text = std::to_string(number);
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  return text;
+}
+
+double leadingNumber(std::string_view text) {
+  std::string number;
+  bool fraction = false;
+  bool signAllowed = true;
+  for (const char c : text) {
+    if (isBlank(c)) continue;
+    const bool sign = signAllowed && (c == '-' || c == '+');
+    const bool point = c == '.' && !fraction;
+    if (!isDigit(c) && !sign && !point) break;
+    if (!(sign && c == '+')) number += c;
+    fraction = fraction || point;
+    signAllowed = false;
+  }
+  double value = 0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value,
+                                            std::chars_format::fixed);
+  if (error != std::errc::result_out_of_range) return value;
+  return number.starts_with('-') ? -HUGE_VAL : HUGE_VAL;
+}
+
+std::int32_t typedNumber32(std::string_view text) {
+  return roundedInto<std::int32_t>(leadingNumber(text));
+}
+
+std::int16_t typedNumber16(std::string_view text) {
+  return roundedInto<std::int16_t>(leadingNumber(text));
+}
+
+}  // namespace karvenis

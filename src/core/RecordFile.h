@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/Files.h"
+
+namespace karvenis {
+
+/// Number of records of `recordLength` bytes in `bytes` bytes, rounded to the nearest, halves to
+/// even. Throws RunTimeError(overflow) beyond 32 bits.
+std::int32_t recordCount(std::uint64_t bytes, std::size_t recordLength);
+
+/// A file of fixed-length records, numbered from 1, opened for reading and writing. Bytes past the
+/// end read as 0, and so do gaps. A block around the record last used is kept in memory, so that a
+/// pass over the file costs block transfers and not a system call a record.
+class RecordFile {
+ public:
+  RecordFile(Files& files, const std::string& name, std::size_t recordLength);
+  /// Closes; a failure goes unheard. Whoever wrote calls close() first.
+  ~RecordFile();
+  RecordFile(const RecordFile&) = delete;
+  RecordFile& operator=(const RecordFile&) = delete;
+
+  /// Length in bytes, with what has been written and is still in memory.
+  std::uint64_t length() const { return length_; }
+  std::int32_t count() const { return recordCount(length_, recordLength_); }
+
+  /// `record` is recordLength bytes. Throws RunTimeError(read), also for a number below 1.
+  void read(std::int64_t number, std::span<std::byte> record);
+  /// Throws RunTimeError(write).
+  void write(std::int64_t number, std::span<const std::byte> record);
+  /// Returns with everything written on disk and the file closed. Throws RunTimeError(write).
+  void close();
+
+ private:
+  static constexpr std::size_t blockSize = std::size_t{1} << 16;
+
+  std::span<std::byte> inBlock(std::int64_t number);
+  void flush(File& file);
+
+  std::string name_;
+  std::size_t recordLength_;
+  std::unique_ptr<File> file_;
+  std::uint64_t length_ = 0;
+  std::uint64_t blockStart_ = 0;
+  std::vector<std::byte> block_;  // empty until the first access
+  std::size_t dirtyFrom_ = 0;     // the bytes of the block that are not in the file yet
+  std::size_t dirtyTo_ = 0;
+  bool written_ = false;
+};
+
+}  // namespace karvenis

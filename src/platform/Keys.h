@@ -1,0 +1,36 @@
+#pragma once
+
+namespace karvenis {
+
+/// Key codes as the windows' key procedures see them. Letters and digits have their ASCII code.
+enum KeyCode : int {
+  keyEnter = 13,
+  keyEscape = 27,
+  keySpace = 32,
+  keyPageUp = 33,
+  keyPageDown = 34,
+  keyEnd = 35,
+  keyHome = 36,
+  keyLeft = 37,
+  keyUp = 38,
+  keyRight = 39,
+  keyDown = 40,
+  keyF1 = 112,
+  keyF2,
+  keyF3,
+  keyF4,
+  keyF5,
+  keyF6,
+  keyF7,
+  keyF8,
+  keyF9,
+  keyF10,
+  keyF11,
+  keyF12,
+  keyOther = 255,
+};
+
+/// The bits of the Shift argument.
+enum ShiftMask : int { shiftKey = 1, ctrlKey = 2, altKey = 4 };
+
+}  // namespace karvenis

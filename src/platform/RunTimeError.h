@@ -1,0 +1,44 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace karvenis {
+
+/// What went wrong when the program cannot go on.
+enum class Fault {
+  open,      ///< a file could not be opened or created
+  read,      ///< a file could not be read
+  write,     ///< bytes could not be written or put on disk
+  copy,      ///< a file could not be copied over another
+  remove,    ///< a file could not be deleted
+  rename,    ///< a file could not take another name
+  overflow,  ///< a number outgrew its 16 or 32 bits
+  printer,   ///< the printer refused
+};
+
+/// A fault that nobody expects and that ends the program with one clear box (see Form). Refusals
+/// that a user can meet in normal work are values and never this.
+class RunTimeError : public std::runtime_error {
+ public:
+  /// `subject` is the file concerned (or the number that overflowed), `reason` the system's words.
+  RunTimeError(Fault fault, std::string subject, const std::string& reason)
+      : std::runtime_error(subject + ": " + reason),
+        fault_(fault),
+        subject_(std::move(subject)),
+        reason_(reason) {}
+
+  Fault fault() const { return fault_; }
+  const std::string& subject() const { return subject_; }
+  const std::string& reason() const { return reason_; }
+
+ private:
+  Fault fault_;
+  std::string subject_;
+  std::string reason_;
+};
+
+/// The closing box's Turkish text for `error`: which file (or number), what failed, and why.
+std::string describe(const RunTimeError& error);
+
+}  // namespace karvenis

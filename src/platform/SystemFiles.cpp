@@ -1,0 +1,225 @@
+#include "platform/SystemFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+#include <vector>
+
+#include "platform/RunTimeError.h"
+#include "platform/SystemWords.h"
+
+namespace karvenis {
+namespace {
+
+[[noreturn]] void fail(Fault fault, const std::string& name, int error = errno) {
+  throw RunTimeError(fault, name, systemWords(error));
+}
+
+/// Calls again as long as a signal interrupted the call.
+template <typename Call>
+auto uninterrupted(Call call) {
+  decltype(call()) result;
+  do {
+    result = call();
+  } while (result < 0 && errno == EINTR);
+  return result;
+}
+
+/// A file descriptor that closes itself.
+class Descriptor {
+ public:
+  explicit Descriptor(int number = -1) : number_(number) {}
+  ~Descriptor() { close(); }
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    close();
+    number_ = std::exchange(other.number_, -1);
+    return *this;
+  }
+
+  int get() const { return number_; }
+  explicit operator bool() const { return number_ >= 0; }
+  int close() { return number_ < 0 ? 0 : ::close(std::exchange(number_, -1)); }
+
+ private:
+  int number_;
+};
+
+/// Puts the names of the current directory on disk.
+bool syncDirectory() {
+  const Descriptor directory(::open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return directory && uninterrupted([&] { return ::fsync(directory.get()); }) == 0;
+}
+
+std::size_t readAll(int descriptor, std::uint64_t offset, std::span<std::byte> into,
+                    const std::string& name) {
+  std::size_t done = 0;
+  while (done < into.size()) {
+    const auto got = uninterrupted([&] {
+      return ::pread(descriptor, into.data() + done, into.size() - done,
+                     static_cast<off_t>(offset + done));
+    });
+    if (got < 0) fail(Fault::read, name);
+    if (got == 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+
+void writeAll(int descriptor, std::uint64_t offset, std::span<const std::byte> bytes,
+              const std::string& name) {
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const auto put = uninterrupted([&] {
+      return ::pwrite(descriptor, bytes.data() + done, bytes.size() - done,
+                      static_cast<off_t>(offset + done));
+    });
+    if (put < 0) fail(Fault::write, name);
+    done += static_cast<std::size_t>(put);
+  }
+}
+
+class SystemFile final : public File {
+ public:
+  SystemFile(Descriptor descriptor, std::string name, bool created)
+      : descriptor_(std::move(descriptor)), name_(std::move(name)), created_(created) {}
+
+  std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
+    return readAll(descriptor_.get(), offset, into, name_);
+  }
+  void write(std::uint64_t offset, std::span<const std::byte> bytes) override {
+    writeAll(descriptor_.get(), offset, bytes, name_);
+  }
+  std::uint64_t length() override {
+    struct stat status {};
+    if (::fstat(descriptor_.get(), &status) != 0) fail(Fault::read, name_);
+    return static_cast<std::uint64_t>(status.st_size);
+  }
+  void sync() override {
+    if (uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) fail(Fault::write, name_);
+    if (created_ && !syncDirectory()) fail(Fault::write, name_);
+    created_ = false;
+  }
+  void close() override {
+    if (descriptor_.close() != 0) fail(Fault::write, name_);
+  }
+
+ private:
+  Descriptor descriptor_;
+  std::string name_;
+  bool created_;
+};
+
+/// Never waits: a pipe or a device under the name is refused after the opening, not waited for.
+constexpr int openFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
+/// Opens for reading and writing, else, where that is not allowed, for reading only.
+Descriptor openExisting(const std::string& name) {
+  const int both = ::open(name.c_str(), O_RDWR | openFlags);
+  if (both >= 0 || (errno != EACCES && errno != EROFS && errno != EPERM)) return Descriptor(both);
+  return Descriptor(::open(name.c_str(), O_RDONLY | openFlags));
+}
+
+void refuseAllButRegular(const Descriptor& descriptor, Fault fault, const std::string& name) {
+  struct stat status {};
+  if (::fstat(descriptor.get(), &status) != 0) fail(fault, name);
+  if (S_ISDIR(status.st_mode)) fail(fault, name, EISDIR);
+  if (!S_ISREG(status.st_mode)) fail(fault, name, EINVAL);
+}
+
+/// A copy grows under a name of its own beside its target and takes the target's place when it is
+/// whole and on disk. Where that does not come to pass, nothing of it stays behind.
+class Replacement {
+ public:
+  explicit Replacement(const std::string& target)
+      : target_(target),
+        name_(target + ".XXXXXX"),
+        descriptor_(::mkostemp(name_.data(), O_CLOEXEC)) {
+    if (!descriptor_) fail(Fault::copy, target_);
+  }
+  ~Replacement() {
+    if (!done_) ::unlink(name_.c_str());
+  }
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  int descriptor() const { return descriptor_.get(); }
+
+  void takePlace(mode_t mode) {
+    if (::fchmod(descriptor_.get(), mode & 07777U) != 0 ||
+        uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0 ||
+        descriptor_.close() != 0 || ::rename(name_.c_str(), target_.c_str()) != 0) {
+      fail(Fault::copy, target_);
+    }
+    done_ = true;
+    if (!syncDirectory()) fail(Fault::copy, target_);
+  }
+
+ private:
+  std::string target_;
+  std::string name_;
+  Descriptor descriptor_;
+  bool done_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<File> SystemFiles::open(const std::string& name) {
+  Descriptor descriptor = openExisting(name);
+  bool created = false;
+  if (!descriptor && errno == ENOENT) {
+    descriptor = Descriptor(::open(name.c_str(), O_RDWR | O_CREAT | openFlags, 0666));
+    created = true;
+  }
+  if (!descriptor) fail(Fault::open, name);
+  refuseAllButRegular(descriptor, Fault::open, name);
+  return std::make_unique<SystemFile>(std::move(descriptor), name, created);
+}
+
+bool SystemFiles::exists(const std::string& name) {
+  struct stat status {};
+  return ::stat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+std::uint64_t SystemFiles::length(const std::string& name) {
+  struct stat status {};
+  if (::stat(name.c_str(), &status) != 0) fail(Fault::read, name);
+  if (!S_ISREG(status.st_mode)) fail(Fault::read, name, EINVAL);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+void SystemFiles::copy(const std::string& from, const std::string& to) {
+  const Descriptor source(::open(from.c_str(), O_RDONLY | openFlags));
+  if (!source) fail(Fault::copy, from);
+  refuseAllButRegular(source, Fault::copy, from);
+  struct stat status {};
+  if (::fstat(source.get(), &status) != 0) fail(Fault::copy, from);
+  struct stat target {};
+  if (::stat(to.c_str(), &target) == 0 && !S_ISREG(target.st_mode)) fail(Fault::copy, to, EINVAL);
+
+  Replacement replacement(to);
+  std::vector<std::byte> block(std::size_t{1} << 18);
+  for (std::uint64_t offset = 0;;) {
+    const std::size_t got = readAll(source.get(), offset, block, from);
+    if (got == 0) break;
+    writeAll(replacement.descriptor(), offset, std::span(block).first(got), to);
+    offset += got;
+  }
+  replacement.takePlace(status.st_mode);
+}
+
+void SystemFiles::remove(const std::string& name) {
+  if (::unlink(name.c_str()) != 0) fail(Fault::remove, name);
+  if (!syncDirectory()) fail(Fault::remove, name);
+}
+
+void SystemFiles::rename(const std::string& from, const std::string& to) {
+  if (::rename(from.c_str(), to.c_str()) != 0 || !syncDirectory()) fail(Fault::rename, from);
+}
+
+}  // namespace karvenis

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Files.h"
+
+namespace karvenis {
+
+/// The files of the current directory.
+class SystemFiles final : public Files {
+ public:
+  std::unique_ptr<File> open(const std::string& name) override;
+  bool exists(const std::string& name) override;
+  std::uint64_t length(const std::string& name) override;
+  void copy(const std::string& from, const std::string& to) override;
+  void remove(const std::string& name) override;
+  void rename(const std::string& from, const std::string& to) override;
+};
+
+}  // namespace karvenis

@@ -1,0 +1,35 @@
+#include "platform/SystemWords.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace karvenis {
+
+std::string systemWords(int error) {
+  switch (error) {
+    case EACCES:
+    case EPERM:
+      return "Erişim izni yok.";
+    case EROFS:
+      return "Dosya sistemi salt okunur.";
+    case ENOSPC:
+    case EDQUOT:
+      return "Diskte yer kalmadı.";
+    case EFBIG:
+      return "Dosya çok büyük.";
+    case EIO:
+      return "Giriş/çıkış hatası.";
+    case EISDIR:
+      return "Bu adda bir klasör var.";
+    case EINVAL:
+      return "Olağan bir dosya değil.";
+    case ENOENT:
+      return "Dosya bulunamadı.";
+    case EBADF:
+      return "Dosya salt okunur.";
+    default:
+      return std::system_category().message(error);
+  }
+}
+
+}  // namespace karvenis

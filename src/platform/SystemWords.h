@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+namespace karvenis {
+
+/// The system's words for the error number `error`, in Turkish for the errors that a user can meet.
+std::string systemWords(int error);
+
+}  // namespace karvenis

@@ -1,0 +1,173 @@
+#include "platform/qt/Form.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWindow>
+
+#include "platform/qt/Forms.h"
+#include "platform/qt/KeyCodes.h"
+#include "platform/qt/Text.h"
+
+namespace karvenis {
+namespace {
+
+/// How often the screen hears of a new caption while a procedure runs, in milliseconds.
+constexpr qint64 captionInterval = 15;
+
+bool isFunctionKey(int code) { return code >= keyF1 && code <= keyF12; }
+
+}  // namespace
+
+Form::Form(Forms& forms, const char* name) : forms_(forms) { setObjectName(QLatin1String(name)); }
+
+void Form::setCaption(std::string_view caption) {
+  caption_ = caption;
+  if (running_ == 0 || !sinceShown_.isValid() || sinceShown_.elapsed() >= captionInterval) {
+    showCaption();
+  }
+}
+
+void Form::showCaption() {
+  sinceShown_.start();
+  const QString shown = toQt(caption_);
+  if (shown != windowTitle()) setWindowTitle(shown);
+}
+
+void Form::unload() {
+  if (closing_) return;
+  closing_ = true;
+  hide();
+  forms_.closed(*this);
+  deleteLater();
+}
+
+void Form::run(const std::function<void()>& procedure) {
+  ++running_;
+  try {
+    procedure();
+  } catch (const std::exception& error) {
+    forms_.fault(error);
+  }
+  --running_;
+  if (running_ == 0) showCaption();
+}
+
+void Form::Form_KeyDown(int, int) {}
+void Form::Form_KeyPress(int) {}
+
+QMenuBar* Form::menuBar() {
+  if (menuBar_ == nullptr) {
+    menuBar_ = new QMenuBar(this);
+    menuBar_->setNativeMenuBar(false);
+    if (layout() != nullptr) layout()->setMenuBar(menuBar_);
+  }
+  return menuBar_;
+}
+
+QMenu* Form::menuHead(const char* menuName, const QString& text) {
+  QMenu* head = menuBar()->addMenu(text);
+  head->setObjectName(QLatin1String(menuName));
+  return head;
+}
+
+QAction* Form::menuEntry(QMenu* head, const char* entryName, const QString& text,
+                         std::function<void()> procedure) {
+  QAction* entry = head->addAction(text);
+  entry->setObjectName(QLatin1String(entryName));
+  on(entry, &QAction::triggered, std::move(procedure));
+  return entry;
+}
+
+void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
+  on(box, &QLineEdit::returnPressed, [this, procedure = std::move(procedure)] {
+    if (!keyRepeats_) procedure();
+  });
+}
+
+bool Form::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  if (event->type() == QEvent::WindowActivate && isVisible()) forms_.became(*this);
+  return handled;
+}
+
+void Form::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  windowHandle()->removeEventFilter(this);
+  windowHandle()->installEventFilter(this);
+}
+
+/// Every key reaches the native window first, once, whichever control has the focus.
+bool Form::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != windowHandle()) return QWidget::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::KeyPress:
+      return handleKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      return forms_.droppingInput();
+    default:
+      return false;
+  }
+}
+
+/// Returns whether the key has been used up here, so that the focused control does not see it.
+bool Form::handleKey(const QKeyEvent& key) {
+  if (QApplication::activePopupWidget() != nullptr) return false;
+  if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
+    return true;
+  const int code = keyCodeOf(key);
+  keyRepeats_ = key.isAutoRepeat();
+  if (isFunctionKey(code) && keyRepeats_) return true;
+
+  const int shift = shiftOf(key);
+  QWidget* focused = focusWidget();
+  run([&] { Form_KeyDown(code, shift); });
+  const bool character = (code == keyEnter || code == keyEscape) && (shift & ~shiftKey) == 0;
+  if (character && !closing_) run([&] { Form_KeyPress(code); });
+  if (code == keyEnter && !closing_) pressFocused(key, focused);
+  return closing_ || isFunctionKey(code) || code == keyEscape;
+}
+
+/// Enter presses the button that had the focus when the key came.
+void Form::pressFocused(const QKeyEvent& key, QWidget* focused) {
+  auto* button = qobject_cast<QPushButton*>(focused);
+  if (button != nullptr && !key.isAutoRepeat() && button == focusWidget()) button->click();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (!closing_) run([this] { closeRequested(); });
+}
+
+void Form::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (size() == lastSize_) return;
+  lastSize_ = size();
+  run([this] { Form_Resize(); });
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+  pressWasFree_ = event->button() == Qt::LeftButton && isFree(event->pos());
+  clickArmed_ = pressWasFree_;
+}
+
+void Form::mouseReleaseEvent(QMouseEvent* event) {
+  const bool click =
+      clickArmed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+  clickArmed_ = false;
+  if (click) run([this] { Form_Click(); });
+}
+
+void Form::mouseDoubleClickEvent(QMouseEvent* event) {
+  const bool both = pressWasFree_ && event->button() == Qt::LeftButton && isFree(event->pos());
+  pressWasFree_ = false;
+  clickArmed_ = false;
+  if (both) run([this] { Form_DblClick(); });
+}
+
+}  // namespace karvenis

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "platform/Keys.h"
+#include "platform/TitleBar.h"
+
+class QKeyEvent;
+class QLineEdit;
+class QTimer;
+
+namespace karvenis {
+
+class Forms;
+
+/// The base of every window. A window builds its controls, connects them with on() and answers the
+/// events below; each event procedure runs inside run(), so that a fault never crosses the toolkit.
+class Form : public QWidget, public TitleBar {
+ public:
+  Form(Forms& forms, const char* name);
+
+  std::string name() const { return objectName().toStdString(); }
+  /// The exact caption at once; while a procedure runs, the screen is told of the newest one now
+  /// and then only, since a window manager shows no more.
+  void setCaption(std::string_view caption) override;
+  const std::string& caption() const { return caption_; }
+  void showCaption();
+
+  /// Closes the window and deletes it when the running procedure has ended.
+  void unload();
+  bool isClosing() const { return closing_; }
+
+  Form* opener() const { return opener_; }
+  void setOpener(Form* opener) { opener_ = opener; }
+
+  /// Runs an event procedure; a fault ends the program with its one closing box.
+  void run(const std::function<void()>& procedure);
+
+  /// The window has been made and is about to be shown.
+  virtual void Form_Load() {}
+  /// The window was shown, or takes the place of another window of the program.
+  virtual void Form_Activate() {}
+
+ protected:
+  /// A key, seen before the control that has the focus. F1..F12 come once, however long they are
+  /// held.
+  virtual void Form_KeyDown(int KeyCode, int Shift);
+  /// The character of a key: Enter (13) and Esc (27) only, not while Ctrl or Alt is held.
+  virtual void Form_KeyPress(int KeyAscii);
+  /// A left click on the window's own surface.
+  virtual void Form_Click() {}
+  /// A left double click with both presses on the window's own surface.
+  virtual void Form_DblClick() {}
+  /// The window has another size than before; also at its first show.
+  virtual void Form_Resize() {}
+  /// The user closes the window by its frame.
+  virtual void closeRequested() { unload(); }
+
+  /// Whether the key being handled is a repeat of one that is held.
+  bool keyRepeats() const { return keyRepeats_; }
+  Forms& forms() const { return forms_; }
+
+  /// Connects a control's signal with an event procedure.
+  template <typename Sender, typename Signal, typename Procedure>
+  void on(Sender* sender, Signal signal, Procedure procedure) {
+    connect(sender, signal, this, [this, procedure] { run(procedure); });
+  }
+  /// Enter in `box`, once however long it is held.
+  void onEnter(QLineEdit* box, std::function<void()> procedure);
+  /// A control of this window under its own name.
+  template <typename Control, typename... Arguments>
+  Control* control(const QString& controlName, Arguments&&... arguments) {
+    auto* made = new Control(std::forward<Arguments>(arguments)..., this);
+    made->setObjectName(controlName);
+    return made;
+  }
+  QMenu* menuHead(const char* menuName, const QString& text);
+  QAction* menuEntry(QMenu* head, const char* entryName, const QString& text,
+                     std::function<void()> procedure);
+  QMenuBar* menuBar();
+
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  bool handleKey(const QKeyEvent& key);
+  void pressFocused(const QKeyEvent& key, QWidget* focused);
+  bool isFree(const QPoint& place) const { return childAt(place) == nullptr; }
+
+  Forms& forms_;
+  QPointer<Form> opener_;
+  QMenuBar* menuBar_ = nullptr;
+  std::string caption_;
+  QElapsedTimer sinceShown_;
+  QSize lastSize_;
+  int running_ = 0;
+  bool closing_ = false;
+  bool keyRepeats_ = false;
+  bool clickArmed_ = false;
+  bool pressWasFree_ = false;
+};
+
+}  // namespace karvenis

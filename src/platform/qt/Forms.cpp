@@ -1,0 +1,104 @@
+#include "platform/qt/Forms.h"
+
+#include <QApplication>
+#include <QTimer>
+
+#include "platform/RunTimeError.h"
+#include "platform/qt/Form.h"
+
+namespace karvenis {
+namespace {
+
+/// What a fault that is not a RunTimeError says to the user.
+std::string words(const std::exception& error) {
+  if (const auto* known = dynamic_cast<const RunTimeError*>(&error)) return describe(*known);
+  return std::string("Beklenmeyen bir hata oluştu.\rNeden: ") + error.what();
+}
+
+}  // namespace
+
+Forms::~Forms() {
+  ending_ = true;
+  for (const QPointer<Form>& form : open_) delete form;
+}
+
+void Forms::add(std::string form, Factory make) {
+  if (factories_.empty()) mainForm_ = form;
+  factories_.emplace(std::move(form), std::move(make));
+}
+
+bool Forms::knows(std::string_view form) const { return factories_.contains(form); }
+
+Form* Forms::find(std::string_view form) const {
+  for (const QPointer<Form>& candidate : open_) {
+    if (candidate && !candidate->isClosing() && candidate->name() == form) return candidate;
+  }
+  return nullptr;
+}
+
+void Forms::show(std::string_view form) {
+  Form* window = find(form);
+  if (window == nullptr) window = open(form);
+  if (window != nullptr) present(*window);
+}
+
+/// Makes and loads a window; null where there is none of that name or it closed itself at once.
+Form* Forms::open(std::string_view form) {
+  const auto factory = factories_.find(form);
+  if (factory == factories_.end()) return nullptr;
+  Form* window = factory->second();
+  window->setOpener(active_);
+  std::erase_if(open_, [](const QPointer<Form>& gone) { return gone.isNull(); });
+  open_.emplace_back(window);
+  window->run([&] { window->Form_Load(); });
+  return window->isClosing() ? nullptr : window;
+}
+
+void Forms::present(Form& form) {
+  form.show();
+  form.raise();
+  form.activateWindow();
+  became(form);
+}
+
+void Forms::became(Form& form) {
+  if (ending_ || active_ == &form || form.isClosing()) return;
+  active_ = &form;
+  form.run([&] { form.Form_Activate(); });
+}
+
+void Forms::closed(Form& form) {
+  if (ending_) return;
+  if (active_ == &form) active_ = nullptr;
+  Form* next = form.opener();
+  if (next == nullptr || next->isClosing()) next = find(mainForm_);
+  if (next != nullptr && next != &form) present(*next);
+}
+
+void Forms::end() {
+  ending_ = true;
+  QCoreApplication::exit(0);
+}
+
+void Forms::fault(const std::exception& error) {
+  if (ending_) return;
+  ending_ = true;
+  boxes_.pointer(Pointer::normal);
+  boxes_.message(words(error), errorTitle, Icon::critical);
+  QCoreApplication::exit(1);
+}
+
+void Forms::showCaptions() {
+  for (const QPointer<Form>& form : open_) {
+    if (form) form->showCaption();
+  }
+}
+
+void Forms::dropInput() {
+  dropping_ = true;
+  // The first turn of the event loop brings what came meanwhile; idle timers fire after it.
+  QTimer::singleShot(0, qApp,
+                     [this] { QTimer::singleShot(0, qApp, [this] { dropping_ = false; }); });
+}
+
+}  // namespace karvenis

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QPointer>
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Boxes.h"
+#include "platform/Windows.h"
+
+namespace karvenis {
+
+class Form;
+
+/// The program's windows: makes them, knows which one the user works in and which one opened which,
+/// and ends the program.
+class Forms final : public Windows {
+ public:
+  using Factory = std::function<Form*()>;
+
+  explicit Forms(Boxes& boxes) : boxes_(boxes) {}
+  ~Forms() override;
+
+  /// Makes `form` known by its name; `make` returns a new window, which then belongs to itself and
+  /// goes when it is closed. The first one added is the main window.
+  void add(std::string form, Factory make);
+  bool knows(std::string_view form) const;
+  /// The open window of that name, or null.
+  Form* find(std::string_view form) const;
+
+  void show(std::string_view form) override;
+  void end() override;
+
+  /// `form` is the window the user works in now; runs its Form_Activate where it was another
+  /// before.
+  void became(Form& form);
+  /// `form` has closed: the window that opened it, else the main window, takes its place.
+  void closed(Form& form);
+  /// Ends the program with one box that says what failed, status 1.
+  void fault(const std::exception& error);
+  /// Brings every window's title on the screen up to date.
+  void showCaptions();
+
+  /// Drops the keys and clicks that came while a long action kept the program busy, so that they do
+  /// not become commands after it.
+  void dropInput();
+  bool droppingInput() const { return dropping_; }
+
+ private:
+  Form* open(std::string_view form);
+  void present(Form& form);
+
+  Boxes& boxes_;
+  std::map<std::string, Factory, std::less<>> factories_;
+  std::string mainForm_;
+  std::vector<QPointer<Form>> open_;
+  QPointer<Form> active_;
+  bool ending_ = false;
+  bool dropping_ = false;
+};
+
+}  // namespace karvenis

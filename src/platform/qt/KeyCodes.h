@@ -1,0 +1,13 @@
+#pragma once
+
+class QKeyEvent;
+
+namespace karvenis {
+
+/// The KeyCode of a key event (see platform/Keys.h).
+int keyCodeOf(const QKeyEvent& key);
+
+/// The Shift argument of a key event: ShiftMask bits.
+int shiftOf(const QKeyEvent& key);
+
+}  // namespace karvenis

@@ -1,0 +1,87 @@
+#include "platform/qt/QtBoxes.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/qt/Text.h"
+
+namespace karvenis {
+namespace {
+
+QMessageBox::Icon shown(Icon icon) {
+  switch (icon) {
+    case Icon::none:
+      return QMessageBox::NoIcon;
+    case Icon::exclamation:
+      return QMessageBox::Warning;
+    case Icon::question:
+      return QMessageBox::Question;
+    case Icon::critical:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+void fill(QMessageBox& box, const std::string& text, const std::string& title, Icon icon) {
+  box.setWindowTitle(toQt(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQtLines(text));
+  box.setIcon(shown(icon));
+  box.setWindowModality(Qt::ApplicationModal);
+}
+
+}  // namespace
+
+void QtBoxes::prepare() const {
+  if (beforeBox) beforeBox();
+}
+
+void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
+  prepare();
+  QMessageBox box(QApplication::activeWindow());
+  fill(box, text, title, icon);
+  box.setDefaultButton(box.addButton(QStringLiteral("Tamam"), QMessageBox::AcceptRole));
+  box.exec();
+}
+
+bool QtBoxes::ask(const std::string& text, const std::string& title) {
+  prepare();
+  QMessageBox box(QApplication::activeWindow());
+  fill(box, text, title, Icon::question);
+  QPushButton* yes = box.addButton(QStringLiteral("Evet"), QMessageBox::YesRole);
+  QPushButton* no = box.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole);
+  box.setDefaultButton(yes);
+  box.setEscapeButton(no);
+  box.exec();
+  return box.clickedButton() == yes;
+}
+
+std::string QtBoxes::input(const std::string& prompt, const std::string& title,
+                           const std::string& preset) {
+  prepare();
+  QInputDialog box(QApplication::activeWindow());
+  box.setWindowTitle(toQt(title));
+  box.setLabelText(toQtLines(prompt));
+  box.setTextValue(toQt(preset));
+  box.setOkButtonText(QStringLiteral("Tamam"));
+  box.setCancelButtonText(QStringLiteral("İptal"));
+  box.setWindowModality(Qt::ApplicationModal);
+  box.setMinimumWidth(420);
+  if (auto* label = box.findChild<QLabel*>()) {
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+  }
+  return box.exec() == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
+}
+
+void QtBoxes::beep() { QApplication::beep(); }
+
+void QtBoxes::pointer(Pointer shape) {
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+  if (shape == Pointer::hourglass) QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+}  // namespace karvenis

@@ -1,0 +1,96 @@
+#include "platform/qt/Surface.h"
+
+#include <QAccessible>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include "platform/qt/SurfaceAccessible.h"
+#include "platform/qt/Text.h"
+
+namespace karvenis {
+namespace {
+
+constexpr double twipsPerPixel = 15;
+constexpr int textPixels = 13;  // 9.75 points
+
+QColor shown(QBColor colour) {
+  switch (colour) {
+    case QBColor::blue:
+      return {0, 0, 128};
+    case QBColor::red:
+      return {128, 0, 0};
+    case QBColor::lightBlue:
+      return {0, 0, 255};
+    case QBColor::lightRed:
+      return {255, 0, 0};
+    case QBColor::white:
+      return Qt::white;
+  }
+  return Qt::black;
+}
+
+}  // namespace
+
+Surface::Surface(QWidget* parent) : QWidget(parent) {
+  installSurfaceAccessible();
+  setObjectName(QStringLiteral("Surface"));
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  QFont text = font();
+  text.setPixelSize(textPixels);
+  setFont(text);
+  QPalette white = palette();
+  white.setColor(QPalette::Window, Qt::white);
+  setPalette(white);
+  setAutoFillBackground(true);
+}
+
+double Surface::pixels(double twips) const { return twips / twipsPerPixel; }
+double Surface::lineHeight() const { return QFontMetricsF(font()).height() * twipsPerPixel; }
+
+void Surface::cls() {
+  runs_.clear();
+  lines_.clear();
+  lineOpen_ = false;
+  x_ = y_ = 0;
+  update();
+}
+
+void Surface::print(const std::string& text) {
+  const QString shownText = toQt(text);
+  note(shownText);
+  runs_.push_back({x_, y_, colour_, shownText});
+  x_ += QFontMetricsF(font()).horizontalAdvance(shownText) * twipsPerPixel;
+  update();
+}
+
+void Surface::printLine(const std::string& text) {
+  if (!text.empty()) print(text);
+  lineOpen_ = false;
+  x_ = 0;
+  y_ += lineHeight();
+}
+
+/// Adds `text` to the line that is being printed, for those who have it read to them.
+void Surface::note(const QString& text) {
+  if (!lineOpen_) lines_.push_back({QString(), y_});
+  lineOpen_ = true;
+  lines_.back().text += text;
+  QAccessibleEvent changed(this, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&changed);
+}
+
+QRect Surface::lineRect(std::size_t index) const {
+  const int top = static_cast<int>(pixels(lines_[index].top));
+  return {0, top, width(), static_cast<int>(pixels(lineHeight()))};
+}
+
+void Surface::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const double ascent = QFontMetricsF(font()).ascent();
+  for (const Run& run : runs_) {
+    painter.setPen(shown(run.colour));
+    painter.drawText(QPointF(pixels(run.x), pixels(run.y) + ascent), run.text);
+  }
+}
+
+}  // namespace karvenis

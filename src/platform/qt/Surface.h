@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "platform/TextSurface.h"
+
+namespace karvenis {
+
+/// A widget that text is printed on. It keeps what was printed and replays it when it must be
+/// painted. Assistive technology reads its lines, in the order they were printed, as its children.
+class Surface final : public QWidget, public TextSurface {
+ public:
+  explicit Surface(QWidget* parent);
+
+  void cls() override;
+  double currentX() const override { return x_; }
+  void currentX(double twips) override { x_ = twips; }
+  void currentY(double twips) override { y_ = twips; }
+  void foreColor(QBColor colour) override { colour_ = colour; }
+  void print(const std::string& text) override;
+  void printLine(const std::string& text) override;
+
+  struct Line {
+    QString text;
+    double top;  // twips
+  };
+  const std::vector<Line>& lines() const { return lines_; }
+  /// Where line `index` stands on the widget.
+  QRect lineRect(std::size_t index) const;
+  /// Pixels (device independent) of a length in twips.
+  double pixels(double twips) const;
+  /// Twips of one line of text.
+  double lineHeight() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Run {
+    double x, y;  // twips, the upper left corner
+    QBColor colour;
+    QString text;
+  };
+  void note(const QString& text);
+
+  double x_ = 0;
+  double y_ = 0;
+  QBColor colour_ = QBColor::blue;
+  std::vector<Run> runs_;
+  std::vector<Line> lines_;
+  bool lineOpen_ = false;
+};
+
+}  // namespace karvenis

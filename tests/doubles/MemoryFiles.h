@@ -1,0 +1,102 @@
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Files.h"
+#include "platform/RunTimeError.h"
+
+namespace karvenis {
+
+using Bytes = std::vector<std::byte>;
+
+/// A folder in memory.
+class MemoryFiles : public Files {
+ public:
+  std::map<std::string, Bytes> folder;
+
+  Bytes bytes(const std::string& name) const {
+    const auto found = folder.find(name);
+    return found == folder.end() ? Bytes{} : found->second;
+  }
+  std::string text(const std::string& name) const {
+    const Bytes all = bytes(name);
+    return {reinterpret_cast<const char*>(all.data()), all.size()};
+  }
+
+  std::unique_ptr<File> open(const std::string& name) override {
+    return std::make_unique<Open>(folder[name]);
+  }
+  bool exists(const std::string& name) override { return folder.contains(name); }
+  std::uint64_t length(const std::string& name) override {
+    return found(name, Fault::read)->second.size();
+  }
+  void copy(const std::string& from, const std::string& to) override {
+    folder[to] = Bytes(found(from, Fault::copy)->second);
+  }
+  void remove(const std::string& name) override { folder.erase(found(name, Fault::remove)); }
+  void rename(const std::string& from, const std::string& to) override {
+    Bytes moved = std::move(found(from, Fault::rename)->second);
+    folder.erase(from);
+    folder[to] = std::move(moved);
+  }
+
+ private:
+  std::map<std::string, Bytes>::iterator found(const std::string& name, Fault fault) {
+    const auto file = folder.find(name);
+    if (file == folder.end()) throw RunTimeError(fault, name, "no such file");
+    return file;
+  }
+
+  class Open final : public File {
+   public:
+    explicit Open(Bytes& content) : content_(content) {}
+    std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
+      if (offset >= content_.size()) return 0;
+      const std::size_t count = std::min(into.size(), content_.size() - offset);
+      std::copy_n(content_.begin() + static_cast<std::ptrdiff_t>(offset), count, into.begin());
+      return count;
+    }
+    void write(std::uint64_t offset, std::span<const std::byte> data) override {
+      if (content_.size() < offset + data.size()) content_.resize(offset + data.size());
+      std::ranges::copy(data, content_.begin() + static_cast<std::ptrdiff_t>(offset));
+    }
+    std::uint64_t length() override { return content_.size(); }
+    void sync() override {}
+    void close() override {}
+
+   private:
+    Bytes& content_;
+  };
+};
+
+/// Bytes from hexadecimal digits ("07 00"); blanks are skipped.
+inline Bytes hex(std::string_view digits) {
+  Bytes bytes;
+  std::string pair;
+  for (const char c : digits) {
+    if (c == ' ') continue;
+    pair += c;
+    if (pair.size() == 2) {
+      bytes.push_back(static_cast<std::byte>(std::stoi(pair, nullptr, 16)));
+      pair.clear();
+    }
+  }
+  return bytes;
+}
+
+/// 16-bit little-endian words as bytes.
+inline Bytes words(const std::vector<int>& numbers) {
+  Bytes bytes;
+  for (const int number : numbers) {
+    bytes.push_back(static_cast<std::byte>(static_cast<unsigned>(number) & 0xFFU));
+    bytes.push_back(static_cast<std::byte>((static_cast<unsigned>(number) >> 8U) & 0xFFU));
+  }
+  return bytes;
+}
+
+}  // namespace karvenis

@@ -1,0 +1,181 @@
+#include "core/Draw.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "doubles/Doubles.h"
+
+namespace karvenis {
+namespace {
+
+void setBag(SharedState& state, const std::vector<std::int16_t>& balls) {
+  state.Bag[0] = static_cast<std::int16_t>(balls.size());
+  std::ranges::copy(balls, state.Bag.begin() + 1);
+}
+
+void setBankos(SharedState& state, const std::vector<std::int16_t>& balls) {
+  state.Banko[0] = static_cast<std::int16_t>(balls.size());
+  std::ranges::copy(balls, state.Banko.begin() + 1);
+}
+
+std::set<std::int16_t> distinct(const Column& column) { return {column.begin() + 1, column.end()}; }
+
+TEST(PickBall, FillsAnEmptyBagForGoodWithAllBalls) {
+  World world;
+  PickBall(world.state, world.chance, 1);
+  EXPECT_EQ(world.state.Bag[0], 49);
+  for (std::int16_t ball = 1; ball <= 49; ++ball) {
+    EXPECT_EQ(world.state.Bag[static_cast<std::size_t>(ball)], ball);
+  }
+}
+
+TEST(PickBall, FillsAnEmptyBagWithAllButTheBankos) {
+  World world;
+  setBankos(world.state, {20, 7});
+  EXPECT_EQ(PickBall(world.state, world.chance, 1), 20);
+  EXPECT_EQ(PickBall(world.state, world.chance, 2), 7);
+  EXPECT_EQ(world.state.Bag[0], 0) << "a position that a banko answers leaves the bag empty";
+  PickBall(world.state, world.chance, 3);
+  EXPECT_EQ(world.state.Bag[0], 47);
+  EXPECT_EQ(world.state.Bag[1], 1);
+  EXPECT_EQ(world.state.Bag[7], 8);
+  EXPECT_EQ(world.state.Bag[47], 49);
+}
+
+TEST(PickBall, PicksUniformlyByIndexAndMayRepeat) {
+  World world;
+  setBag(world.state, {3, 9, 40});
+  world.chance.script = {0.0F, 0.34F, 0.999999F, 0.0F};
+  EXPECT_EQ(PickBall(world.state, world.chance, 1), 3);
+  EXPECT_EQ(PickBall(world.state, world.chance, 2), 9);
+  EXPECT_EQ(PickBall(world.state, world.chance, 3), 40);
+  EXPECT_EQ(PickBall(world.state, world.chance, 4), 3);
+}
+
+TEST(Chance, IndexNeverExceedsTheCount) {
+  ScriptedChance chance;
+  constexpr float largest = 1.0F - 1.0F / (1U << 24U);
+  for (const std::int32_t count : {1, 2, 4, 8, 16, 32, 49, 32767, 3'000'000}) {
+    chance.script = {largest, 0.0F};
+    EXPECT_EQ(chance.index(count), count);
+    EXPECT_EQ(chance.index(count), 1);
+  }
+  EXPECT_EQ(chance.index(0), 1);
+}
+
+TEST(DrawColumn, GivesSixDistinctBallsAndSeedsFromTheClock) {
+  World world;
+  for (int i = 0; i < 2000; ++i) {
+    DrawColumn(world.state, world.chance, world.clock, false);
+    EXPECT_EQ(distinct(world.state.Drawn).size(), 6U);
+    EXPECT_GE(*distinct(world.state.Drawn).begin(), 1);
+    EXPECT_LE(*distinct(world.state.Drawn).rbegin(), 49);
+  }
+  EXPECT_EQ(world.chance.seeds.size(), 2000U);
+  EXPECT_EQ(world.chance.seeds.front(), 1'000'000);
+}
+
+TEST(DrawColumn, BankosComeFirstInTheirStoredOrder) {
+  World world;
+  setBankos(world.state, {20, 7});
+  for (int i = 0; i < 500; ++i) {
+    DrawColumn(world.state, world.chance, world.clock, false);
+    EXPECT_EQ(world.state.Drawn[1], 20);
+    EXPECT_EQ(world.state.Drawn[2], 7);
+    EXPECT_EQ(distinct(world.state.Drawn).size(), 6U);
+  }
+}
+
+TEST(DrawColumn, AfterTheBankosAreGoneTheFilledBagStillLacksThem) {
+  World world;
+  setBankos(world.state, {20, 7});
+  DrawColumn(world.state, world.chance, world.clock, false);
+  world.state.Banko[0] = 0;
+  for (int i = 0; i < 300; ++i) {
+    DrawColumn(world.state, world.chance, world.clock, false);
+    EXPECT_FALSE(distinct(world.state.Drawn).contains(7));
+    EXPECT_FALSE(distinct(world.state.Drawn).contains(20));
+  }
+}
+
+TEST(DrawColumn, FiveBankosLeaveOnlyTheSixthToChance) {
+  World world;
+  setBankos(world.state, {5, 4, 3, 2, 1});
+  setBag(world.state, {49});
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.state.Drawn, column(5, 4, 3, 2, 1, 49));
+}
+
+TEST(DrawColumn, ABagBallThatIsABankoIsDrawnAgain) {
+  World world;
+  setBankos(world.state, {7});
+  setBag(world.state, {7, 1, 2, 3, 4, 5});
+  world.chance.script = {0.0F, 0.17F, 0.34F, 0.51F, 0.67F, 0.84F};  // 7 1 2 3 4, then 5 for the 7
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.state.Drawn, column(7, 5, 1, 2, 3, 4));
+}
+
+TEST(DrawColumn, OnlyTheLaterBallOfAPairIsDrawnAgain) {
+  World world;
+  setBag(world.state, {1, 2, 3, 4, 5, 6});
+  // 1 2 3 3 5 5: position 4 repeats 3 and becomes 4; position 6 repeats 5, becomes 1, then 6.
+  world.chance.script = {0.0F, 0.17F, 0.34F, 0.34F, 0.67F, 0.67F, 0.51F, 0.0F, 0.84F};
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 4, 5, 6));
+  EXPECT_TRUE(world.chance.script.empty());
+}
+
+TEST(DrawColumn, SortsOnlyWhenAsked) {
+  World world;
+  setBag(world.state, {6, 5, 4, 3, 2, 1});
+  const std::deque<float> inOrder = {0.0F, 0.17F, 0.34F, 0.51F, 0.67F, 0.84F};
+  world.chance.script = inOrder;
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.state.Drawn, column(6, 5, 4, 3, 2, 1));
+  world.chance.script = inOrder;
+  DrawColumn(world.state, world.chance, world.clock, true);
+  EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 4, 5, 6));
+}
+
+TEST(SortColumn, SortsTheSixPositionsAndLeavesElementZero) {
+  Column any = {77, 49, 1, 30, 30, -5, 2};
+  SortColumn(any);
+  EXPECT_EQ(any, (Column{77, -5, 1, 2, 30, 30, 49}));
+}
+
+struct Offer {
+  const char* name;
+  std::vector<std::int16_t> bag;
+  std::vector<std::int16_t> bankos;
+  bool ends;
+};
+
+class CanDraw : public testing::TestWithParam<Offer> {};
+
+TEST_P(CanDraw, TellsWhetherSixDistinctBallsAreThere) {
+  World world;
+  setBag(world.state, GetParam().bag);
+  setBankos(world.state, GetParam().bankos);
+  const SharedState before = {world.state.Bag, world.state.Banko, {}, {}, {}};
+  EXPECT_EQ(canDraw(world.state), GetParam().ends);
+  EXPECT_EQ(world.state.Bag, before.Bag) << "the question must not fill the bag";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Offers, CanDraw,
+    testing::Values(Offer{"EmptyBag", {}, {}, true},
+                    Offer{"EmptyBagFiveBankos", {}, {1, 2, 3, 4, 5}, true},
+                    Offer{"OneBallFiveBankos", {6}, {1, 2, 3, 4, 5}, true},
+                    Offer{"SixBalls", {1, 2, 3, 4, 5, 6}, {}, true},
+                    Offer{"FiveBalls", {1, 2, 3, 4, 5}, {}, false},
+                    Offer{"SixBallsOneRepeated", {1, 2, 3, 4, 5, 5}, {}, false},
+                    Offer{"BankosAmongTheBalls", {7, 20, 1, 2}, {7, 20}, false},
+                    Offer{"BankosAmongEnoughBalls", {7, 20, 1, 2, 3, 4}, {7, 20}, true},
+                    Offer{"RepeatedBankos", {1, 2, 3, 4, 5, 6, 8}, {7, 7}, false},
+                    Offer{"RepeatedBankosEmptyBag", {}, {7, 7}, false},
+                    Offer{"BankosOutsideTheBalls", {}, {77, -3}, true}),
+    [](const auto& offer) { return offer.param.name; });
+
+}  // namespace
+}  // namespace karvenis
