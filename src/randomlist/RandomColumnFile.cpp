@@ -1,0 +1,87 @@
+#include "randomlist/RandomColumnFile.h"
+
+#include <algorithm>
+
+#include "core/Draw.h"
+#include "core/IgnoringFaults.h"
+#include "core/Numbers.h"
+
+namespace karvenis {
+namespace {
+
+bool isComplete(const Column& column) {
+  return std::all_of(column.begin() + 1, column.end(), [](std::int16_t ball) { return ball >= 1; });
+}
+
+/// Writes the drawn column as record `number` of the random column file.
+void writeDrawn(SharedState& state, Files& files, std::int32_t number) {
+  ColumnFile& file = state.FileNo.emplace(files, randomColumns, state.Record);
+  state.Record = {.Word = 0, .Balls = state.Drawn};
+  file.put(number);
+  file.close();
+  state.FileNo.reset();
+}
+
+}  // namespace
+
+void SaveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
+  std::int32_t count = 0;
+  if (around.files.exists(randomColumns)) count = columnCount(around.files, randomColumns);
+  if (count >= recordLimit) {
+    around.boxes.beep();
+    return;
+  }
+  if (!isComplete(around.state.Drawn)) return;
+
+  title.setCaption(" Kolon kayıtlanıyor...");
+  around.boxes.pointer(Pointer::hourglass);
+  if (!sorted) SortColumn(around.state.Drawn);
+  writeDrawn(around.state, around.files, count + 1);
+  around.boxes.beep();
+  around.boxes.pointer(Pointer::normal);
+  title.setCaption(" KARVENIS.RND Kayıt No=" + withBlank(count + 1));
+}
+
+void ShowRndList(Surroundings& around, TitleBar& title) {
+  if (!holdsColumns(around.files, randomColumns)) {
+    around.boxes.warn("Listelenecek (kayıtlı) Rastgele Kolon yok !");
+    return;
+  }
+  around.windows.show("frmRndLst");
+  title.setCaption(standardTitle);
+}
+
+void ChangeRndFile(Surroundings& around, TitleBar& title) {
+  Files& files = around.files;
+  if (!files.exists(randomColumns)) return;
+  std::int32_t count = 0;
+  ignoringFaults([&] { count = columnCount(files, randomColumns); });
+  if (count > 0) {
+    around.boxes.beep();
+    if (!around.boxes.ask(
+            "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?")) {
+      return;
+    }
+    ignoringFaults([&] { backUpList(files); });
+    ignoringFaults([&] { files.copy(randomColumns, combinationList); });
+  }
+  ignoringFaults([&] { files.remove(randomColumns); });
+  title.setCaption(standardTitle);
+  around.boxes.beep();
+  ignoringFaults([&] {
+    around.boxes.message(withBlank(columnCount(files, combinationList)) +
+                         " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+  });
+}
+
+void DeleteRndFile(Surroundings& around, TitleBar& title) {
+  around.boxes.beep();
+  if (!around.files.exists(randomColumns)) return;
+  if (!around.boxes.ask("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?")) return;
+  ignoringFaults([&] { around.files.remove(randomColumns); });
+  around.boxes.beep();
+  around.boxes.message("KARVENIS.RND dosyası silindi.", defaultTitle);
+  title.setCaption(standardTitle);
+}
+
+}  // namespace karvenis
