@@ -2,24 +2,13 @@
 
 #include <algorithm>
 #include <bitset>
-#include <span>
 #include <utility>
 
 namespace karvenis {
 namespace {
 
-std::span<const std::int16_t> bankos(const SharedState& state) {
-  const auto count = std::clamp<std::int16_t>(state.Banko[0], 0, mostBankos);
-  return std::span(state.Banko).subspan(1, static_cast<std::size_t>(count));
-}
-
-std::span<const std::int16_t> balls(const SharedState& state) {
-  const auto count = std::clamp<std::int16_t>(state.Bag[0], 0, ballsInAll);
-  return std::span(state.Bag).subspan(1, static_cast<std::size_t>(count));
-}
-
 void fillBag(SharedState& state) {
-  const auto kept = bankos(state);
+  const auto kept = state.bankos();
   std::int16_t count = 0;
   for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
     if (std::ranges::find(kept, ball) != kept.end()) continue;
@@ -32,11 +21,11 @@ void fillBag(SharedState& state) {
 }  // namespace
 
 std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position) {
-  const auto banko = bankos(state);
+  const auto banko = state.bankos();
   const auto place = static_cast<std::size_t>(position);
   if (place <= banko.size()) return banko[place - 1];
   if (state.Bag[0] <= 0) fillBag(state);
-  const auto bag = balls(state);
+  const auto bag = state.balls();
   return bag[static_cast<std::size_t>(chance.index(static_cast<std::int32_t>(bag.size())) - 1)];
 }
 
@@ -51,7 +40,7 @@ void SortColumn(Column& column) {
 bool canDraw(const SharedState& state) {
   std::bitset<65536> taken;
   const auto bit = [](std::int16_t ball) { return static_cast<std::uint16_t>(ball); };
-  for (const std::int16_t banko : bankos(state)) {
+  for (const std::int16_t banko : state.bankos()) {
     if (taken.test(bit(banko))) return false;
     taken.set(bit(banko));
   }
@@ -60,10 +49,10 @@ bool canDraw(const SharedState& state) {
     if (!taken.test(bit(ball))) ++distinct;
     taken.set(bit(ball));
   };
-  if (balls(state).empty()) {
+  if (state.balls().empty()) {
     for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) offer(ball);
   } else {
-    std::ranges::for_each(balls(state), offer);
+    std::ranges::for_each(state.balls(), offer);
   }
   return distinct >= ballsInColumn;
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 #include "core/Column.h"
 #include "core/ColumnFile.h"
@@ -23,6 +25,16 @@ struct SharedState {
   ColumnRecord Record;
   /// The file number that every window opens its column file on; empty while none is open.
   std::optional<ColumnFile> FileNo;
+
+  /// The balls in the bag, and the bankos: elements 1..count, never past the array's end.
+  std::span<const std::int16_t> balls() const { return chosen(Bag); }
+  std::span<const std::int16_t> bankos() const { return chosen(Banko); }
+
+ private:
+  static std::span<const std::int16_t> chosen(std::span<const std::int16_t> set) {
+    const auto most = static_cast<std::int16_t>(set.size() - 1);
+    return set.subspan(1, static_cast<std::size_t>(std::clamp<std::int16_t>(set[0], 0, most)));
+  }
 };
 
 }  // namespace karvenis

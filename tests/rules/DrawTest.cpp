@@ -5,19 +5,10 @@
 #include <set>
 
 #include "doubles/Doubles.h"
+#include "doubles/Sets.h"
 
 namespace karvenis {
 namespace {
-
-void setBag(SharedState& state, const std::vector<std::int16_t>& balls) {
-  state.Bag[0] = static_cast<std::int16_t>(balls.size());
-  std::ranges::copy(balls, state.Bag.begin() + 1);
-}
-
-void setBankos(SharedState& state, const std::vector<std::int16_t>& balls) {
-  state.Banko[0] = static_cast<std::int16_t>(balls.size());
-  std::ranges::copy(balls, state.Banko.begin() + 1);
-}
 
 std::set<std::int16_t> distinct(const Column& column) { return {column.begin() + 1, column.end()}; }
 
@@ -32,7 +23,7 @@ TEST(PickBall, FillsAnEmptyBagForGoodWithAllBalls) {
 
 TEST(PickBall, FillsAnEmptyBagWithAllButTheBankos) {
   World world;
-  setBankos(world.state, {20, 7});
+  setBanko(world.state, {20, 7});
   EXPECT_EQ(PickBall(world.state, world.chance, 1), 20);
   EXPECT_EQ(PickBall(world.state, world.chance, 2), 7);
   EXPECT_EQ(world.state.Bag[0], 0) << "a position that a banko answers leaves the bag empty";
@@ -78,7 +69,7 @@ TEST(DrawColumn, GivesSixDistinctBallsAndSeedsFromTheClock) {
 
 TEST(DrawColumn, BankosComeFirstInTheirStoredOrder) {
   World world;
-  setBankos(world.state, {20, 7});
+  setBanko(world.state, {20, 7});
   for (int i = 0; i < 500; ++i) {
     DrawColumn(world.state, world.chance, world.clock, false);
     EXPECT_EQ(world.state.Drawn[1], 20);
@@ -89,7 +80,7 @@ TEST(DrawColumn, BankosComeFirstInTheirStoredOrder) {
 
 TEST(DrawColumn, AfterTheBankosAreGoneTheFilledBagStillLacksThem) {
   World world;
-  setBankos(world.state, {20, 7});
+  setBanko(world.state, {20, 7});
   DrawColumn(world.state, world.chance, world.clock, false);
   world.state.Banko[0] = 0;
   for (int i = 0; i < 300; ++i) {
@@ -101,7 +92,7 @@ TEST(DrawColumn, AfterTheBankosAreGoneTheFilledBagStillLacksThem) {
 
 TEST(DrawColumn, FiveBankosLeaveOnlyTheSixthToChance) {
   World world;
-  setBankos(world.state, {5, 4, 3, 2, 1});
+  setBanko(world.state, {5, 4, 3, 2, 1});
   setBag(world.state, {49});
   DrawColumn(world.state, world.chance, world.clock, false);
   EXPECT_EQ(world.state.Drawn, column(5, 4, 3, 2, 1, 49));
@@ -109,7 +100,7 @@ TEST(DrawColumn, FiveBankosLeaveOnlyTheSixthToChance) {
 
 TEST(DrawColumn, ABagBallThatIsABankoIsDrawnAgain) {
   World world;
-  setBankos(world.state, {7});
+  setBanko(world.state, {7});
   setBag(world.state, {7, 1, 2, 3, 4, 5});
   world.chance.script = {0.0F, 0.17F, 0.34F, 0.51F, 0.67F, 0.84F};  // 7 1 2 3 4, then 5 for the 7
   DrawColumn(world.state, world.chance, world.clock, false);
@@ -156,7 +147,7 @@ class CanDraw : public testing::TestWithParam<Offer> {};
 TEST_P(CanDraw, TellsWhetherSixDistinctBallsAreThere) {
   World world;
   setBag(world.state, GetParam().bag);
-  setBankos(world.state, GetParam().bankos);
+  setBanko(world.state, GetParam().bankos);
   const SharedState before = {world.state.Bag, world.state.Banko, {}, {}, {}};
   EXPECT_EQ(canDraw(world.state), GetParam().ends);
   EXPECT_EQ(world.state.Bag, before.Bag) << "the question must not fill the bag";
