@@ -1,0 +1,113 @@
+#include "core/ListPage.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "core/Checked.h"
+#include "core/Numbers.h"
+#include "platform/Keys.h"
+
+namespace karvenis {
+namespace {
+
+constexpr double topMargin = 200;  // all measures in twips
+constexpr double leftMargin = 200;
+constexpr double ballPitch = 400;
+constexpr double sumOffset = 2500;  // from the first ball
+
+/// Where a full last page starts; 0 where the list has less than a page.
+std::int32_t lastPageStart(std::int32_t count) { return std::max(count - rowsOnPage, 0); }
+
+/// Prints the label of record `number`; returns where the first ball stands. Short labels share one
+/// ball column, longer ones push it to the right.
+double printLabel(TextSurface& surface, std::int64_t number) {
+  surface.currentX(leftMargin);
+  surface.foreColor(QBColor::lightRed);
+  surface.print("Kolon -" + withBlank(number) + " : ");
+  const double x = surface.currentX();
+  if (x < 1600) return 1600;
+  if (x < 1700) return 1700;
+  return x + 75;
+}
+
+std::string bracketed(std::int16_t sum) {
+  return sum <= 99 ? "[ 0" + std::to_string(sum) + " ]" : "[" + withBlank(sum) + " ]";
+}
+
+void drawRow(TextSurface& surface, std::int64_t number, const Column& balls) {
+  const std::int16_t sum = columnSum(balls);
+  const double firstBall = printLabel(surface, number);
+  surface.foreColor(QBColor::lightBlue);
+  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
+    surface.currentX(firstBall + ballPitch * static_cast<double>(k - 1));
+    surface.print(withBlank(balls[k]) + "  ");
+  }
+  surface.currentX(firstBall + sumOffset);
+  surface.printLine(bracketed(sum));
+}
+
+}  // namespace
+
+void ListPage::key(int KeyCode) {
+  switch (KeyCode) {
+    case keyDown:
+      if (PageStart < RecordCount) ++PageStart;
+      break;
+    case keyUp:
+      if (PageStart > 0) --PageStart;
+      break;
+    case keyPageUp:
+      PageStart = PageStart >= rowsOnPage ? PageStart - rowsOnPage : 0;
+      break;
+    case keyPageDown:
+    case keySpace:
+    case keyEnter:
+      if (std::int64_t{RecordCount} - PageStart >= rowsOnPage) PageStart += rowsOnPage;
+      break;
+    case keyEnd:
+      if (RecordCount >= rowsOnPage) PageStart = lastPageStart(RecordCount);
+      break;
+    case keyHome:
+      PageStart = 0;
+      break;
+    default:
+      break;
+  }
+}
+
+void ListPage::click() { PageStart = checked<std::int32_t>(std::int64_t{PageStart} + rowsOnPage); }
+
+void ListPage::fit(std::int32_t count) {
+  RecordCount = count;
+  if (PageStart >= RecordCount) PageStart = lastPageStart(RecordCount);
+  PageStart = std::max(PageStart, 0);
+  PageRows = std::min(RecordCount - PageStart, rowsOnPage);
+  const std::int64_t lastShown = std::int64_t{PageStart} + PageRows;
+  PageNo = static_cast<std::int32_t>((lastShown + rowsOnPage - 1) / rowsOnPage);
+}
+
+std::string pageTitle(const std::string& list, std::int32_t PageNo) {
+  return " " + list + " - Sayfa" + withBlank(PageNo) + "  [ F10= Yardım ]";
+}
+
+void drawPage(const ListPage& page, SharedState& state, TextSurface& surface) {
+  surface.cls();
+  surface.currentY(topMargin);
+  for (std::int32_t RowNo = 1; RowNo <= page.PageRows; ++RowNo) {
+    const std::int64_t number = std::int64_t{page.PageStart} + RowNo;
+    state.FileNo->get(number);
+    drawRow(surface, number, state.Record.Balls);
+  }
+}
+
+double widestRow(TextSurface& surface) {
+  surface.cls();
+  const double firstBall = printLabel(surface, std::numeric_limits<std::int32_t>::max());
+  surface.currentX(firstBall + sumOffset);
+  surface.print(bracketed(std::numeric_limits<std::int16_t>::min()));
+  const double edge = surface.currentX();
+  surface.cls();
+  return edge;
+}
+
+}  // namespace karvenis

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/SharedState.h"
+#include "platform/TextSurface.h"
+
+namespace karvenis {
+
+/// Columns on a full page of a list window.
+inline constexpr std::int32_t rowsOnPage = 25;
+
+/// Which part of a column list a list window shows. A page may start at any record; the last page
+/// is always a full one where the list has that many columns.
+struct ListPage {
+  std::int32_t PageStart = 0;    ///< records before the first one shown
+  std::int32_t RecordCount = 0;  ///< records of the list at the last redraw
+  std::int32_t PageRows = 0;     ///< columns shown, 0..25
+  std::int32_t PageNo = 0;       ///< the page of 25 on which the last column shown lies; 0: none
+
+  /// Moves PageStart as the paging keys do: Down, Up, PageUp, PageDown, Space, Enter, End, Home.
+  /// Any other key changes nothing.
+  void key(int KeyCode);
+  /// One page on, as a click does. fit() brings it back from beyond the end.
+  void click();
+  /// Takes the length that the list has now: corrects PageStart and sets the three others.
+  void fit(std::int32_t count);
+};
+
+/// The title of a list window that shows page `PageNo` of `list`.
+std::string pageTitle(const std::string& list, std::int32_t PageNo);
+
+/// Clears the surface and prints the page's rows on it: a record's number in light red, then its
+/// balls and their sum in light blue. Reads the records from the open `state.FileNo`. Throws
+/// RunTimeError(overflow) where the sum of a damaged record outgrows 16 bits.
+void drawPage(const ListPage& page, SharedState& state, TextSurface& surface);
+
+/// The right edge, in twips, of the widest row that any record can give on `surface`; clears it.
+double widestRow(TextSurface& surface);
+
+}  // namespace karvenis
