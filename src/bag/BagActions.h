@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/Surroundings.h"
+
+namespace karvenis {
+
+/// The 49 ball buttons as the bag's actions see them.
+class BallButtons {
+ public:
+  virtual ~BallButtons() = default;
+  /// `ball` is 1..49.
+  virtual bool isMarked(int ball) const = 0;
+  virtual void setMarked(int ball, bool marked) = 0;
+
+  void markAll(bool marked);
+};
+
+/// Marks exactly the balls of the bag.
+void showBag(const SharedState& state, BallButtons& buttons);
+
+/// "Uygula": the marked balls, without the bankos, become the bag, and the buttons show it. Any
+/// number of balls will do. Beeps.
+void applyBag(Surroundings& around, BallButtons& buttons);
+
+/// "Yükle": asks, takes the bag from the file and shows it. Unlike the main window's load it
+/// accepts a file of exactly 2 x count bytes, says where a file is broken, and empties the bag
+/// where the count is 0 or less.
+void loadBag(Surroundings& around, BallButtons& buttons);
+
+/// "Kayıtla": asks, then the marked balls become the bag, bankos and all, and go to the file. What
+/// the file holds of the bankos stays. Throws RunTimeError(open, write).
+void saveBag(Surroundings& around, const BallButtons& buttons);
+
+}  // namespace karvenis

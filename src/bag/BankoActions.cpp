@@ -1,0 +1,103 @@
+#include "bag/BankoActions.h"
+
+#include "bag/BagFile.h"
+
+namespace karvenis {
+namespace {
+
+/// The ball whose number `text` begins with; 0 where it begins with none.
+std::int16_t ballAtStart(std::string_view text) {
+  std::int16_t number = 0;
+  for (const char c : text) {
+    if (c < '0' || c > '9') break;
+    number = static_cast<std::int16_t>(number * 10 + (c - '0'));
+    if (number > ballsInAll) return 0;
+  }
+  return number;
+}
+
+void clearBoxes(BankoBoxes& boxes) {
+  for (int index = 0; index < mostBankos; ++index) boxes.setText(index, "");
+}
+
+/// The numbers of the boxes in use become the bankos, each once.
+void takeTyped(SharedState& state, const BankoBoxes& boxes) {
+  state.Banko[0] = 0;
+  for (int index = 0; index < boxes.count(); ++index) {
+    const std::int16_t ball = ballAtStart(boxes.text(index));
+    const auto kept = state.bankos();
+    if (ball == 0 || std::ranges::find(kept, ball) != kept.end()) continue;
+    state.Banko[static_cast<std::size_t>(++state.Banko[0])] = ball;
+  }
+}
+
+}  // namespace
+
+const char* bankoCaption(int count) {
+  if (count == 0) return "";
+  return count == 1 ? "Banko Top:" : "Banko Toplar:";
+}
+
+std::string bankoText(std::string_view typed) {
+  const std::int16_t ball = ballAtStart(typed);
+  return ball == 0 ? "" : std::to_string(ball);
+}
+
+void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes) {
+  const auto bankos = state.bankos();
+  boxes.chooseCount(static_cast<int>(bankos.size()));
+  for (int index = 0; const std::int16_t banko : bankos) {
+    boxes.setText(index++, std::to_string(banko));
+  }
+}
+
+void applyBanko(Surroundings& around, BankoBoxes& boxes) {
+  around.boxes.beep();
+  takeTyped(around.state, boxes);
+  clearBoxes(boxes);
+  removeBankos(around.state);
+  ShowBankoSelection(around.state, boxes);
+}
+
+void clearBanko(SharedState& state) { state.Banko[0] = 0; }
+
+void loadBanko(Surroundings& around, BankoBoxes& boxes) {
+  around.boxes.beep();
+  constexpr std::uint64_t reachesBanko = BagFile::recordLength * bankoCountRecord;
+  if (!around.files.exists(bagFileName) || around.files.length(bagFileName) < reachesBanko) return;
+  if (!around.boxes.ask("Banko topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
+
+  BagFile file(around.files);
+  const std::int16_t count = file.get(bankoCountRecord);
+  if (file.holdsBanko(count)) {
+    file.readBanko(around.state, count);
+    clearBoxes(boxes);
+    ShowBankoSelection(around.state, boxes);
+  } else {
+    around.boxes.warn(bagFileBroken, errorTitle);
+  }
+  file.close();
+  removeBankos(around.state);
+}
+
+void saveBanko(Surroundings& around, BankoBoxes& boxes) {
+  around.boxes.beep();
+  if (!around.boxes.ask(
+          "Banko topları (topu) KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?")) {
+    return;
+  }
+  applyBanko(around, boxes);
+
+  BagFile file(around.files);
+  if (file.length() < 2) {
+    for (int record = bagCountRecord; record < bankoCountRecord; ++record) file.put(record, 0);
+  }
+  for (std::int16_t i = 0; i <= around.state.Banko[0]; ++i) {
+    file.put(bankoCountRecord + i, around.state.Banko[static_cast<std::size_t>(i)]);
+  }
+  file.close();
+  around.boxes.beep();
+  around.boxes.message(bagFileSaved);
+}
+
+}  // namespace karvenis

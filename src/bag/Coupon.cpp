@@ -1,0 +1,76 @@
+#include "bag/Coupon.h"
+
+#include "core/Draw.h"
+#include "core/Numbers.h"
+
+namespace karvenis {
+
+void Coupon::start() {
+  rewind();
+  surface_.currentY(topMargin);
+  window_.enableTimer1(true);
+}
+
+void Coupon::newPage() {
+  surface_.cls();
+  surface_.currentY(topMargin);
+  window_.enableTimer1(true);
+}
+
+void Coupon::tick() {
+  if (ball_ != ballsInColumn) {
+    typeBall();
+  } else if (column_ == columns) {
+    finish();
+  } else if (canDraw(around_.state)) {
+    startColumn();
+  } else {
+    refuse();
+  }
+}
+
+void Coupon::typeBall() {
+  ++ball_;
+  around_.boxes.beep();
+  surface_.print(padded(around_.state.Drawn[static_cast<std::size_t>(ball_)], 2) + "  ");
+}
+
+void Coupon::startColumn() {
+  ++column_;
+  ball_ = 0;
+  surface_.foreColor(QBColor::red);
+  surface_.printLine("");
+  surface_.print(" Kolon " + withBlank(column_) + " - ");
+  drawDistinct(around_.state, around_.chance);
+  SortColumn(around_.state.Drawn);
+  surface_.foreColor(QBColor::blue);
+}
+
+void Coupon::finish() {
+  rewind();
+  window_.enableTimer1(false);
+  window_.hideLabel1();
+}
+
+/// The ticks stop first: they would go on behind the open box.
+void Coupon::refuse() {
+  window_.enableTimer1(false);
+  rewind();
+  around_.boxes.warn(tooFewBalls, tooFewBallsTitle);
+}
+
+void Coupon::rewind() {
+  column_ = 0;
+  ball_ = ballsInColumn;
+}
+
+void Coupon::showKeys() {
+  around_.boxes.beep();
+  around_.boxes.message(
+      "FONKSİYON TUŞLARI : \r\r"
+      "F10= Yardım\r"
+      "ESC= Kapat\r\r\r"
+      "Diğer Tuşlar= Yeni Bir Sayfa/Kupon Göster");
+}
+
+}  // namespace karvenis

@@ -1,0 +1,400 @@
+#include "bag/BagActions.h"
+
+#include <gtest/gtest.h>
+
+#include <bitset>
+
+#include "bag/BagHelp.h"
+#include "doubles/Doubles.h"
+#include "doubles/RefusingFiles.h"
+#include "doubles/Sets.h"
+
+namespace karvenis {
+namespace {
+
+constexpr char loadQuestion[] = "Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?";
+constexpr char saveQuestion[] = "Topları KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?";
+constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
+constexpr char saved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
+
+/// Buttons without a window; a ball outside 1..49 fails the test.
+class PlainButtons final : public BallButtons {
+ public:
+  bool isMarked(int ball) const override { return marks_.test(place(ball)); }
+  void setMarked(int ball, bool marked) override { marks_.set(place(ball), marked); }
+
+  void mark(const Set& balls) {
+    for (const std::int16_t ball : balls) setMarked(ball, true);
+  }
+  Set marked() const {
+    Set all;
+    for (std::int16_t ball = 1; ball <= 49; ++ball) {
+      if (isMarked(ball)) all.push_back(ball);
+    }
+    return all;
+  }
+
+ private:
+  static std::size_t place(int ball) {
+    EXPECT_TRUE(ball >= 1 && ball <= 49) << ball;
+    return static_cast<std::size_t>(ball);
+  }
+  std::bitset<50> marks_;
+};
+
+std::vector<int> bagPart(std::vector<int> first) {
+  first.resize(50);
+  return first;
+}
+
+TEST(ShowBag, MarksTheBagAndNothingElse) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({1, 2, 3});
+  setBag(world.state, {49, 3, 20});
+  showBag(world.state, buttons);
+  EXPECT_EQ(buttons.marked(), (Set{3, 20, 49}));
+}
+
+TEST(ShowBag, AnEmptyBagMarksNothing) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({1, 49});
+  showBag(world.state, buttons);
+  EXPECT_EQ(buttons.marked(), Set{});
+}
+
+TEST(ShowBag, ANumberThatIsNoBallIsNotMarked) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {0, 5, 50, -1, 32767});
+  showBag(world.state, buttons);
+  EXPECT_EQ(buttons.marked(), Set{5});
+}
+
+struct Apply {
+  const char* name;
+  Set marked;
+  Set banko;
+  Set bag;
+};
+
+class ApplyBag : public testing::TestWithParam<Apply> {};
+
+TEST_P(ApplyBag, TakesTheMarkedBallsWithoutTheBankos) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  setBanko(world.state, GetParam().banko);
+  buttons.mark(GetParam().marked);
+  world.boxes.expectBeep();
+  applyBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), GetParam().bag);
+  EXPECT_EQ(buttons.marked(), GetParam().bag) << "only what remains is marked again";
+  EXPECT_EQ(bankoOf(world.state), GetParam().banko);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Marks, ApplyBag,
+    testing::Values(Apply{"Ascending", {30, 7, 12, 1, 49, 2}, {}, {1, 2, 7, 12, 30, 49}},
+                    Apply{"NothingMarked", {}, {}, {}},
+                    Apply{"NothingMarkedWithBankos", {}, {7}, {}},
+                    Apply{"FiveAreEnough", {1, 2, 3, 4, 5}, {}, {1, 2, 3, 4, 5}},
+                    Apply{"All", allBalls(), {}, allBalls()},
+                    Apply{"ABankoDropsOut", {5, 9}, {9}, {5}},
+                    Apply{"AllAreBankos", {5, 9}, {9, 5}, {}}),
+    [](const auto& row) { return row.param.name; });
+
+/// At each beep: what is marked.
+class BeepWatch final : public Boxes {
+ public:
+  explicit BeepWatch(const PlainButtons& buttons) : buttons_(buttons) {}
+  std::vector<Set> marked;
+  void message(const std::string&, const std::string&, Icon) override { ADD_FAILURE(); }
+  bool ask(const std::string&, const std::string&) override { return true; }
+  std::string input(const std::string&, const std::string&, const std::string&) override {
+    return {};
+  }
+  void beep() override { marked.push_back(buttons_.marked()); }
+  void pointer(Pointer) override {}
+
+ private:
+  const PlainButtons& buttons_;
+};
+
+TEST(ApplyBag, BeepsWhenNothingIsMarked) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({5, 9});
+  BeepWatch boxes(buttons);
+  Surroundings around{world.state, boxes,         world.clock,  world.chance,
+                      world.files, world.printer, world.windows};
+  applyBag(around, buttons);
+  EXPECT_EQ(boxes.marked, std::vector<Set>{Set{}});
+}
+
+TEST(LoadBagInWindow, ButtonsAreUnmarkedBeforeTheSecondBeep) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({5, 9});
+  world.files.folder["KARVENIS.DAT"] = words({1, 7});
+  BeepWatch boxes(buttons);
+  Surroundings around{world.state, boxes,         world.clock,  world.chance,
+                      world.files, world.printer, world.windows};
+  loadBag(around, buttons);
+  EXPECT_EQ(boxes.marked, (std::vector<Set>{{5, 9}, {}}));
+}
+
+struct Load {
+  const char* name;
+  Bytes file;
+  Set banko;
+  Set bag;    // and marks afterwards
+  int beeps;  // after the question
+};
+
+class LoadBagInWindow : public testing::TestWithParam<Load> {};
+
+TEST_P(LoadBagInWindow, TakesAndShowsTheFile) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  setBanko(world.state, GetParam().banko);
+  buttons.mark({1, 2});
+  world.files.folder["KARVENIS.DAT"] = GetParam().file;
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectBeep(GetParam().beeps);
+  loadBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), GetParam().bag);
+  Set sorted = GetParam().bag;
+  std::ranges::sort(sorted);
+  const auto repeats = std::ranges::unique(sorted);
+  sorted.erase(repeats.begin(), repeats.end());
+  EXPECT_EQ(buttons.marked(), sorted);
+  EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
+}
+
+std::vector<int> countAndBalls(int count) {
+  std::vector<int> all = {count};
+  for (int ball = 1; ball <= count; ++ball) all.push_back(ball);
+  return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, LoadBagInWindow,
+    testing::Values(Load{"Whole", words(bagPart({3, 9, 5, 7})), {}, {9, 5, 7}, 1},
+                    Load{"FortyNine", words(countAndBalls(49)), {}, allBalls(), 1},
+                    Load{"WithoutItsBankos", words({4, 7, 12, 30, 44}), {7, 30}, {12, 44}, 1},
+                    Load{"AllItsBallsAreBankos", words({1, 7}), {7}, {}, 1},
+                    Load{"RepeatedBallsStay", words({3, 5, 5, 6}), {}, {5, 5, 6}, 1},
+                    Load{"ZeroEndsIt", words({4, 7, 12, 0, 30}), {}, {7, 12}, 1},
+                    Load{"FiftyEndsIt", words({2, 7, 50}), {}, {7}, 1},
+                    Load{"NegativeEndsIt", words({3, 7, -7, 8}), {}, {7}, 1},
+                    Load{"LengthTwiceTheCountLosesTheLastBall", words({3, 7, 8}), {}, {7, 8}, 1},
+                    Load{"OneBallInThreeBytes", hex("01 00 09"), {}, {9}, 1},
+                    Load{"CountZero", words(bagPart({0, 5})), {}, {}, 0},
+                    Load{"CountNegative", words(bagPart({-1, 5})), {}, {}, 0},
+                    Load{"CountMostNegative", words(bagPart({-32768, 5})), {}, {}, 0},
+                    Load{"CountFifty", words(countAndBalls(50)), {}, {}, 1},
+                    Load{"CountFiftyJustLongEnough", words(bagPart({50})), {}, {}, 1},
+                    Load{"CountLargestLongEnough", words(countAndBalls(32767)), {}, {}, 1}),
+    [](const auto& row) { return row.param.name; });
+
+struct Broken {
+  const char* name;
+  Bytes file;
+};
+
+class LoadBrokenBag : public testing::TestWithParam<Broken> {};
+
+TEST_P(LoadBrokenBag, SaysSoAndLeavesBagAndMarks) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  buttons.mark({1, 2});
+  world.files.folder["KARVENIS.DAT"] = GetParam().file;
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
+  loadBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), (Set{40, 41}));
+  EXPECT_EQ(buttons.marked(), (Set{1, 2}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, LoadBrokenBag,
+                         testing::Values(Broken{"OneByteShort", hex("02 00 05")},
+                                         Broken{"CountFiftyInNinetyEightBytes",
+                                                [] {
+                                                  auto all = bagPart({50});
+                                                  all.pop_back();
+                                                  return words(all);
+                                                }()},
+                                         Broken{"CountFortyNineOfTwo", words({49, 1, 2})},
+                                         Broken{"CountLargest", words(bagPart({32767}))}),
+                         [](const auto& row) { return row.param.name; });
+
+class LoadBagTooShort : public testing::TestWithParam<int> {};
+
+TEST_P(LoadBagTooShort, StopsBeforeTheQuestion) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({1});
+  world.files.folder["KARVENIS.DAT"] = Bytes(static_cast<std::size_t>(GetParam()), std::byte{1});
+  world.boxes.expectBeep();
+  loadBag(world.around, buttons);
+  EXPECT_EQ(buttons.marked(), Set{1});
+}
+
+INSTANTIATE_TEST_SUITE_P(Lengths, LoadBagTooShort, testing::Values(0, 1, 2));
+
+TEST(LoadBagInWindow, WithoutAFileThereIsABeepAndNothingElse) {
+  World world;
+  PlainButtons buttons;
+  world.boxes.expectBeep();
+  loadBag(world.around, buttons);
+  EXPECT_TRUE(world.files.folder.empty());
+}
+
+TEST(LoadBagInWindow, NoLeavesBagAndMarks) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40});
+  buttons.mark({1});
+  world.files.folder["KARVENIS.DAT"] = words({1, 5});
+  world.boxes.expectBeep().expectQuestion(loadQuestion, false);
+  loadBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), Set{40});
+  EXPECT_EQ(buttons.marked(), Set{1});
+}
+
+struct Save {
+  const char* name;
+  Set marked;
+  std::vector<int> old;
+  std::vector<int> file;
+};
+
+class SaveBag : public testing::TestWithParam<Save> {};
+
+TEST_P(SaveBag, WritesFiftyWordsAndNoMore) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark(GetParam().marked);
+  if (!GetParam().old.empty()) world.files.folder["KARVENIS.DAT"] = words(GetParam().old);
+  world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep().expectMessage(saved);
+  saveBag(world.around, buttons);
+  EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), words(GetParam().file));
+  EXPECT_EQ(bagOf(world.state), GetParam().marked);
+}
+
+std::vector<int> then(std::vector<int> first, const std::vector<int>& rest) {
+  first.insert(first.end(), rest.begin(), rest.end());
+  return first;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Marks, SaveBag,
+    testing::Values(Save{"Three", {5, 7, 49}, {}, bagPart({3, 5, 7, 49})},
+                    Save{"None", {}, {}, bagPart({0})},
+                    Save{"All", allBalls(), {}, countAndBalls(49)},
+                    Save{"OverALargerBag", {5}, countAndBalls(49), bagPart({1, 5})},
+                    Save{"TheBankosStay",
+                         {5},
+                         then(bagPart({2, 8, 9}), {2, 7, 8, 77}),
+                         then(bagPart({1, 5}), {2, 7, 8, 77})},
+                    Save{"OverAShortFile", {5}, {9}, bagPart({1, 5})}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(SaveBag, TheBytesOfANewFile) {
+  World world;
+  PlainButtons buttons;
+  buttons.mark({1, 49});
+  world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep().expectMessage(saved);
+  saveBag(world.around, buttons);
+  const Bytes bytes = world.files.bytes("KARVENIS.DAT");
+  ASSERT_EQ(bytes.size(), 100U);
+  EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + 8), hex("02 00 01 00 31 00 00 00"));
+  EXPECT_EQ(Bytes(bytes.begin() + 8, bytes.end()), Bytes(92));
+}
+
+TEST(SaveBag, AMarkedBankoStaysInTheBagAndMarkedUntilTheNextApply) {
+  World world;
+  PlainButtons buttons;
+  setBanko(world.state, {9});
+  buttons.mark({5, 9});
+  world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep().expectMessage(saved);
+  saveBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), (Set{5, 9}));
+  EXPECT_EQ(buttons.marked(), (Set{5, 9}));
+  showBag(world.state, buttons);
+  EXPECT_EQ(buttons.marked(), (Set{5, 9}));
+  world.boxes.expectBeep();
+  applyBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), Set{5});
+}
+
+TEST(SaveBag, NoChangesNothing) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40});
+  buttons.mark({5});
+  world.boxes.expectBeep().expectQuestion(saveQuestion, false);
+  saveBag(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), Set{40});
+  EXPECT_EQ(buttons.marked(), Set{5});
+  EXPECT_TRUE(world.files.folder.empty());
+}
+
+class SaveBagRefused : public testing::TestWithParam<Fault> {};
+
+TEST_P(SaveBagRefused, IsAFaultAndLosesNoMarkAndNoByte) {
+  World world;
+  RefusingFiles files(world.files);
+  files.refuses = [](Fault fault, const std::string&) { return fault == GetParam(); };
+  world.files.folder["KARVENIS.DAT"] = words({1, 7});
+  Surroundings around{world.state, world.boxes,   world.clock,  world.chance,
+                      files,       world.printer, world.windows};
+  PlainButtons buttons;
+  buttons.mark({5, 9});
+  world.boxes.expectBeep().expectQuestion(saveQuestion, true);
+  EXPECT_THROW(saveBag(around, buttons), RunTimeError);
+  EXPECT_EQ(buttons.marked(), (Set{5, 9}));
+  EXPECT_EQ(bagOf(world.state), (Set{5, 9}));
+  EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), words({1, 7}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, SaveBagRefused, testing::Values(Fault::open, Fault::write));
+
+TEST(BagHelp, TheKeysAreListedAfterABeep) {
+  World world;
+  world.boxes.expectBeep().expectMessage(
+      "Torba Menüsü FONKSİYON TUŞLARI : \r"
+      "\r"
+      "F1=  Uygula (İşaretli topları torbaya koy)\r"
+      "F2=  Topları 'KARVENIS.DAT' dosyasından yükle\r"
+      "F3=  İşaretli topları 'KARVENIS.DAT' dosyasına kayıtla\r"
+      "F4=  Hepsini Seç\r"
+      "F5=  Hiçbirini Seçme\r"
+      "\r"
+      "F10= Yardım\r"
+      "F11= 'Torba Niçin ve Nasıl Kullanılır' Açıklaması\r"
+      "\r"
+      "ESC= Kapat\r");
+  showBagKeys(world.boxes);
+}
+
+TEST(BagHelp, TheBagIsExplainedWithoutABeep) {
+  World world;
+  world.boxes.expectMessage(
+      "'TORBA' kombinasyonlarda yer alacak topların içine konulduğu sanal bir torbadır; gerçekte, "
+      "kullanılacak toplar kümesidir...\r\r"
+      "Tüm rastgele ve formüllü kolonlar torbada yer alan sayılardan oluşur...\r\r"
+      "Tüm toplar torbaya konursa, 13983816 olasılık ortaya çıkar. Banko top kullanmadan, çıkması "
+      "beklenen 36 top torbaya konursa, 1947792 olasılık ortaya çıkar...\r\r"
+      "Bununla birlikte, torbaya konmayan (elenen) toplardan biri ve birkaçı 'Sayısal Loto' "
+      "çekilişinde çıkarsa, tüm olasılıklar oynansa dahi, 6 tutturulamaz...\r\r"
+      "Formül ve filtre kullanarak kombinasyon listesi hazırlamak isterseniz, firmamızın formül "
+      "programını öneririz; bilgi için web sayfamıza bakabilirsiniz...",
+      " KARVENIS 2005 Randomizer [ TORBA'NIN İŞLEVİ ]");
+  explainBag(world.boxes);
+}
+
+}  // namespace
+}  // namespace karvenis
