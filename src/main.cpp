@@ -1,1 +1,57 @@
-int main() { return 0; }
+#include <QApplication>
+
+#include "core/Surroundings.h"
+#include "main/frmLoto.h"
+#include "platform/RunTimeError.h"
+#include "platform/SystemChance.h"
+#include "platform/SystemFiles.h"
+#include "platform/qt/Forms.h"
+#include "platform/qt/Look.h"
+#include "platform/qt/QtBoxes.h"
+#include "platform/qt/QtClock.h"
+
+// Wires the doors to the windows; what the program does stands in the rooms.
+
+namespace {
+
+/// Says of every print that there is no printer.
+class NoPrinter final : public karvenis::Printer {
+ public:
+  void fontSize(double) override { refuse(); }
+  void currentX(double) override { refuse(); }
+  void currentY(double) override { refuse(); }
+  void printLine(const std::string&) override { refuse(); }
+  void endDocument() override { refuse(); }
+  void killDocument() noexcept override {}
+
+ private:
+  [[noreturn]] static void refuse() {
+    throw karvenis::RunTimeError(karvenis::Fault::printer, "printer", "yok");
+  }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  using namespace karvenis;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("KARVENIS"));
+  QApplication::setDesktopFileName(QStringLiteral("karvenis"));
+  applyLook(application);
+
+  SharedState state;
+  QtBoxes boxes;
+  QtClock clock;
+  SystemChance chance;
+  SystemFiles files;
+  NoPrinter printer;
+  Forms forms(boxes);
+  Surroundings around{state, boxes, clock, chance, files, printer, forms};
+  boxes.beforeBox = [&forms] { forms.showCaptions(); };
+  chance.seedFrom(clock);
+
+  forms.add("frmLoto", [&] { return new frmLoto(around, forms); });
+
+  forms.show("frmLoto");
+  return QApplication::exec();
+}

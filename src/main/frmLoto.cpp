@@ -1,1 +1,150 @@
-#include <QWidget>
+#include "main/frmLoto.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+#include "bag/BagFile.h"
+#include "core/Draw.h"
+#include "main/NewColumn.h"
+#include "main/Settings.h"
+#include "main/Texts.h"
+#include "platform/qt/Forms.h"
+#include "platform/qt/Picture.h"
+#include "platform/qt/Text.h"
+#include "platform/qt/WindowPlace.h"
+#include "randomlist/RandomColumnFile.h"
+
+// The window's event procedures. How it is built stands in frmLotoBuild.cpp.
+
+namespace karvenis {
+namespace {
+
+constexpr double twipsPerPixel = 15;
+
+}  // namespace
+
+void frmLoto::Form_Load() {
+  const auto place = readPlace(around_.files);
+  if (place) moveFrame(*this, {place->left / twipsPerPixel, place->top / twipsPerPixel});
+}
+
+void frmLoto::Form_Activate() { around_.chance.seedFrom(around_.clock); }
+
+void frmLoto::Form_KeyDown(int KeyCode, int Shift) {
+  if (Shift != 0 || KeyCode < keyF1 || KeyCode > keyF12) return;
+  entries_[static_cast<std::size_t>(KeyCode - keyF1)]->trigger();
+}
+
+void frmLoto::Form_KeyPress(int KeyAscii) {
+  if (KeyAscii == keyEscape && !keyRepeats()) around_.windows.end();
+}
+
+void frmLoto::Form_DblClick() { around_.windows.end(); }
+void frmLoto::closeRequested() { around_.windows.end(); }
+
+void frmLoto::Command1_Click() {
+  takePicture();
+  cover_.stamp(around_.clock.minute());
+  if (Option1->isChecked()) {
+    drawFromBag();
+  } else {
+    drawFromList();
+  }
+  Picture0->hide();
+}
+
+void frmLoto::drawFromBag() {
+  if (!offersColumn(around_.state)) {
+    around_.boxes.warn(tooFewBalls, tooFewBallsTitle);
+    return;
+  }
+  DrawColumn(around_.state, around_.chance, around_.clock, Check1->isChecked());
+  setCaption(standardTitle);
+  animation_.start();
+}
+
+void frmLoto::drawFromList() {
+  if (const auto pick = PickFromList(around_)) {
+    ShowColumn();
+    setCaption(pickTitle(*pick));
+  }
+}
+
+void frmLoto::Command2_Click() {
+  writePlace(around_.files,
+             {static_cast<float>(y() * twipsPerPixel), static_cast<float>(x() * twipsPerPixel)});
+  around_.windows.end();
+}
+
+void frmLoto::Check1_Click() {
+  if (!Check1->isChecked()) return;
+  SortColumn(around_.state.Drawn);
+  ShowColumn();
+}
+
+void frmLoto::Picture0_Click() {
+  around_.boxes.beep();
+  Picture0->hide();
+  cover_.stamp(around_.clock.minute());
+}
+
+void frmLoto::Label1_MouseMove(int Index) {
+  QLabel* number = Label1[static_cast<std::size_t>(Index)];
+  number->setToolTip(number->text());
+}
+
+void frmLoto::Timer0_Timer() {
+  Label2->setText(toQt(around_.clock.date()));
+  Label3->setText(toQt(around_.clock.time()));
+  if (Picture0->isHidden() && cover_.returns(around_.clock.minute())) Picture0->show();
+  banner_.tick();
+  placeBanner();
+}
+
+void frmLoto::ShowColumn() { showNumbers(*this, around_.state.Drawn); }
+
+void frmLoto::mnuSaveRndColumn_Click() { SaveRndColumn(around_, *this, Check1->isChecked()); }
+void frmLoto::mnuShowRndList_Click() { ShowRndList(around_, *this); }
+void frmLoto::mnuChangeRndFile_Click() { ChangeRndFile(around_, *this); }
+void frmLoto::mnuDeleteRndFile_Click() { DeleteRndFile(around_, *this); }
+void frmLoto::mnuLoadBag_Click() { askAndLoadBag(around_); }
+void frmLoto::mnuLoadBanko_Click() { askAndLoadBanko(around_); }
+void frmLoto::mnuFKeys_Click() { around_.boxes.message(keyList, keyListTitle); }
+
+void frmLoto::mnuAbout_Click() {
+  around_.boxes.beep();
+  around_.boxes.message(about, aboutTitle);
+}
+
+void frmLoto::showImage(int index, bool visible) {
+  Image1[static_cast<std::size_t>(index)]->setVisible(visible);
+}
+
+void frmLoto::showLabel(int index, bool visible) {
+  Label1[static_cast<std::size_t>(index)]->setVisible(visible);
+}
+
+void frmLoto::setLabel(int index, const std::string& caption) {
+  Label1[static_cast<std::size_t>(index)]->setText(toQt(caption));
+  nameLabel(index);
+}
+
+std::string frmLoto::label(int index) const {
+  return fromQt(Label1[static_cast<std::size_t>(index)]->text());
+}
+
+void frmLoto::enableTimer(int timer, bool enabled) {
+  QTimer* ballTimer = Timer[static_cast<std::size_t>(timer)];
+  if (enabled) {
+    ballTimer->start();
+  } else {
+    ballTimer->stop();
+  }
+}
+
+void frmLoto::beep() { around_.boxes.beep(); }
+
+}  // namespace karvenis

@@ -107,6 +107,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
       return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::MouseButtonPress:
+      notePress(*static_cast<QMouseEvent*>(event));
+      [[fallthrough]];
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
       return forms_.droppingInput();
@@ -151,8 +153,18 @@ void Form::resizeEvent(QResizeEvent* event) {
   run([this] { Form_Resize(); });
 }
 
-void Form::mousePressEvent(QMouseEvent* event) {
-  pressWasFree_ = event->button() == Qt::LeftButton && isFree(event->pos());
+void Form::makeSurface(QWidget* container) { container->setProperty("surface", true); }
+
+bool Form::isFree(const QPoint& place) const {
+  const QWidget* child = childAt(place);
+  return child == nullptr || child->property("surface").toBool();
+}
+
+/// Every press comes by here, also one on a control and the second one of a double click, so that a
+/// double click counts as one on the window's own surface only where both presses were there.
+void Form::notePress(const QMouseEvent& press) {
+  pressBeforeWasFree_ = pressWasFree_;
+  pressWasFree_ = press.button() == Qt::LeftButton && isFree(press.pos());
   clickArmed_ = pressWasFree_;
 }
 
@@ -164,8 +176,7 @@ void Form::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void Form::mouseDoubleClickEvent(QMouseEvent* event) {
-  const bool both = pressWasFree_ && event->button() == Qt::LeftButton && isFree(event->pos());
-  pressWasFree_ = false;
+  const bool both = pressBeforeWasFree_ && pressWasFree_ && event->button() == Qt::LeftButton;
   clickArmed_ = false;
   if (both) run([this] { Form_DblClick(); });
 }

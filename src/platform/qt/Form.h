@@ -71,6 +71,8 @@ class Form : public QWidget, public TitleBar {
   void on(Sender* sender, Signal signal, Procedure procedure) {
     connect(sender, signal, this, [this, procedure] { run(procedure); });
   }
+  /// Counts `container`, a widget that only holds others, as part of the window's own surface.
+  static void makeSurface(QWidget* container);
   /// Enter in `box`, once however long it is held.
   void onEnter(QLineEdit* box, std::function<void()> procedure);
   /// A control of this window under its own name.
@@ -90,14 +92,14 @@ class Form : public QWidget, public TitleBar {
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
   bool handleKey(const QKeyEvent& key);
+  void notePress(const QMouseEvent& press);
   void pressFocused(const QKeyEvent& key, QWidget* focused);
-  bool isFree(const QPoint& place) const { return childAt(place) == nullptr; }
+  bool isFree(const QPoint& place) const;
 
   Forms& forms_;
   QPointer<Form> opener_;
@@ -109,7 +111,8 @@ class Form : public QWidget, public TitleBar {
   bool closing_ = false;
   bool keyRepeats_ = false;
   bool clickArmed_ = false;
-  bool pressWasFree_ = false;
+  bool pressWasFree_ = false;        // the last press was on the window's own surface
+  bool pressBeforeWasFree_ = false;  // and so was the one before
 };
 
 }  // namespace karvenis

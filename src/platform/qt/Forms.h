@@ -33,6 +33,8 @@ class Forms final : public Windows {
 
   void show(std::string_view form) override;
   void end() override;
+  /// Whether the program is about to end.
+  bool ending() const { return ending_; }
 
   /// `form` is the window the user works in now; runs its Form_Activate where it was another
   /// before.

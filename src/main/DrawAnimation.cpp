@@ -1,0 +1,89 @@
+#include "main/DrawAnimation.h"
+
+namespace karvenis {
+namespace {
+
+constexpr std::int16_t lastPhase = 15;
+constexpr std::int16_t lastFrame = 16;
+constexpr std::int16_t startDelay = 10;
+
+int mainLabel(int k) { return 2 * k - 2; }
+int copyLabel(int k) { return 2 * k - 1; }
+int image(int k, char step) { return 5 * (k - 1) + 1 + (step - 'a'); }
+
+std::string number(const Column& drawn, int k) {
+  return std::to_string(drawn[static_cast<std::size_t>(k)]);
+}
+
+}  // namespace
+
+void DrawAnimation::start() {
+  stage_.enableTimer(1, true);
+  for (int k = 2; k <= ballsInColumn; ++k) stage_.enableTimer(k, false);
+}
+
+void DrawAnimation::tick(int k) {
+  if (k == 1) {
+    hideLastDraw();
+  } else if (++delay_ < startDelay) {
+    return;
+  }
+  if (phase_ == 0) {
+    stage_.setLabel(mainLabel(k), number(drawn_, k));
+    if (k == 1) {
+      stage_.showLabel(1, false);
+      stage_.showLabel(0, false);
+    }
+  }
+  if (++phase_ > lastPhase) {
+    phase_ = 0;
+    stage_.enableTimer(k, false);
+    if (k > 1) delay_ = 0;
+    stage_.beep();
+  }
+  if (frame_ < lastFrame) {
+    ++frame_;
+    moveBall(k);
+  }
+  if (phase_ == 0) {
+    stage_.setLabel(copyLabel(k), stage_.label(mainLabel(k)));
+    stage_.showLabel(copyLabel(k), true);
+    frame_ = 0;
+    if (k == 1) delay_ = 0;
+    if (k < ballsInColumn) stage_.enableTimer(k + 1, true);
+  }
+}
+
+void DrawAnimation::hideLastDraw() {
+  for (int k = 1; k <= ballsInColumn; ++k) stage_.showImage(image(k, 'd'), false);
+  for (int label = copyLabel(ballsInColumn); label >= mainLabel(2); --label) {
+    stage_.showLabel(label, false);
+  }
+}
+
+/// Puts the picture of the current frame in place of the one before; every tick of a picture's
+/// range repeats this, so that a picture that something else has hidden comes back.
+void DrawAnimation::moveBall(int k) {
+  if (frame_ == lastFrame) {
+    stage_.showImage(image(k, 'c'), false);
+    stage_.showImage(image(k, 'd'), true);
+    stage_.showLabel(mainLabel(k), true);
+  } else if (frame_ >= 13) {
+    stage_.showImage(image(k, 'b'), false);
+    stage_.showImage(image(k, 'c'), true);
+  } else if (frame_ >= 10) {
+    stage_.showImage(image(k, 'a'), false);
+    stage_.showImage(image(k, 'b'), true);
+  } else if (frame_ >= 6) {
+    stage_.showImage(image(k, 'a'), true);
+  }
+}
+
+void showNumbers(BallStage& stage, const Column& drawn) {
+  for (int k = 1; k <= ballsInColumn; ++k) {
+    stage.setLabel(mainLabel(k), number(drawn, k));
+    stage.setLabel(copyLabel(k), number(drawn, k));
+  }
+}
+
+}  // namespace karvenis

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/Column.h"
+
+namespace karvenis {
+
+/// What the animation moves: the pictures `Image1`, the number labels `Label1` and the ball timers.
+/// For ball position k (1..6) label 2k-2 is the main label and 2k-1 the copy label, and the
+/// pictures 5(k-1)+1 to 5(k-1)+4 are the rolling steps a, b, c and the ball at rest, d.
+class BallStage {
+ public:
+  virtual ~BallStage() = default;
+  virtual void showImage(int index, bool visible) = 0;
+  virtual void showLabel(int index, bool visible) = 0;
+  virtual void setLabel(int index, const std::string& caption) = 0;
+  virtual std::string label(int index) const = 0;
+  /// `timer` is 1..6.
+  virtual void enableTimer(int timer, bool enabled) = 0;
+  virtual void beep() = 0;
+};
+
+/// Shows a drawn column ball by ball, each rolling in through its four pictures. The six ball
+/// timers run one after another and share the counters; an interrupted ball's counters go on in
+/// Timer1.
+class DrawAnimation {
+ public:
+  DrawAnimation(BallStage& stage, const Column& drawn) : stage_(stage), drawn_(drawn) {}
+
+  /// Starts with ball 1.
+  void start();
+  /// One tick of the ball timer `k` (1..6).
+  void tick(int k);
+
+ private:
+  void hideLastDraw();
+  void moveBall(int k);
+
+  BallStage& stage_;
+  const Column& drawn_;
+  std::int16_t phase_ = 0;  // active ticks of the current ball
+  std::int16_t frame_ = 0;  // picture step of the current ball
+  std::int16_t delay_ = 0;  // ticks since the ball before it ended
+};
+
+/// Both labels of every position show `drawn`; nothing else changes.
+void showNumbers(BallStage& stage, const Column& drawn);
+
+}  // namespace karvenis

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/Surroundings.h"
+
+namespace karvenis {
+
+/// Whether the bag and the bankos allow a draw: together at least six balls, or an empty bag, which
+/// stands for all balls; and six of them distinct.
+bool offersColumn(const SharedState& state);
+
+/// A record of the combination list that chance picked.
+struct ListPick {
+  std::int32_t record;  ///< its number, from 1
+  std::int32_t count;   ///< records in the list
+};
+
+/// Takes a random record of the combination list as the drawn column, in its stored order and
+/// unchecked, and beeps. Warns and returns nothing where there is no list or it is empty. A record
+/// that is not whole leaves the drawn column as it was.
+std::optional<ListPick> PickFromList(Surroundings& around);
+
+/// The main window's title after a pick.
+std::string pickTitle(const ListPick& pick);
+
+}  // namespace karvenis

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/Files.h"
+
+namespace karvenis {
+
+inline constexpr char settingsFile[] = "KV2005.CFG";
+
+/// Where the main window's frame stands on the screen, in twips (1/1440 inch, 15 to a pixel at 96
+/// dpi).
+struct Place {
+  float top = 0;
+  float left = 0;
+};
+
+/// The place in the settings file; empty where there is no file or it holds no finite numbers. A
+/// file of 4 bytes or less is opened but not read: its place is 0, 0. Throws RunTimeError.
+std::optional<Place> readPlace(Files& files);
+
+/// Writes the place, creating the file where it is missing; a longer file keeps its length. Throws
+/// RunTimeError.
+void writePlace(Files& files, Place place);
+
+}  // namespace karvenis

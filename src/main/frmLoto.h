@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QPixmap>
+#include <array>
+
+#include "core/Surroundings.h"
+#include "main/DrawAnimation.h"
+#include "main/Idle.h"
+#include "platform/qt/Artwork.h"
+#include "platform/qt/Form.h"
+
+class QCheckBox;
+class QFrame;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+namespace karvenis {
+
+class Picture;
+
+/// The main window: shows the drawn column and is the hub of all menus and function keys.
+class frmLoto final : public Form, private BallStage {
+ public:
+  frmLoto(Surroundings& around, Forms& forms);
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+ protected:
+  void Form_KeyDown(int KeyCode, int Shift) override;
+  void Form_KeyPress(int KeyAscii) override;
+  void Form_DblClick() override;
+  void closeRequested() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void buildMenus();
+  QAction* function(int number, QMenu* head, const char* entry, QStringView text,
+                    std::function<void()> procedure);
+  void launcher(int number, QMenu* head, const char* entry, QStringView text, const char* form);
+  void buildBanner();
+  void buildStage();
+  void buildBall(int k);
+  void buildLabel(int index, const QRect& place, int pixels, const char* sheet);
+  void buildPanel();
+  QWidget* buildChoices();
+  QWidget* buildClock();
+  void buildTimers();
+  void placeBanner();
+  void takePicture();
+  void nameLabel(int index);
+
+  void Command1_Click();
+  void Command2_Click();
+  void Check1_Click();
+  void Picture0_Click();
+  void Label1_MouseMove(int Index);
+  void Timer0_Timer();
+  void mnuSaveRndColumn_Click();
+  void mnuShowRndList_Click();
+  void mnuChangeRndFile_Click();
+  void mnuDeleteRndFile_Click();
+  void mnuLoadBag_Click();
+  void mnuLoadBanko_Click();
+  void mnuFKeys_Click();
+  void mnuAbout_Click();
+
+  void drawFromBag();
+  void drawFromList();
+  void ShowColumn();
+
+  void showImage(int index, bool visible) override;
+  void showLabel(int index, bool visible) override;
+  void setLabel(int index, const std::string& caption) override;
+  std::string label(int index) const override;
+  void enableTimer(int timer, bool enabled) override;
+  void beep() override;
+
+  Surroundings& around_;
+  Artwork artwork_;
+  DrawAnimation animation_;
+  Banner banner_;
+  IdleCover cover_;
+  std::array<QAction*, 12> entries_{};  // what F1..F12 trigger
+  QPixmap picture_;  // the window's own picture, taken from Picture2 by the first draw
+
+  QPushButton* Command1 = nullptr;    // "Kolon": draws a new column
+  QPushButton* Command2 = nullptr;    // "Çıkış": saves the window's place and ends the program
+  QRadioButton* Option1 = nullptr;    // "Torbadan Çek": columns come from the bag
+  QRadioButton* Option2 = nullptr;    // "Listeden Çek": columns come from the combination list
+  QCheckBox* Check1 = nullptr;        // "Numara Sırası": columns are sorted
+  QFrame* Frame1 = nullptr;           // groups the options and the check box
+  Picture* Picture0 = nullptr;        // the opening picture over the balls
+  Picture* Picture1 = nullptr;        // the emblem beside the clock
+  Picture* Picture2 = nullptr;        // never shown: the picture that the window takes
+  Picture* Picture3 = nullptr;        // the banner that sways
+  Picture* Picture4 = nullptr;        // its companion
+  QWidget* stage_ = nullptr;          // holds the balls and their numbers
+  std::array<Picture*, 30> Image1{};  // the balls' pictures; multiples of 5 belong to no ball
+  std::array<QLabel*, 12> Label1{};   // two numbers for each ball position
+  QLabel* Label2 = nullptr;           // today's date
+  QLabel* Label3 = nullptr;           // the time
+  std::array<QTimer*, 7> Timer{};     // Timer0: clock; Timer1..Timer6: the balls
+};
+
+}  // namespace karvenis

@@ -1,0 +1,307 @@
+#include <QCheckBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "main/frmLoto.h"
+#include "platform/qt/Forms.h"
+#include "platform/qt/Look.h"
+#include "platform/qt/Picture.h"
+
+// How the main window is built and painted. Lengths are device independent pixels.
+
+namespace karvenis {
+namespace {
+
+constexpr QSize windowArt(760, 560);
+constexpr QSize bannerArt(984, 56);
+constexpr QSize companionArt(984, 12);
+constexpr QSize stageSize(728, 264);
+constexpr QSize ballSize(112, 112);
+constexpr QSize plateSize(76, 36);
+constexpr int margin = 16;
+constexpr int cellWidth = 120;
+constexpr int restTop = 84;
+constexpr int plateTop = 210;
+constexpr int tickOfBalls = 20;   // milliseconds
+constexpr int tickOfClock = 100;  // milliseconds
+constexpr double twipsPerPixel = 15;
+
+/// Where ball `k` comes to rest.
+QRect restOf(int k) {
+  const int cell = (stageSize.width() - 6 * cellWidth) / 2 + (k - 1) * cellWidth;
+  return {QPoint(cell + (cellWidth - ballSize.width()) / 2, restTop), ballSize};
+}
+
+/// How far from its rest each rolling step of a ball is seen.
+constexpr std::array<QPoint, 4> stepOffsets = {QPoint(20, -80), QPoint(12, -58), QPoint(4, -28),
+                                               QPoint(0, 0)};
+
+QLabel* dressed(QLabel* label, int pixels, const char* sheet) {
+  QFont bold = label->font();
+  bold.setPixelSize(pixels);
+  bold.setBold(true);
+  label->setFont(bold);
+  label->setAlignment(Qt::AlignCenter);
+  label->setStyleSheet(QLatin1String(sheet));
+  return label;
+}
+
+}  // namespace
+
+frmLoto::frmLoto(Surroundings& around, Forms& forms)
+    : Form(forms, "frmLoto"), around_(around), animation_(*this, around.state.Drawn) {
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, margin);
+  whole->setSpacing(margin - 4);
+  whole->setSizeConstraint(QLayout::SetFixedSize);
+  buildMenus();
+  buildBanner();
+  buildStage();
+  buildPanel();
+  buildTimers();
+  Picture2 = new Picture(artwork_, QStringLiteral("window.svg"), {}, this);
+  Picture2->setObjectName(QStringLiteral("Picture2"));
+  Picture2->hide();
+  setWindowIcon(QIcon(QStringLiteral(":/assets/karvenis.svg")));
+  setCaption(standardTitle);
+  Command1->setFocus();
+}
+
+void frmLoto::buildMenus() {
+  QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
+  function(1, file, "mnuSaveRndColumn", u"Kolunu KARVENIS.RND dosyasına kayıtla (F1)",
+           [this] { mnuSaveRndColumn_Click(); });
+  function(2, file, "mnuShowRndList", u"KARVENIS.RND dosyasını göster (F2)",
+           [this] { mnuShowRndList_Click(); });
+  function(3, file, "mnuChangeRndFile", u"KARVENIS.RND dosyasının adını değiştir (F3)",
+           [this] { mnuChangeRndFile_Click(); });
+  function(4, file, "mnuDeleteRndFile", u"KARVENIS.RND dosyasını sil (F4)",
+           [this] { mnuDeleteRndFile_Click(); });
+
+  QMenu* bag = menuHead("mnuBag", QStringLiteral("Torba"));
+  launcher(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", "frmBalls");
+  function(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
+           [this] { mnuLoadBag_Click(); });
+
+  QMenu* banko = menuHead("mnuBanko", QStringLiteral("Banko"));
+  launcher(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", "frmBanko");
+  function(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
+           [this] { mnuLoadBanko_Click(); });
+
+  QMenu* list = menuHead("mnuListe", QStringLiteral("Liste"));
+  launcher(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)", "frmList");
+  launcher(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)", "frmRnd");
+  launcher(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)", "frmComLst");
+
+  QMenu* help = menuHead("mnuHelp", QStringLiteral("Yardım"));
+  function(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
+  menuEntry(help, "mnuAbout", QStringLiteral("Program hakkında"), [this] { mnuAbout_Click(); });
+}
+
+/// The menu entry that the function key `number` triggers too.
+QAction* frmLoto::function(int number, QMenu* head, const char* entry, QStringView text,
+                           std::function<void()> procedure) {
+  QAction* action = menuEntry(head, entry, text.toString(), std::move(procedure));
+  entries_[static_cast<std::size_t>(number - 1)] = action;
+  return action;
+}
+
+void frmLoto::launcher(int number, QMenu* head, const char* entry, QStringView text,
+                       const char* form) {
+  function(number, head, entry, text, [this, form] {
+    around_.windows.show(form);
+  })->setEnabled(forms().knows(form));
+}
+
+void frmLoto::buildBanner() {
+  auto* opening = new QWidget(this);
+  opening->setFixedSize(windowArt.width(), bannerArt.height() + companionArt.height());
+  makeSurface(opening);
+  Picture3 = new Picture(artwork_, QStringLiteral("banner.svg"), {}, opening);
+  Picture3->setObjectName(QStringLiteral("Picture3"));
+  Picture3->resize(bannerArt);
+  Picture4 = new Picture(artwork_, QStringLiteral("companion.svg"), {}, opening);
+  Picture4->setObjectName(QStringLiteral("Picture4"));
+  Picture4->resize(companionArt);
+  placeBanner();
+  layout()->addWidget(opening);
+}
+
+void frmLoto::placeBanner() {
+  const int left = static_cast<int>(banner_.left() / twipsPerPixel);
+  Picture3->move(left, 0);
+  Picture4->move(left, bannerArt.height());
+}
+
+void frmLoto::buildStage() {
+  stage_ = new QWidget(this);
+  stage_->setFixedSize(stageSize);
+  makeSurface(stage_);
+  for (int k = 1; k <= ballsInColumn; ++k) buildBall(k);
+  Picture0 = new Picture(artwork_, QStringLiteral("opening.svg"), {}, stage_);
+  Picture0->setObjectName(QStringLiteral("Picture0"));
+  Picture0->setAccessibleName(QStringLiteral("Açılış resmi"));
+  Picture0->resize(stageSize);
+  Picture0->setAttribute(Qt::WA_OpaquePaintEvent);
+  Picture0->setCursor(Qt::PointingHandCursor);
+  Picture0->clicked = [this] { run([this] { Picture0_Click(); }); };
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(margin, 0, margin, 0);
+  row->addWidget(stage_);
+  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+void frmLoto::buildBall(int k) {
+  const QRect rest = restOf(k);
+  for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
+    const int index = 5 * (k - 1) + 1 + static_cast<int>(step);
+    const QString part = QStringLiteral("p%1-%2").arg(k).arg(QLatin1Char("abcd"[step]));
+    auto* image = new Picture(artwork_, QStringLiteral("ball.svg"), part, stage_);
+    image->setObjectName(QStringLiteral("Image1_%1").arg(index));
+    image->setGeometry(rest.translated(stepOffsets[step]));
+    image->setVisible(step + 1 == stepOffsets.size());
+    Image1[static_cast<std::size_t>(index)] = image;
+  }
+  const QRect plate(QPoint(rest.center().x() - plateSize.width() / 2, plateTop), plateSize);
+  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -4), 30, "color: #2a2622;");
+  buildLabel(2 * k - 1, plate, 20,
+             "color: #1f5a60; background: #fffdf7; border: 1px solid #c9b48c; border-radius: 6px;");
+}
+
+void frmLoto::buildLabel(int index, const QRect& place, int pixels, const char* sheet) {
+  auto* number = dressed(new QLabel(stage_), pixels, sheet);
+  number->setObjectName(QStringLiteral("Label1_%1").arg(index));
+  number->setGeometry(place);
+  number->setMouseTracking(true);
+  number->installEventFilter(this);
+  Label1[static_cast<std::size_t>(index)] = number;
+  nameLabel(index);
+}
+
+/// What a number label is called by those who have the window read to them.
+void frmLoto::nameLabel(int index) {
+  QLabel* number = Label1[static_cast<std::size_t>(index)];
+  const QString kind =
+      index % 2 == 0 ? QStringLiteral("%1. top: %2") : QStringLiteral("%1. sayı: %2");
+  const QString told = number->text().isEmpty() ? QStringLiteral("boş") : number->text();
+  number->setAccessibleName(kind.arg(index / 2 + 1).arg(told));
+}
+
+void frmLoto::buildPanel() {
+  auto* row = new QHBoxLayout;
+  row->setContentsMargins(margin, 0, margin, 0);
+  row->setSpacing(margin);
+  row->addWidget(buildChoices());
+  Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Kolon"));
+  Command1->setToolTip(QStringLiteral("Yeni Kolon"));
+  Command1->setStyleSheet(QStringLiteral("font-size: 20px; font-weight: bold;"));
+  Command1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  on(Command1, &QPushButton::clicked, [this] { Command1_Click(); });
+  row->addWidget(Command1, 1);
+  row->addWidget(buildClock());
+  Command2 = control<QPushButton>(QStringLiteral("Command2"), QStringLiteral("Çıkış"));
+  Command2->setToolTip(QStringLiteral("Kapat"));
+  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
+  row->addWidget(Command2, 0, Qt::AlignBottom);
+  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+}
+
+QWidget* frmLoto::buildChoices() {
+  Frame1 = control<QFrame>(QStringLiteral("Frame1"));
+  Frame1->setAccessibleName(QStringLiteral("Kolonun kaynağı ve sırası"));
+  Frame1->setStyleSheet(QStringLiteral(
+      "#Frame1 { background: #fffdf7; border: 1px solid #c9b48c; border-radius: 8px; }"));
+  auto* column = new QVBoxLayout(Frame1);
+  column->setContentsMargins(14, 8, 14, 8);
+  column->setSpacing(5);
+  Option1 = control<QRadioButton>(QStringLiteral("Option1"), QStringLiteral("Torbadan Çek"));
+  Option2 = control<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("Listeden Çek"));
+  Check1 = control<QCheckBox>(QStringLiteral("Check1"), QStringLiteral("Numara Sırası"));
+  Option1->setChecked(true);
+  on(Check1, &QCheckBox::clicked, [this] { Check1_Click(); });
+  column->addWidget(Option1);
+  column->addWidget(Option2);
+  column->addWidget(Check1);
+  return Frame1;
+}
+
+QWidget* frmLoto::buildClock() {
+  auto* plate = new QWidget(this);
+  makeSurface(plate);
+  auto* row = new QHBoxLayout(plate);
+  row->setContentsMargins(0, 0, 0, 0);
+  Picture1 = new Picture(artwork_, QStringLiteral("emblem.svg"), {}, plate);
+  Picture1->setObjectName(QStringLiteral("Picture1"));
+  Picture1->setAccessibleName(QStringLiteral("KARVENIS amblemi"));
+  Picture1->setFixedSize(64, 64);
+  row->addWidget(Picture1);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(2);
+  Label2 = dressed(new QLabel(plate), 14, "color: #5b5244;");
+  Label3 = dressed(new QLabel(plate), 20, "color: #1f5a60;");
+  Label2->setObjectName(QStringLiteral("Label2"));
+  Label3->setObjectName(QStringLiteral("Label3"));
+  Label3->setMinimumWidth(100);
+  column->addStretch();
+  column->addWidget(Label2);
+  column->addWidget(Label3);
+  column->addStretch();
+  row->addLayout(column);
+  return plate;
+}
+
+void frmLoto::buildTimers() {
+  for (int number = 0; number <= ballsInColumn; ++number) {
+    QTimer* timer = Timer[static_cast<std::size_t>(number)] = new QTimer(this);
+    timer->setObjectName(QStringLiteral("Timer%1").arg(number));
+    timer->setTimerType(number == 0 ? Qt::CoarseTimer : Qt::PreciseTimer);
+    timer->setInterval(number == 0 ? tickOfClock : tickOfBalls);
+    on(timer, &QTimer::timeout, [this, number] {
+      if (number == 0) {
+        Timer0_Timer();
+      } else {
+        animation_.tick(number);
+      }
+    });
+  }
+  Timer[0]->start();
+}
+
+/// The window's own picture becomes that of Picture2.
+void frmLoto::takePicture() {
+  picture_ = artwork_.pixmap(QStringLiteral("window.svg"), {}, windowArt, devicePixelRatioF());
+  update();
+}
+
+bool frmLoto::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseMove) {
+    for (std::size_t index = 0; index < Label1.size(); ++index) {
+      if (watched == Label1[index]) run([&] { Label1_MouseMove(static_cast<int>(index)); });
+    }
+  }
+  return Form::eventFilter(watched, event);
+}
+
+/// The window's picture, and on it the tray with a hollow for each ball.
+void frmLoto::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);
+  painter.setPen(QColor(look::edge));
+  painter.setBrush(QColor(255, 253, 247, 150));
+  painter.drawRoundedRect(QRectF(stage_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
+  painter.setPen(Qt::NoPen);
+  for (int k = 1; k <= ballsInColumn; ++k) {
+    const QRect rest = restOf(k).translated(stage_->pos());
+    painter.setBrush(QColor(120, 96, 52, 34));
+    painter.drawEllipse(QRectF(rest).adjusted(12, 88, -12, 2));
+  }
+}
+
+}  // namespace karvenis

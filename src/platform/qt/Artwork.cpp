@@ -1,0 +1,42 @@
+#include "platform/qt/Artwork.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace karvenis {
+
+Artwork::Artwork() = default;
+Artwork::~Artwork() = default;
+
+QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize& size,
+                        qreal ratio) {
+  const QSize pixels = (QSizeF(size) * ratio).toSize();
+  const QString key =
+      QStringLiteral("%1#%2 %3x%4").arg(file, element).arg(pixels.width()).arg(pixels.height());
+  QPixmap& drawing = drawn_[key];
+  if (!drawing.isNull() || pixels.isEmpty()) return drawing;
+
+  drawing = QPixmap(pixels);
+  drawing.fill(Qt::transparent);
+  QPainter painter(&drawing);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF all(QPointF(0, 0), QSizeF(pixels));
+  if (element.isEmpty()) {
+    renderer(file).render(&painter, all);
+  } else {
+    renderer(file).render(&painter, element, all);
+  }
+  painter.end();
+  drawing.setDevicePixelRatio(ratio);
+  return drawing;
+}
+
+QSvgRenderer& Artwork::renderer(const QString& file) {
+  if (loaded_ != file) {
+    renderer_ = std::make_unique<QSvgRenderer>(QStringLiteral(":/assets/") + file);
+    loaded_ = file;
+  }
+  return *renderer_;
+}
+
+}  // namespace karvenis

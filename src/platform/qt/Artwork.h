@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QHash>
+#include <QPixmap>
+#include <QString>
+#include <memory>
+
+class QSvgRenderer;
+
+namespace karvenis {
+
+/// The program's drawings, rendered once for each size and kept.
+class Artwork {
+ public:
+  Artwork();
+  ~Artwork();
+  Artwork(const Artwork&) = delete;
+  Artwork& operator=(const Artwork&) = delete;
+
+  /// The drawing `file`, or its named part `element`, at `size` (device independent) for a screen
+  /// of `ratio` device pixels each.
+  QPixmap pixmap(const QString& file, const QString& element, const QSize& size, qreal ratio);
+
+ private:
+  QSvgRenderer& renderer(const QString& file);
+
+  QHash<QString, QPixmap> drawn_;
+  QString loaded_;  // the file in renderer_: the parts of one file are asked for in a row
+  std::unique_ptr<QSvgRenderer> renderer_;
+};
+
+}  // namespace karvenis

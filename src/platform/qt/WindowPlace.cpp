@@ -1,0 +1,55 @@
+#include "platform/qt/WindowPlace.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <algorithm>
+#include <limits>
+
+namespace karvenis {
+namespace {
+
+/// So much of a title bar must be seen to take hold of it.
+constexpr int gripWidth = 40;
+constexpr int gripHeight = 8;
+
+bool titleSeen(const QRect& title) {
+  const auto screens = QGuiApplication::screens();
+  return std::ranges::any_of(screens, [&](const QScreen* screen) {
+    const QRect seen = screen->availableGeometry().intersected(title);
+    return seen.width() >= gripWidth && seen.height() >= gripHeight;
+  });
+}
+
+/// The place nearest to `frame` that lies wholly on a screen.
+QPoint nearestPlace(const QRect& frame) {
+  QPoint best = frame.topLeft();
+  int shortest = std::numeric_limits<int>::max();
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QRect area = screen->availableGeometry();
+    const QPoint place(
+        std::clamp(frame.x(), area.left(), std::max(area.left(), area.right() + 1 - frame.width())),
+        std::clamp(frame.y(), area.top(),
+                   std::max(area.top(), area.bottom() + 1 - frame.height())));
+    const int distance = (place - frame.topLeft()).manhattanLength();
+    if (distance < shortest) {
+      shortest = distance;
+      best = place;
+    }
+  }
+  return best;
+}
+
+}  // namespace
+
+void moveFrame(QWidget& window, QPointF place) {
+  constexpr double farthest = 1'000'000;  // beyond any screen, and safe to compute with
+  const QPoint wanted = QPointF(std::clamp(place.x(), -farthest, farthest),
+                                std::clamp(place.y(), -farthest, farthest))
+                            .toPoint();
+  const QRect frame(wanted, window.sizeHint());
+  const QRect title(frame.topLeft(), QSize(frame.width(), 24));
+  window.move(titleSeen(title) ? wanted : nearestPlace(frame));
+}
+
+}  // namespace karvenis

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QPointF>
+
+class QWidget;
+
+namespace karvenis {
+
+/// Moves the frame of `window` to `place` (device independent pixels). Where its title would lie on
+/// no screen, the window goes to the nearest one.
+void moveFrame(QWidget& window, QPointF place);
+
+}  // namespace karvenis
