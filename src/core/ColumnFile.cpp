@@ -22,6 +22,17 @@ bool holdsColumns(Files& files, const std::string& name) {
   return files.exists(name) && files.length(name) >= ColumnRecord::size;
 }
 
+void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from,
+                        ColumnFile& to) {
+  std::int64_t next = 1;
+  for (std::int64_t number = 1; number <= count; ++number) {
+    if (number == leftOut) continue;
+    from.get(number);
+    to.put(next);
+    ++next;
+  }
+}
+
 void backUpList(Files& files) {
   if (files.exists(combinationList)) files.copy(combinationList, listBackup);
 }

@@ -41,6 +41,10 @@ std::int32_t columnCount(Files& files, const std::string& name);
 /// Whether `name` exists and is at least one record (16 bytes) long.
 bool holdsColumns(Files& files, const std::string& name);
 
+/// Copies the records 1..`count` of `from`, without record `leftOut`, to the records 1, 2, ... of
+/// `to`, words included. Both must share one buffer; neither is closed.
+void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from, ColumnFile& to);
+
 /// Copies the combination list, where there is one, over its backup.
 void backUpList(Files& files);
 

@@ -94,6 +94,12 @@ struct World {
   RecordingWindows windows;
   RecordingTitle title;
   Surroundings around{state, boxes, clock, chance, files, printer, windows};
+
+  /// A fault may have left a file open.
+  ~World() { state.FileNo.reset(); }
+
+  /// The same over other files.
+  Surroundings over(Files& other) { return {state, boxes, clock, chance, other, printer, windows}; }
 };
 
 /// A column from six balls.

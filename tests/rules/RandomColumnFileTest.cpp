@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/IgnoringFaults.h"
-#include "doubles/Doubles.h"
+#include "doubles/Columns.h"
 #include "doubles/RefusingFiles.h"
 
 namespace karvenis {
@@ -13,15 +13,6 @@ constexpr char changeQuestion[] =
     "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?";
 constexpr char deleteQuestion[] = "'KARVENIS.RND' dosyasını silmek istiyormusunuz ?";
 constexpr char emptyWarning[] = "Listelenecek (kayıtlı) Rastgele Kolon yok !";
-
-/// Records that differ, told apart by their word.
-Bytes records(std::int32_t count, std::int32_t firstWord = 1) {
-  std::vector<ColumnRecord> all;
-  for (std::int32_t i = 0; i < count; ++i) {
-    all.push_back({firstWord + i, column(1, 2, 3, 4, 5, static_cast<std::int16_t>(6 + i % 44))});
-  }
-  return columnBytes(all);
-}
 
 using Captions = std::vector<std::string>;
 
@@ -127,8 +118,7 @@ TEST(SaveRndColumn, AFailingWriteIsAFault) {
   World world;
   RefusingFiles files(world.files);
   files.refuses = [](Fault fault, const std::string&) { return fault == Fault::write; };
-  Surroundings around{world.state, world.boxes,   world.clock,  world.chance,
-                      files,       world.printer, world.windows};
+  Surroundings around = world.over(files);
   world.state.Drawn = column(1, 2, 3, 4, 5, 6);
   EXPECT_THROW(SaveRndColumn(around, world.title, false), RunTimeError);
 }
@@ -163,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(Files, ShowTheList,
 
 TEST(ShowRndList, ANameInOtherLettersIsNoFile) {
   World world;
-  world.files.folder["karvenis.rnd"] = records(1);
+  world.files.folder["karvenis.rnd"] = countedColumns(1);
   world.boxes.expectWarning(emptyWarning);
   ShowRndList(world.around, world.title);
 }
@@ -178,7 +168,7 @@ TEST(ChangeRndFile, DoesNothingWithoutAFile) {
 
 TEST(ChangeRndFile, NoStopsAtOnce) {
   World world;
-  world.files.folder["KARVENIS.RND"] = records(3);
+  world.files.folder["KARVENIS.RND"] = countedColumns(3);
   const auto before = world.files.folder;
   world.boxes.expectBeep().expectQuestion(changeQuestion, false);
   ChangeRndFile(world.around, world.title);
@@ -188,37 +178,40 @@ TEST(ChangeRndFile, NoStopsAtOnce) {
 
 TEST(ChangeRndFile, TheFirstListTakesNoBackup) {
   World world;
-  world.files.folder["KARVENIS.RND"] = records(3);
+  world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep()
       .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   ChangeRndFile(world.around, world.title);
-  EXPECT_EQ(world.files.folder, (std::map<std::string, Bytes>{{"KARVENIS.LST", records(3)}}));
+  EXPECT_EQ(world.files.folder,
+            (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(3)}}));
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }
 
 TEST(ChangeRndFile, TheOldListGoesToItsBackup) {
   World world;
-  world.files.folder = {{"KARVENIS.RND", records(3)},
-                        {"KARVENIS.LST", records(5, 100)},
-                        {"KARVENIS.OLD", records(9, 200)}};
+  world.files.folder = {{"KARVENIS.RND", countedColumns(3)},
+                        {"KARVENIS.LST", countedColumns(5, 100)},
+                        {"KARVENIS.OLD", countedColumns(9, 200)}};
   world.boxes.expectBeep()
       .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   ChangeRndFile(world.around, world.title);
-  EXPECT_EQ(world.files.folder, (std::map<std::string, Bytes>{{"KARVENIS.LST", records(3)},
-                                                              {"KARVENIS.OLD", records(5, 100)}}));
+  EXPECT_EQ(world.files.folder,
+            (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(3)},
+                                          {"KARVENIS.OLD", countedColumns(5, 100)}}));
 }
 
 TEST(ChangeRndFile, AnEmptyFileIsDeletedUnaskedAndAnyListCounted) {
   for (const std::size_t bytes : {0U, 8U}) {
     World world;
-    world.files.folder = {{"KARVENIS.RND", Bytes(bytes)}, {"KARVENIS.LST", records(5)}};
+    world.files.folder = {{"KARVENIS.RND", Bytes(bytes)}, {"KARVENIS.LST", countedColumns(5)}};
     world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
     ChangeRndFile(world.around, world.title);
-    EXPECT_EQ(world.files.folder, (std::map<std::string, Bytes>{{"KARVENIS.LST", records(5)}}));
+    EXPECT_EQ(world.files.folder,
+              (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(5)}}));
     EXPECT_EQ(world.title.captions, Captions{standardTitle});
   }
 }
@@ -254,13 +247,13 @@ class ChangeDespite : public testing::TestWithParam<Refusal> {};
 
 TEST_P(ChangeDespite, AFailingStepTheNextOneRuns) {
   World world;
-  world.files.folder = {{"KARVENIS.RND", records(3)}, {"KARVENIS.LST", records(5, 100)}};
+  world.files.folder = {{"KARVENIS.RND", countedColumns(3)},
+                        {"KARVENIS.LST", countedColumns(5, 100)}};
   RefusingFiles files(world.files);
   files.refuses = [](Fault fault, const std::string& name) {
     return fault == GetParam().fault && name == GetParam().file;
   };
-  Surroundings around{world.state, world.boxes,   world.clock,  world.chance,
-                      files,       world.printer, world.windows};
+  Surroundings around = world.over(files);
   world.boxes.expectBeep().expectQuestion(changeQuestion, true).expectBeep();
   if (GetParam().counted >= 0) {
     world.boxes.expectMessage(" " + std::to_string(GetParam().counted) +
@@ -274,23 +267,25 @@ TEST_P(ChangeDespite, AFailingStepTheNextOneRuns) {
 INSTANTIATE_TEST_SUITE_P(
     Refusals, ChangeDespite,
     testing::Values(
-        Refusal{"BackupFails", Fault::copy, "KARVENIS.OLD", {{"KARVENIS.LST", records(3)}}, 3},
-        Refusal{"CopyFails",
-                Fault::copy,
-                "KARVENIS.LST",
-                {{"KARVENIS.LST", records(5, 100)}, {"KARVENIS.OLD", records(5, 100)}},
-                5},
+        Refusal{
+            "BackupFails", Fault::copy, "KARVENIS.OLD", {{"KARVENIS.LST", countedColumns(3)}}, 3},
+        Refusal{
+            "CopyFails",
+            Fault::copy,
+            "KARVENIS.LST",
+            {{"KARVENIS.LST", countedColumns(5, 100)}, {"KARVENIS.OLD", countedColumns(5, 100)}},
+            5},
         Refusal{"DeleteFails",
                 Fault::remove,
                 "KARVENIS.RND",
-                {{"KARVENIS.LST", records(3)},
-                 {"KARVENIS.OLD", records(5, 100)},
-                 {"KARVENIS.RND", records(3)}},
+                {{"KARVENIS.LST", countedColumns(3)},
+                 {"KARVENIS.OLD", countedColumns(5, 100)},
+                 {"KARVENIS.RND", countedColumns(3)}},
                 3},
         Refusal{"LengthFails",
                 Fault::read,
                 "KARVENIS.LST",
-                {{"KARVENIS.LST", records(3)}, {"KARVENIS.OLD", records(5, 100)}},
+                {{"KARVENIS.LST", countedColumns(3)}, {"KARVENIS.OLD", countedColumns(5, 100)}},
                 -1}),
     [](const auto& refusal) { return refusal.param.name; });
 
@@ -305,10 +300,10 @@ TEST(DeleteRndFile, OnlyBeepsWithoutAFile) {
 
 TEST(DeleteRndFile, NoKeepsTheFile) {
   World world;
-  world.files.folder["KARVENIS.RND"] = records(3);
+  world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
   DeleteRndFile(world.around, world.title);
-  EXPECT_EQ(world.files.bytes("KARVENIS.RND"), records(3));
+  EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
   EXPECT_TRUE(world.title.captions.empty());
 }
 
@@ -326,17 +321,16 @@ TEST(DeleteRndFile, YesDeletesAndConfirmsUnderTheDefaultTitle) {
 
 TEST(DeleteRndFile, GoesOnWhereTheDeletionFails) {
   World world;
-  world.files.folder["KARVENIS.RND"] = records(3);
+  world.files.folder["KARVENIS.RND"] = countedColumns(3);
   RefusingFiles files(world.files);
   files.refuses = [](Fault fault, const std::string&) { return fault == Fault::remove; };
-  Surroundings around{world.state, world.boxes,   world.clock,  world.chance,
-                      files,       world.printer, world.windows};
+  Surroundings around = world.over(files);
   world.boxes.expectBeep()
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
       .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
   DeleteRndFile(around, world.title);
-  EXPECT_EQ(world.files.bytes("KARVENIS.RND"), records(3));
+  EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }
 

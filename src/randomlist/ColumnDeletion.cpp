@@ -1,0 +1,59 @@
+#include "randomlist/ColumnDeletion.h"
+
+#include <string>
+
+#include "core/IgnoringFaults.h"
+#include "core/Numbers.h"
+
+namespace karvenis {
+namespace {
+
+constexpr char scratchFile[] = "KARVENIS.YND";
+
+std::uint64_t lengthOrNone(Files& files) {
+  return files.exists(randomColumns) ? files.length(randomColumns) : 0;
+}
+
+}  // namespace
+
+bool ColumnDeletion::load() {
+  ignoringFaults([&] {
+    if (around_.files.exists(scratchFile)) around_.files.remove(scratchFile);
+  });
+  ignoringFaults([&] { count(); });
+  if (RndCount > 0) around_.boxes.beep();
+  return around_.files.exists(randomColumns);
+}
+
+void ColumnDeletion::count() {
+  countedLength_ = lengthOrNone(around_.files);
+  RndCount = recordCount(countedLength_, ColumnRecord::size);
+}
+
+bool ColumnDeletion::remove(std::int32_t DelNo) {
+  if (lengthOrNone(around_.files) != countedLength_) count();
+  if (DelNo < 1 || DelNo > RndCount) {
+    around_.boxes.warn(
+        "Silinecek kolon numarası geçersiz! En çok" + withBlank(RndCount) + " olabilir.",
+        "! DİKKAT ! Geçersiz Kolon Numarası");
+    return false;
+  }
+  if (RndCount == 1) {
+    around_.files.remove(randomColumns);
+  } else {
+    copyWithout(DelNo);
+    around_.files.rename(scratchFile, randomColumns);
+  }
+  return true;
+}
+
+/// Returns with the scratch file on disk.
+void ColumnDeletion::copyWithout(std::int32_t DelNo) {
+  ColumnFile RndFileNo(around_.files, randomColumns, around_.state.Record);
+  ColumnFile YndFileNo(around_.files, scratchFile, around_.state.Record);
+  copyColumnsWithout(DelNo, RndCount, RndFileNo, YndFileNo);
+  RndFileNo.close();
+  YndFileNo.close();
+}
+
+}  // namespace karvenis
