@@ -1,5 +1,8 @@
 #include <QApplication>
 
+#include "bag/frmBalls.h"
+#include "bag/frmBanko.h"
+#include "bag/frmList.h"
 #include "core/Surroundings.h"
 #include "main/frmLoto.h"
 #include "platform/RunTimeError.h"
@@ -51,6 +54,9 @@ int main(int argc, char** argv) {
   chance.seedFrom(clock);
 
   forms.add("frmLoto", [&] { return new frmLoto(around, forms); });
+  forms.add("frmBalls", [&] { return new frmBalls(around, forms); });
+  forms.add("frmBanko", [&] { return new frmBanko(around, forms); });
+  forms.add("frmList", [&] { return new frmList(around, forms); });
 
   forms.show("frmLoto");
   return QApplication::exec();

@@ -1,5 +1,6 @@
 #include "bag/Coupon.h"
 
+#include "bag/Texts.h"
 #include "core/Draw.h"
 #include "core/Numbers.h"
 
@@ -66,11 +67,7 @@ void Coupon::rewind() {
 
 void Coupon::showKeys() {
   around_.boxes.beep();
-  around_.boxes.message(
-      "FONKSİYON TUŞLARI : \r\r"
-      "F10= Yardım\r"
-      "ESC= Kapat\r\r\r"
-      "Diğer Tuşlar= Yeni Bir Sayfa/Kupon Göster");
+  around_.boxes.message(couponKeys);
 }
 
 }  // namespace karvenis

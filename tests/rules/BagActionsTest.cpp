@@ -4,7 +4,7 @@
 
 #include <bitset>
 
-#include "bag/BagHelp.h"
+#include "bag/Texts.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 #include "doubles/Sets.h"
@@ -276,6 +276,7 @@ class SaveBag : public testing::TestWithParam<Save> {};
 TEST_P(SaveBag, WritesFiftyWordsAndNoMore) {
   World world;
   PlainButtons buttons;
+  setBag(world.state, allBalls());  // what stays behind a smaller count is not written
   buttons.mark(GetParam().marked);
   if (!GetParam().old.empty()) world.files.folder["KARVENIS.DAT"] = words(GetParam().old);
   world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep().expectMessage(saved);
@@ -362,27 +363,25 @@ TEST_P(SaveBagRefused, IsAFaultAndLosesNoMarkAndNoByte) {
 
 INSTANTIATE_TEST_SUITE_P(Faults, SaveBagRefused, testing::Values(Fault::open, Fault::write));
 
-TEST(BagHelp, TheKeysAreListedAfterABeep) {
-  World world;
-  world.boxes.expectBeep().expectMessage(
-      "Torba Menüsü FONKSİYON TUŞLARI : \r"
-      "\r"
-      "F1=  Uygula (İşaretli topları torbaya koy)\r"
-      "F2=  Topları 'KARVENIS.DAT' dosyasından yükle\r"
-      "F3=  İşaretli topları 'KARVENIS.DAT' dosyasına kayıtla\r"
-      "F4=  Hepsini Seç\r"
-      "F5=  Hiçbirini Seçme\r"
-      "\r"
-      "F10= Yardım\r"
-      "F11= 'Torba Niçin ve Nasıl Kullanılır' Açıklaması\r"
-      "\r"
-      "ESC= Kapat\r");
-  showBagKeys(world.boxes);
+TEST(BagTexts, Keys) {
+  EXPECT_STREQ(bagKeys,
+               "Torba Menüsü FONKSİYON TUŞLARI : \r"
+               "\r"
+               "F1=  Uygula (İşaretli topları torbaya koy)\r"
+               "F2=  Topları 'KARVENIS.DAT' dosyasından yükle\r"
+               "F3=  İşaretli topları 'KARVENIS.DAT' dosyasına kayıtla\r"
+               "F4=  Hepsini Seç\r"
+               "F5=  Hiçbirini Seçme\r"
+               "\r"
+               "F10= Yardım\r"
+               "F11= 'Torba Niçin ve Nasıl Kullanılır' Açıklaması\r"
+               "\r"
+               "ESC= Kapat\r");
 }
 
-TEST(BagHelp, TheBagIsExplainedWithoutABeep) {
-  World world;
-  world.boxes.expectMessage(
+TEST(BagTexts, Explanation) {
+  EXPECT_EQ(
+      bagExplained,
       "'TORBA' kombinasyonlarda yer alacak topların içine konulduğu sanal bir torbadır; gerçekte, "
       "kullanılacak toplar kümesidir...\r\r"
       "Tüm rastgele ve formüllü kolonlar torbada yer alan sayılardan oluşur...\r\r"
@@ -391,9 +390,8 @@ TEST(BagHelp, TheBagIsExplainedWithoutABeep) {
       "Bununla birlikte, torbaya konmayan (elenen) toplardan biri ve birkaçı 'Sayısal Loto' "
       "çekilişinde çıkarsa, tüm olasılıklar oynansa dahi, 6 tutturulamaz...\r\r"
       "Formül ve filtre kullanarak kombinasyon listesi hazırlamak isterseniz, firmamızın formül "
-      "programını öneririz; bilgi için web sayfamıza bakabilirsiniz...",
-      " KARVENIS 2005 Randomizer [ TORBA'NIN İŞLEVİ ]");
-  explainBag(world.boxes);
+      "programını öneririz; bilgi için web sayfamıza bakabilirsiniz...");
+  EXPECT_STREQ(bagExplainedTitle, " KARVENIS 2005 Randomizer [ TORBA'NIN İŞLEVİ ]");
 }
 
 }  // namespace

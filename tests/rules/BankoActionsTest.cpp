@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "bag/BagHelp.h"
+#include "bag/Texts.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 #include "doubles/Sets.h"
@@ -390,27 +390,25 @@ TEST_P(SaveBankoRefused, IsAFaultAndLosesNoBankoAndNoByte) {
 
 INSTANTIATE_TEST_SUITE_P(Faults, SaveBankoRefused, testing::Values(Fault::open, Fault::write));
 
-TEST(BankoHelp, TheKeysAreListedAfterABeep) {
-  World world;
-  world.boxes.expectBeep().expectMessage(
-      "Banko Menüsü FONKSİYON TUŞLARI : \r"
-      "\r"
-      "F1=  Uygula (İstenen topu/topları banko top yap)\r"
-      "F2=  Banko seçimini 'KARVENIS.DAT' dosyasından yükle\r"
-      "F3=  Banko seçimini 'KARVENIS.DAT' dosyasına kayıtla\r"
-      "\r"
-      "F4-F9= Banko top sayısı seçimi\r"
-      "\r"
-      "F10= Yardım\r"
-      "F11= 'Banko Nedir ve Niçin Kullanılır' Açıklaması\r"
-      "\r"
-      "ESC= Kapat\r");
-  showBankoKeys(world.boxes);
+TEST(BankoTexts, Keys) {
+  EXPECT_STREQ(bankoKeys,
+               "Banko Menüsü FONKSİYON TUŞLARI : \r"
+               "\r"
+               "F1=  Uygula (İstenen topu/topları banko top yap)\r"
+               "F2=  Banko seçimini 'KARVENIS.DAT' dosyasından yükle\r"
+               "F3=  Banko seçimini 'KARVENIS.DAT' dosyasına kayıtla\r"
+               "\r"
+               "F4-F9= Banko top sayısı seçimi\r"
+               "\r"
+               "F10= Yardım\r"
+               "F11= 'Banko Nedir ve Niçin Kullanılır' Açıklaması\r"
+               "\r"
+               "ESC= Kapat\r");
 }
 
-TEST(BankoHelp, BankosAreExplainedWithoutABeep) {
-  World world;
-  world.boxes.expectMessage(
+TEST(BankoTexts, Explanation) {
+  EXPECT_EQ(
+      bankoExplained,
       "'BANKO TOP' ifadesi tüm kombinasyonlarda mutlaka yer alacak topları belirtir...\r\r"
       "Tüm toplar (bankosuz) torbaya konursa, 13983816 olasılık ortaya çıkar. Banko top "
       "kullanmadan, çıkması beklenen 36 top torbaya konursa, 1947792 olasılık ortaya çıkar...\r\r"
@@ -419,9 +417,8 @@ TEST(BankoHelp, BankosAreExplainedWithoutABeep) {
       "Bununla birlikte, banko top (veya toplar) 'Sayısal Loto' çekilişinde çıkmazsa, doğal "
       "olarak, 6 (veya 5) tutturulamaz...\r\r"
       "Formül ve filtre kullanarak kombinasyon listesi hazırlamak isterseniz, firmamızın formül "
-      "programını öneririz; bilgi için web sayfamıza bakabilirsiniz...",
-      " KARVENIS 2005 Randomizer  [ BANKO'NUN İŞLEVİ ]");
-  explainBanko(world.boxes);
+      "programını öneririz; bilgi için web sayfamıza bakabilirsiniz...");
+  EXPECT_STREQ(bankoExplainedTitle, " KARVENIS 2005 Randomizer  [ BANKO'NUN İŞLEVİ ]");
 }
 
 }  // namespace

@@ -77,6 +77,16 @@ class WindowTest : public testing::Test {
     ASSERT_NE(action, nullptr) << entry.toStdString();
     action->trigger();
   }
+  /// The menus by their words, each with those of its entries; a line between entries has none.
+  static std::vector<std::pair<QString, QStringList>> menusOf(Form* form) {
+    std::vector<std::pair<QString, QStringList>> menus;
+    for (const QAction* head : form->findChild<QMenuBar*>()->actions()) {
+      QStringList entries;
+      for (const QAction* entry : head->menu()->actions()) entries.append(entry->text());
+      menus.emplace_back(head->text(), entries);
+    }
+    return menus;
+  }
   /// The lines that a window's surface shows.
   static std::vector<std::string> linesOf(Form* form) {
     std::vector<std::string> lines;

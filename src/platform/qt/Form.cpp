@@ -68,6 +68,14 @@ QMenuBar* Form::menuBar() {
   return menuBar_;
 }
 
+QPushButton* Form::command(const char* name, QStringView text, QStringView tip,
+                           std::function<void()> procedure) {
+  auto* button = control<QPushButton>(QLatin1String(name), text.toString());
+  button->setToolTip(tip.toString());
+  on(button, &QPushButton::clicked, std::move(procedure));
+  return button;
+}
+
 QMenu* Form::menuHead(const char* menuName, const QString& text) {
   QMenu* head = menuBar()->addMenu(text);
   head->setObjectName(QLatin1String(menuName));

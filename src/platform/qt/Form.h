@@ -13,6 +13,7 @@
 
 class QKeyEvent;
 class QLineEdit;
+class QPushButton;
 class QTimer;
 
 namespace karvenis {
@@ -82,6 +83,9 @@ class Form : public QWidget, public TitleBar {
     made->setObjectName(controlName);
     return made;
   }
+  /// A command button of this window.
+  QPushButton* command(const char* name, QStringView text, QStringView tip,
+                       std::function<void()> procedure);
   QMenu* menuHead(const char* menuName, const QString& text);
   QAction* menuEntry(QMenu* head, const char* entryName, const QString& text,
                      std::function<void()> procedure);

@@ -1,0 +1,76 @@
+#include "bag/frmBallsCell.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "platform/qt/Look.h"
+
+namespace karvenis {
+namespace {
+
+constexpr QSize cellSize(50, 46);
+constexpr int textPixels = 17;
+constexpr double ringDiameter = 34;
+
+}  // namespace
+
+BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+  QFont number = font();
+  number.setPixelSize(textPixels);
+  setFont(number);
+  setFixedSize(cellSize);
+}
+
+QSize BallCell::sizeHint() const { return cellSize; }
+
+void BallCell::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF cell = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
+  const bool marked = font().bold();
+  QColor ground = palette().color(QPalette::Button);
+  if (isDown()) {
+    ground = ground.darker(115);
+  } else if (underMouse()) {
+    ground = ground.lighter(105);
+  }
+  painter.setPen(QPen(QColor(marked ? look::petrol : look::edge), 1));
+  painter.setBrush(ground);
+  painter.drawRoundedRect(cell, 5, 5);
+  if (marked) {
+    QRectF ring(0, 0, ringDiameter, ringDiameter);
+    ring.moveCenter(cell.center());
+    painter.setPen(QPen(QColor(look::petrol), 3));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(ring);
+  }
+  painter.setPen(QColor(look::ink));
+  painter.drawText(cell, Qt::AlignCenter, text());
+  if (hasFocus()) {
+    painter.setPen(QPen(QColor(look::ink), 2, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
+  }
+}
+
+void BallCell::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return stepped(-1, 0);
+    case Qt::Key_Right:
+      return stepped(1, 0);
+    case Qt::Key_Up:
+      return stepped(0, -1);
+    case Qt::Key_Down:
+      return stepped(0, 1);
+    default:
+      return QPushButton::keyPressEvent(event);
+  }
+}
+
+void BallCell::focusInEvent(QFocusEvent* event) {
+  QPushButton::focusInEvent(event);
+  entered();
+}
+
+}  // namespace karvenis

@@ -1,0 +1,199 @@
+#include "bag/frmBanko.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "bag/Texts.h"
+#include "platform/qt/Text.h"
+
+namespace karvenis {
+namespace {
+
+constexpr int margin = 16;
+constexpr QSize boxSize(64, 40);
+constexpr int boxPixels = 20;
+
+}  // namespace
+
+frmBanko::frmBanko(Surroundings& around, Forms& forms) : Form(forms, "frmBanko"), around_(around) {
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(margin, margin, margin, margin);
+  whole->setSpacing(margin - 2);
+  whole->setSizeConstraint(QLayout::SetFixedSize);
+  setCaption("Banko");
+  buildMenus();
+  whole->addWidget(buildOptions());
+  whole->addWidget(buildBoxes());
+  whole->addWidget(buildCommands());
+}
+
+void frmBanko::buildMenus() {
+  QMenu* choice = menuHead("mnuSecim", QStringLiteral("Seçim"));
+  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { Command1_Click(); });
+  menuEntry(choice, "mnuSil", QStringLiteral("Seçimi Sil"), [this] { mnuSil_Click(); });
+  choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
+  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { unload(); });
+
+  QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
+  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { Command3_Click(); });
+  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { Command4_Click(); });
+
+  QMenu* help = menuHead("mnuYardim", QStringLiteral("Yardım"));
+  menuEntry(help, "mnuFunctionKeys", QStringLiteral("Fonksiyon Tuşları"),
+            [this] { mnuFunctionKeys_Click(); });
+  menuEntry(help, "mnuBankoNedir", QStringLiteral("Banko Nedir ve Niçin Kullanılır"),
+            [this] { mnuBankoNedir_Click(); });
+}
+
+QWidget* frmBanko::buildOptions() {
+  auto* holder = new QWidget(this);
+  auto* row = new QHBoxLayout(holder);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(margin - 2);
+  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("Banko Top Sayısı:"));
+  row->addWidget(Label1);
+  for (int count = 0; count <= mostBankos; ++count) {
+    auto* option =
+        control<QRadioButton>(QStringLiteral("Option%1").arg(count + 1), QString::number(count));
+    option->setAccessibleName(QStringLiteral("%1 banko top").arg(count));
+    on(option, &QRadioButton::toggled, [this, option, count] {
+      if (option->isChecked()) Option_Click(count);
+    });
+    Option[static_cast<std::size_t>(count)] = option;
+    row->addWidget(option);
+  }
+  row->addStretch();
+  return holder;
+}
+
+QWidget* frmBanko::buildBoxes() {
+  auto* holder = new QWidget(this);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(6);
+  Label2 = control<QLabel>(QStringLiteral("Label2"));
+  column->addWidget(Label2);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(10);
+  for (int index = 0; index < mostBankos; ++index) {
+    auto* box = control<QLineEdit>(QStringLiteral("Text1_%1").arg(index));
+    box->setAccessibleName(QStringLiteral("%1. banko top").arg(index + 1));
+    box->setAlignment(Qt::AlignCenter);
+    box->setFixedSize(boxSize);
+    QFont large = box->font();
+    large.setPixelSize(boxPixels);
+    box->setFont(large);
+    QSizePolicy kept = box->sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    box->setSizePolicy(kept);
+    box->hide();
+    on(box, &QLineEdit::textChanged, [this, index] { Text1_Change(index); });
+    onEnter(box, [this, index] { Text1_Enter(index); });
+    Text1[static_cast<std::size_t>(index)] = box;
+    row->addWidget(box);
+  }
+  row->addStretch();
+  column->addLayout(row);
+  return holder;
+}
+
+QWidget* frmBanko::buildCommands() {
+  auto* holder = new QWidget(this);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* row = new QHBoxLayout;
+  Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
+  Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
+  Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
+  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { unload(); });
+  for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
+  column->addLayout(row);
+  auto* foot = new QHBoxLayout;
+  Label3 = control<QLabel>(QStringLiteral("Label3"), QStringLiteral("KARVENIS 2005 Randomizer"));
+  Label4 = control<QLabel>(QStringLiteral("Label4"), QStringLiteral("F10= Yardım"));
+  foot->addWidget(Label3);
+  foot->addStretch();
+  foot->addWidget(Label4);
+  column->addLayout(foot);
+  return holder;
+}
+
+void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
+
+void frmBanko::Form_KeyDown(int KeyCode, int Shift) {
+  if (Shift != 0) return;
+  if (KeyCode >= keyF4 && KeyCode <= keyF9) return chooseCount(KeyCode - keyF4);
+  switch (KeyCode) {
+    case keyEscape:
+      return unload();
+    case keyF1:
+      return Command1_Click();
+    case keyF2:
+      return Command3_Click();
+    case keyF3:
+      return Command4_Click();
+    case keyF10:
+      return mnuFunctionKeys_Click();
+    case keyF11:
+      return mnuBankoNedir_Click();
+    default:
+      return;
+  }
+}
+
+void frmBanko::Option_Click(int count) {
+  Label2->setText(toQt(bankoCaption(count)));
+  for (int index = 0; index < mostBankos; ++index) {
+    Text1[static_cast<std::size_t>(index)]->setVisible(index < count);
+  }
+}
+
+/// Rewrites the box only where that changes it, so that the caret does not jump.
+void frmBanko::Text1_Change(int Index) {
+  QLineEdit* box = Text1[static_cast<std::size_t>(Index)];
+  const QString kept = toQt(bankoText(fromQt(box->text())));
+  if (kept != box->text()) box->setText(kept);
+}
+
+void frmBanko::Text1_Enter(int Index) {
+  const auto next = static_cast<std::size_t>(Index) + 1;
+  if (next < Text1.size() && Text1[next]->isVisible()) {
+    Text1[next]->setFocus(Qt::TabFocusReason);
+  } else {
+    Command1->setFocus(Qt::TabFocusReason);
+  }
+}
+
+void frmBanko::Command1_Click() { applyBanko(around_, *this); }
+void frmBanko::Command3_Click() { loadBanko(around_, *this); }
+void frmBanko::Command4_Click() { saveBanko(around_, *this); }
+void frmBanko::mnuSil_Click() { clearBanko(around_.state); }
+
+void frmBanko::mnuFunctionKeys_Click() {
+  around_.boxes.beep();
+  around_.boxes.message(bankoKeys);
+}
+
+void frmBanko::mnuBankoNedir_Click() { around_.boxes.message(bankoExplained, bankoExplainedTitle); }
+
+int frmBanko::count() const {
+  const auto chosen =
+      std::ranges::find_if(Option, [](auto* option) { return option->isChecked(); });
+  return chosen == Option.end() ? 0 : static_cast<int>(chosen - Option.begin());
+}
+
+void frmBanko::chooseCount(int count) { Option[static_cast<std::size_t>(count)]->setChecked(true); }
+
+std::string frmBanko::text(int index) const {
+  return fromQt(Text1[static_cast<std::size_t>(index)]->text());
+}
+
+void frmBanko::setText(int index, const std::string& text) {
+  Text1[static_cast<std::size_t>(index)]->setText(toQt(text));
+}
+
+}  // namespace karvenis

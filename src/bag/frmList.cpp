@@ -1,0 +1,80 @@
+#include "bag/frmList.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "platform/qt/Surface.h"
+
+namespace karvenis {
+namespace {
+
+constexpr int tick = 100;        // milliseconds
+constexpr int textPixels = 18;   // device independent
+constexpr int linesOfPage = 10;  // the top margin's line, eight columns, the bottom margin
+constexpr int margin = 12;
+
+}  // namespace
+
+frmList::frmList(Surroundings& around, Forms& forms)
+    : Form(forms, "frmList"), page_(makePage(this)), coupon_(around, *page_, *this) {
+  setCaption("KARVENIS 2005 - Sekiz Rastgele Kolon");
+  setPalette(page_->palette());
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setSpacing(0);
+  whole->setSizeConstraint(QLayout::SetFixedSize);
+  whole->addWidget(page_);
+
+  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("F10 = Yardım"));
+  Label1->setContentsMargins(0, 0, margin, margin);
+  QSizePolicy kept = Label1->sizePolicy();
+  kept.setRetainSizeWhenHidden(true);
+  Label1->setSizePolicy(kept);
+  whole->addWidget(Label1, 0, Qt::AlignRight);
+
+  Timer1 = new QTimer(this);
+  Timer1->setObjectName(QStringLiteral("Timer1"));
+  Timer1->setInterval(tick);
+  on(Timer1, &QTimer::timeout, [this] {
+    if (!isClosing()) coupon_.tick();
+  });
+}
+
+/// A page on which the widest coupon fits.
+Surface* frmList::makePage(QWidget* parent) {
+  auto* page = new Surface(parent);
+  QFont large = page->font();
+  large.setPixelSize(textPixels);
+  page->setFont(large);
+  const QFontMetrics metrics(large);
+  const QString widest = QStringLiteral(" Kolon  8 - 48  48  48  48  48  48  ");
+  page->setFixedSize(metrics.horizontalAdvance(widest) + margin, linesOfPage * metrics.height());
+  return page;
+}
+
+void frmList::Form_Load() { coupon_.start(); }
+
+void frmList::Form_KeyDown(int KeyCode, int) {
+  switch (KeyCode) {
+    case keyEscape:
+      return unload();
+    case keyF10:
+      return coupon_.showKeys();
+    default:
+      return coupon_.newPage();
+  }
+}
+
+void frmList::Form_DblClick() { coupon_.newPage(); }
+
+void frmList::enableTimer1(bool enabled) {
+  // Starting a timer that runs would put its tick off, for ever under a key that is held.
+  if (!enabled) Timer1->stop();
+  if (enabled && !Timer1->isActive()) Timer1->start();
+}
+
+void frmList::hideLabel1() { Label1->hide(); }
+
+}  // namespace karvenis
