@@ -49,6 +49,7 @@ void moveFrame(QWidget& window, QPointF place) {
                             .toPoint();
   const QRect frame(wanted, window.sizeHint());
   const QRect title(frame.topLeft(), QSize(frame.width(), 24));
+  window.adjustSize();  // a change of size after the move would place the contents, not the frame
   window.move(titleSeen(title) ? wanted : nearestPlace(frame));
 }
 

@@ -1,0 +1,67 @@
+"""The base of the desktop tests: a screen for each test class, a fresh run for each test."""
+
+import os
+import sys
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+from program import STANDARD_TITLE, Program  # noqa: E402
+from screen import Screen  # noqa: E402
+
+HOUSE = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+EXECUTABLE = os.environ.get("KARVENIS_PROGRAM", os.path.join(HOUSE, "build/release/karvenis"))
+PICTURES = os.environ.get("KARVENIS_PICTURES", os.path.join(HOUSE, "build/desktop"))
+
+
+class DesktopCase(unittest.TestCase):
+    """A failing test leaves a picture of the screen and the words of the windows."""
+
+    maxDiff = None
+
+    @classmethod
+    def setUpClass(cls):
+        if not os.access(EXECUTABLE, os.X_OK):
+            raise FileNotFoundError(f"build it first: {EXECUTABLE}")
+        cls.screen = Screen()
+        cls.addClassCleanup(cls.screen.close)
+
+    def start(self, files=None, **options):
+        """Starts the program in a fresh folder that holds `files`; its main window is active."""
+        self.program = Program(self.screen, EXECUTABLE, files, **options)
+        self.addCleanup(self.program.close)
+        self.main = self.program.window(STANDARD_TITLE)
+        self.program.activated(STANDARD_TITLE)
+        return self.program
+
+    def expect_box(self, text, title=STANDARD_TITLE, buttons=("Tamam",), answer="Return"):
+        """A box with these words comes, and goes with the answer."""
+        box = self.program.box()
+        self.assertEqual((box.title, box.text, tuple(box.buttons)), (title, text, buttons))
+        box.press(answer)
+
+    def expect_question(self, text, answer, title=STANDARD_TITLE):
+        key = {"Evet": "Return", "Hayır": "Escape"}[answer]
+        self.expect_box(text, title, ("Evet", "Hayır"), key)
+
+    def expect_end(self, status=0):
+        self.assertEqual(self.program.status(), status)
+        self.assertEqual(self.program.words(), "", "the program wrote to its terminal")
+
+    def _callTestMethod(self, method):
+        try:
+            super()._callTestMethod(method)
+        except unittest.SkipTest:
+            raise
+        except BaseException:
+            self._leave_evidence()
+            raise
+
+    def _leave_evidence(self):
+        path = os.path.join(PICTURES, self.id().split(".", 1)[1] + ".png")
+        self.screen.picture(path)
+        print(f"picture of the failure: {path}", file=sys.stderr)
+        program = getattr(self, "program", None)
+        if program and program.runs():
+            for window in program.windows():
+                print(window.describe(), file=sys.stderr)

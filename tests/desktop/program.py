@@ -1,0 +1,188 @@
+"""The built program at work on a screen: real keys, real clicks, its windows and its boxes."""
+
+import os
+import re
+import shutil
+import subprocess
+import tempfile
+
+import reading
+from screen import start, stop, wait_for
+
+STANDARD_TITLE = " KARVENIS 2005 Randomizer"
+
+
+class Box:
+    """A message, question or input box that waits for an answer."""
+
+    def __init__(self, program, node):
+        self.program, self.node = program, node
+        self.title = node.name
+        labels = [label.name for label in node.all("label")]
+        self.text = labels[-1] if labels else ""
+        self.buttons = [button.name for button in node.all("push button")]
+
+    def press(self, key):
+        """Answers by a key: Return takes the first button, Escape the refusing one."""
+        self.program.keys(key)
+        self.program.until(lambda: self.node not in self.program.boxes(), f"«{self.title}» to close")
+
+    def type(self, text):
+        """Types into an input box, in place of what it holds, and accepts it."""
+        self.program.keys("ctrl+a", "Delete")
+        if text:
+            self.program.type(text)
+        self.press("Return")
+
+
+class Program:
+    """One run of the program in a folder of its own."""
+
+    def __init__(self, screen, executable, files=None, folder=None, environment=None):
+        self.screen = screen
+        self.temporary = folder is None
+        self.folder = folder or tempfile.mkdtemp(prefix="karvenis-folder-")
+        for name, content in (files or {}).items():
+            with open(os.path.join(self.folder, name), "wb") as file:
+                file.write(content)
+        self._words = tempfile.TemporaryFile()
+        self.process = start([executable], cwd=self.folder, stdout=self._words,
+                             stderr=self._words, env={**screen.environment, **(environment or {})})
+
+    def close(self):
+        stop(self.process)
+        self._words.close()
+        if self.temporary:
+            shutil.rmtree(self.folder, ignore_errors=True)
+
+    # Waiting
+
+    def until(self, condition, what):
+        def or_ended():
+            return condition() or (self.process.poll() is not None and "ended")
+        if wait_for(or_ended, what) == "ended" and not condition():
+            raise AssertionError(f"the program ended with {self.process.returncode} while it was "
+                                 f"awaited: {what}\n{self.words()}")
+
+    def status(self):
+        """The exit status, once the program has ended by itself."""
+        wait_for(lambda: self.process.poll() is not None, "the program to end")
+        return self.process.returncode
+
+    def runs(self):
+        return self.process.poll() is None
+
+    def words(self):
+        """What the program wrote to its terminal; a healthy one writes nothing."""
+        self._words.seek(0)
+        return self._words.read().decode(errors="replace")
+
+    # Windows
+
+    def windows(self):
+        """Windows and boxes that are open, in the order in which they were made."""
+        program = reading.programs(self.screen.bus).get(self.process.pid)
+        return program.children if program else []
+
+    def window(self, title, part=False):
+        """The window of this title, awaited; with `part` the title only starts so."""
+        found = []
+
+        def look():
+            found[:] = [node for node in self.windows()
+                        if (node.name.startswith(title) if part else node.name == title)
+                        and node.has("showing")]
+            return found
+        self.until(look, f"the window «{title}»; open are {self.titles()}")
+        return found[0]
+
+    def titles(self):
+        return [node.name for node in self.windows() if node.has("showing")]
+
+    def gone(self, title):
+        self.until(lambda: title not in self.titles(), f"the window «{title}» to close")
+
+    def boxes(self):
+        return [node for node in self.windows() if node.role in ("dialog", "alert message")]
+
+    def box(self, title=None):
+        """The box that is open, awaited until it takes the keys."""
+        found = []
+
+        def look():
+            found[:] = [node for node in self.boxes() if title in (None, node.name)]
+            return found and self.active_title() == found[0].name
+        self.until(look, f"the box «{title}»; open are {self.titles()}")
+        return Box(self, found[0])
+
+    def active_title(self):
+        """The title that the window manager shows for the window with the keyboard."""
+        return self.title_of(self.active_id())
+
+    def active_id(self):
+        found = re.search(r"0x[0-9a-f]+", self.screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))
+        return found.group() if found else "0x0"
+
+    def title_of(self, window_id):
+        told = self.screen.run("xprop", "-notype", "-id", window_id, "-f", "_NET_WM_NAME", "8u",
+                               " = $0\n", "_NET_WM_NAME")
+        found = re.search(r'_NET_WM_NAME = "(.*)"', told)
+        return found.group(1) if found else None
+
+    def activated(self, title):
+        """Waits until the window of this title has the keyboard."""
+        self.until(lambda: self.active_title() == title,
+                   f"«{title}» to be active; active is «{self.active_title()}»")
+
+    def titled(self, pattern):
+        """The active window's title, awaited until it matches the pattern."""
+        found = []
+
+        def look():
+            found[:] = [re.fullmatch(pattern, self.active_title() or "")]
+            return found[0]
+        self.until(look, f"a title like «{pattern}»; it is «{self.active_title()}»")
+        return found[0]
+
+    # Hands
+
+    def keys(self, *keys):
+        self.screen.run("xdotool", "key", "--clearmodifiers", *keys)
+
+    def hold(self, key):
+        self.screen.run("xdotool", "keydown", key)
+
+    def release(self, key):
+        self.screen.run("xdotool", "keyup", key)
+
+    def type(self, text):
+        self.screen.run("xdotool", "type", "--delay", "5", text)
+
+    def click(self, node, times=1):
+        left, top, width, height = node.place
+        self.click_at(left + width // 2, top + height // 2, times)
+
+    def click_at(self, left, top, times=1):
+        self.screen.run("xdotool", "mousemove", str(left), str(top), "click", "--repeat",
+                        str(times), "--delay", "30", "1")
+
+    def close_by_frame(self, title):
+        """Asks the window manager to close the active window, as its cross does."""
+        self.activated(title)
+        self.keys("alt+F4")
+
+    # Files
+
+    def path(self, name):
+        return os.path.join(self.folder, name)
+
+    def files(self):
+        return sorted(os.listdir(self.folder))
+
+    def bytes(self, name):
+        with open(self.path(name), "rb") as file:
+            return file.read()
+
+    def has_file(self, name, size=None):
+        path = self.path(name)
+        return os.path.exists(path) and (size is None or os.path.getsize(path) == size)
