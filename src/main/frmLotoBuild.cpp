@@ -169,7 +169,7 @@ void frmLoto::buildBall(int k) {
     Image1[static_cast<std::size_t>(index)] = image;
   }
   const QRect plate(QPoint(rest.center().x() - plateSize.width() / 2, plateTop), plateSize);
-  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -4), 30, "color: #2a2622;");
+  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -7), 30, "color: #2a2622;");
   buildLabel(2 * k - 1, plate, 20,
              "color: #1f5a60; background: #fffdf7; border: 1px solid #c9b48c; border-radius: 6px;");
 }

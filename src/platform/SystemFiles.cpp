@@ -50,10 +50,10 @@ class Descriptor {
   int number_;
 };
 
-/// Puts the names of the current directory on disk.
-bool syncDirectory() {
-  const Descriptor directory(::open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  return directory && uninterrupted([&] { return ::fsync(directory.get()); }) == 0;
+/// Puts the names of a folder, the current one unless told, on disk.
+bool syncFolder(const std::string& folder = ".") {
+  const Descriptor names(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  return names && uninterrupted([&] { return ::fsync(names.get()); }) == 0;
 }
 
 std::size_t readAll(int descriptor, std::uint64_t offset, std::span<std::byte> into,
@@ -102,7 +102,7 @@ class SystemFile final : public File {
   }
   void sync() override {
     if (uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) fail(Fault::write, name_);
-    if (created_ && !syncDirectory()) fail(Fault::write, name_);
+    if (created_ && !syncFolder()) fail(Fault::write, name_);
     created_ = false;
   }
   void close() override {
@@ -132,13 +132,25 @@ void refuseAllButRegular(const Descriptor& descriptor, Fault fault, const std::s
   if (!S_ISREG(status.st_mode)) fail(fault, name, EINVAL);
 }
 
+/// The file that a link of this name stands for; the name itself where it is no link.
+std::string behindLinks(const std::string& name) {
+  const std::unique_ptr<char, decltype(&std::free)> path(::realpath(name.c_str(), nullptr),
+                                                         &std::free);
+  return path ? path.get() : name;
+}
+
+std::string folderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
 /// A copy grows under a name of its own beside its target and takes the target's place when it is
 /// whole and on disk. Where that does not come to pass, nothing of it stays behind.
 class Replacement {
  public:
   explicit Replacement(const std::string& target)
-      : target_(target),
-        name_(target + ".XXXXXX"),
+      : target_(behindLinks(target)),
+        name_(target_ + ".XXXXXX"),
         descriptor_(::mkostemp(name_.data(), O_CLOEXEC)) {
     if (!descriptor_) fail(Fault::copy, target_);
   }
@@ -157,7 +169,7 @@ class Replacement {
       fail(Fault::copy, target_);
     }
     done_ = true;
-    if (!syncDirectory()) fail(Fault::copy, target_);
+    if (!syncFolder(folderOf(target_))) fail(Fault::copy, target_);
   }
 
  private:
@@ -215,11 +227,11 @@ void SystemFiles::copy(const std::string& from, const std::string& to) {
 
 void SystemFiles::remove(const std::string& name) {
   if (::unlink(name.c_str()) != 0) fail(Fault::remove, name);
-  if (!syncDirectory()) fail(Fault::remove, name);
+  if (!syncFolder()) fail(Fault::remove, name);
 }
 
 void SystemFiles::rename(const std::string& from, const std::string& to) {
-  if (::rename(from.c_str(), to.c_str()) != 0 || !syncDirectory()) fail(Fault::rename, from);
+  if (::rename(from.c_str(), to.c_str()) != 0 || !syncFolder()) fail(Fault::rename, from);
 }
 
 }  // namespace karvenis

@@ -1,0 +1,67 @@
+#include "comblist/RandomColumn.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace karvenis {
+namespace {
+
+bool isBall(std::int16_t number) { return number >= 1 && number <= ballsInAll; }
+
+}  // namespace
+
+RandomColumn::RandomColumn(const SharedState& state) {
+  const auto mark = [this](std::int16_t ball, std::int16_t value) {
+    if (isBall(ball)) full_[static_cast<std::size_t>(ball)] = value;
+  };
+  if (state.balls().empty()) {
+    for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) mark(ball, ball);
+  }
+  for (const std::int16_t ball : state.balls()) mark(ball, ball);
+  for (const std::int16_t banko : state.bankos()) {
+    bankos_[firstDrawn_] = banko;
+    ++firstDrawn_;
+    mark(banko, 0);
+  }
+  const auto end = std::remove(full_.begin() + 1, full_.end(), std::int16_t{0});
+  full_[0] = static_cast<std::int16_t>(end - full_.begin() - 1);
+}
+
+const karvenis::Column& RandomColumn::draw(Chance& chance) {
+  Pool = full_;
+  std::copy_n(bankos_.begin(), firstDrawn_, Column.begin());
+  for (std::size_t position = firstDrawn_; position <= ballsInColumn; ++position) {
+    const std::int32_t drawn = chance.index(Pool[0]);
+    Column[position] = Pool[static_cast<std::size_t>(drawn)];
+    take(drawn);
+  }
+  sortByPresence();
+  return Column;
+}
+
+/// Takes entry `drawn` out of the pool. The entries behind it move up; where none is behind it, the
+/// pool shrinks by two. An exhausted pool only loses its stale first entry.
+void RandomColumn::take(std::int32_t drawn) {
+  const std::int16_t count = Pool[0];
+  const auto place = Pool.begin() + drawn;
+  if (drawn < count) {
+    std::copy(place + 1, Pool.begin() + count + 1, place);
+    Pool[0] = static_cast<std::int16_t>(count - 1);
+  } else {
+    *place = 0;
+    Pool[0] = static_cast<std::int16_t>(std::max(count - 2, 0));
+  }
+}
+
+void RandomColumn::sortByPresence() {
+  std::uint64_t present = 0;
+  for (std::size_t i = 1; i <= ballsInColumn; ++i) {
+    if (isBall(Column[i])) present |= std::uint64_t{1} << static_cast<unsigned>(Column[i]);
+  }
+  for (std::size_t i = 1; present != 0; ++i) {
+    Column[i] = static_cast<std::int16_t>(std::countr_zero(present));
+    present &= present - 1;
+  }
+}
+
+}  // namespace karvenis

@@ -1,0 +1,105 @@
+#include "comblist/RandomList.h"
+
+#include "core/Checked.h"
+#include "core/ColumnFile.h"
+#include "core/Numbers.h"
+
+namespace karvenis {
+namespace {
+
+/// A count below this one, left in the box, is taken for a slip when a first list is to be made.
+constexpr std::int32_t leastSensibleCount = 8;
+constexpr char attentionTitle[] = "! DİKKAT !";
+
+}  // namespace
+
+RandomList::RandomList(Surroundings& around, TitleBar& title) : around_(around), title_(title) {
+  if (around.files.exists(combinationList)) {
+    ExistingCount = columnCount(around.files, combinationList);
+  }
+}
+
+std::string RandomList::countForNewList(const std::string& text) const {
+  if (ExistingCount > 0) return std::to_string(ExistingCount);
+  return leadingNumber(text) < leastSensibleCount ? std::to_string(recordLimit) : text;
+}
+
+RandomList::Outcome RandomList::start(Mode mode, std::string_view text) {
+  WantedCount = typedNumber32(text);
+  if (refuses(mode)) return Outcome::refused;
+  if (mode == Mode::newList && ExistingCount > 0 &&
+      !around_.boxes.ask("Mevcut kombinasyon listesini yenisi ile değiştirmek istiyormusunuz?")) {
+    return Outcome::kept;
+  }
+  around_.chance.seedFrom(around_.clock);
+  RandomColumn draw(around_.state);
+  mode == Mode::newList ? GenerateNewList(draw) : AppendToList(draw);
+  return Outcome::done;
+}
+
+/// Whether the wanted count cannot be; the user has heard it then.
+bool RandomList::refuses(Mode mode) {
+  if (mode == Mode::newList) {
+    if (WantedCount >= 1 && WantedCount <= recordLimit) return false;
+    around_.boxes.warn("En az 1 ve en çok 32767 kolon kayıtlayabilirsiniz!", attentionTitle);
+    return true;
+  }
+  if (std::int64_t{ExistingCount} + WantedCount > recordLimit) {
+    around_.boxes.warn("En çok" + withBlank(std::int64_t{recordLimit} - ExistingCount) +
+                           " kolon ekleyebilirsiniz!",
+                       attentionTitle);
+    return true;
+  }
+  if (WantedCount >= 1) return false;
+  around_.boxes.beep();
+  return true;
+}
+
+/// Writes records 1..WantedCount. Records of a longer old list stay behind them.
+void RandomList::GenerateNewList(RandomColumn& draw) {
+  backUpList(around_.files);
+  open();
+  RecordNo = 0;
+  do {
+    const std::int64_t number = std::int64_t{RecordNo} + 1;
+    title_.setCaption(caption_.start("KOLON=").addWithBlank(number).text());
+    write(draw.draw(around_.chance), number);
+  } while (RecordNo < WantedCount);
+  finish(RecordNo, " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+}
+
+/// Writes WantedCount records behind those that the list has by now.
+void RandomList::AppendToList(RandomColumn& draw) {
+  open();
+  const std::int32_t Start = around_.state.FileNo->count();
+  RecordNo = checked<std::int16_t>(Start);
+  do {
+    const std::int64_t number = std::int64_t{RecordNo} + 1;
+    caption_.start("KOLON=").addWithBlank(number);
+    caption_.add("  [").add(number - Start).add("]");
+    title_.setCaption(caption_.text());
+    write(draw.draw(around_.chance), number);
+  } while (RecordNo < std::int64_t{Start} + WantedCount);
+  finish(RecordNo - Start, " kolon 'KARVENIS.LST' dosyasına eklendi.");
+}
+
+void RandomList::open() {
+  around_.state.FileNo.emplace(around_.files, combinationList, around_.state.Record);
+}
+
+/// Writes `drawn` as record `number`, which is also its word.
+void RandomList::write(const Column& drawn, std::int64_t number) {
+  RecordNo = checked<std::int16_t>(number);
+  around_.state.Record = {.Word = RecordNo, .Balls = drawn};
+  around_.state.FileNo->put(RecordNo);
+}
+
+void RandomList::finish(std::int32_t written, const char* words) {
+  around_.state.FileNo->close();
+  around_.state.FileNo.reset();
+  around_.boxes.beep();
+  around_.boxes.message(withBlank(written) + words);
+  title_.setCaption(generatorTitle);
+}
+
+}  // namespace karvenis

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/Surroundings.h"
+#include "platform/TitleBar.h"
+
+namespace karvenis {
+
+/// Where a list goes.
+enum class Output { text, printer };
+
+/// All that tells the two listing dialogs apart.
+struct Listing {
+  const char* source;  ///< the column file
+  const char* title;   ///< of the dialog
+  const char* questionTitle;
+  const char* textQuestion;
+  const char* printerQuestion;
+  const char* startTitle;  ///< of the dialog while the text file is begun
+  const char* progress;    ///< what stands before the byte's number in the title meanwhile
+  const char* heading;     ///< the second line up to the date
+  const char* headingEnd;  ///< ... and behind it, in the text file
+};
+
+extern const Listing randomColumnListing;
+extern const Listing combinationListing;
+
+/// Records first..last of a list, both within it.
+struct ListRange {
+  std::int32_t first;
+  std::int32_t last;
+  std::int32_t count() const { return last - first + 1; }
+};
+
+/// Lists all random columns, after the question. Throws RunTimeError(overflow) where they are more
+/// than a 16-bit number counts.
+void listRandomColumns(Surroundings& around, TitleBar& title, Output output);
+
+/// Which end of a typed range was refused.
+enum class RangeRefusal { none, first, last };
+
+/// Lists the range of the combination list, after the question; says which end lies outside it.
+RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output output,
+                              ListRange range);
+
+/// Records of the list; none where its file is gone.
+std::int32_t listedCount(Files& files, const Listing& listing);
+
+/// Writes the range of the open `around.state.FileNo` to the text file, replacing it; the title
+/// tells the progress byte by byte in head and tail and once a line between. Ends with a box that
+/// tells the file's length. Throws RunTimeError.
+void WriteListText(Surroundings& around, TitleBar& title, const Listing& listing, ListRange range);
+
+/// Prints the range of the open `around.state.FileNo`. Throws RunTimeError.
+void PrintList(Surroundings& around, const Listing& listing, ListRange range);
+
+}  // namespace karvenis

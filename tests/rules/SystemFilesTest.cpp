@@ -1,0 +1,150 @@
+#include "platform/SystemFiles.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+
+#include "doubles/MemoryFiles.h"
+
+namespace karvenis {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Every test works in a fresh folder of its own.
+class InAFolder : public testing::Test {
+ protected:
+  void SetUp() override {
+    before_ = fs::current_path();
+    std::string name = (fs::temp_directory_path() / "karvenis.XXXXXX").string();
+    ASSERT_NE(::mkdtemp(name.data()), nullptr);
+    folder_ = name;
+    fs::current_path(folder_);
+  }
+  void TearDown() override {
+    fs::current_path(before_);
+    fs::remove_all(folder_);
+  }
+  static void put(const std::string& name, const std::string& text) {
+    std::ofstream(name, std::ios::binary) << text;
+  }
+  static std::string get(const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  static std::size_t filesThere() {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator("."), fs::directory_iterator()));
+  }
+  static Fault faultOf(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const RunTimeError& error) {
+      EXPECT_FALSE(error.reason().empty());
+      return error.fault();
+    }
+    ADD_FAILURE() << "no fault";
+    return Fault::overflow;
+  }
+
+  SystemFiles files;
+
+ private:
+  fs::path before_, folder_;
+};
+
+TEST_F(InAFolder, OpenCreatesAMissingFile) {
+  files.open("NEW")->close();
+  EXPECT_TRUE(files.exists("NEW"));
+  EXPECT_EQ(files.length("NEW"), 0U);
+}
+
+TEST_F(InAFolder, WritesAndReadsAtAnOffset) {
+  const auto file = files.open("F");
+  file->write(4, hex("41 42"));
+  EXPECT_EQ(file->length(), 6U);
+  std::array<std::byte, 10> bytes{};
+  EXPECT_EQ(file->read(3, bytes), 3U);
+  EXPECT_EQ(bytes[1], std::byte{0x41});
+  file->sync();
+  file->close();
+  file->close();
+  EXPECT_EQ(get("F"), std::string("\0\0\0\0AB", 6));
+}
+
+TEST_F(InAFolder, ExistsMeansARegularFileOfExactlyThatName) {
+  put("karvenis.lst", "x");
+  fs::create_directory("FOLDER");
+  ASSERT_EQ(::mkfifo("PIPE", 0600), 0);
+  fs::create_symlink("NOWHERE", "DANGLING");
+  put("FILE", "x");
+  EXPECT_TRUE(files.exists("FILE"));
+  for (const char* name : {"KARVENIS.LST", "FOLDER", "PIPE", "DANGLING", "MISSING", ""}) {
+    EXPECT_FALSE(files.exists(name)) << name;
+  }
+}
+
+TEST_F(InAFolder, OpeningWhatIsNoFileFailsAtOnce) {
+  fs::create_directory("FOLDER");
+  ASSERT_EQ(::mkfifo("PIPE", 0600), 0);
+  EXPECT_EQ(faultOf([&] { files.open("FOLDER"); }), Fault::open);
+  EXPECT_EQ(faultOf([&] { files.open("PIPE"); }), Fault::open);
+}
+
+TEST_F(InAFolder, CopyReplacesItsTargetWholeAndLeavesNothingElse) {
+  put("FROM", std::string(1'000'000, 'n'));
+  put("TO", std::string(2'000'000, 'o'));
+  files.copy("FROM", "TO");
+  EXPECT_EQ(get("TO"), std::string(1'000'000, 'n'));
+  EXPECT_EQ(get("FROM"), get("TO"));
+  EXPECT_EQ(filesThere(), 2U);
+}
+
+TEST_F(InAFolder, AFailedCopyLeavesItsTarget) {
+  put("TO", "old");
+  fs::create_directory("FOLDER");
+  EXPECT_EQ(faultOf([&] { files.copy("MISSING", "TO"); }), Fault::copy);
+  EXPECT_EQ(faultOf([&] { files.copy("FOLDER", "TO"); }), Fault::copy);
+  EXPECT_EQ(faultOf([&] { files.copy("TO", "FOLDER"); }), Fault::copy);
+  EXPECT_EQ(get("TO"), "old");
+  EXPECT_EQ(filesThere(), 2U);
+}
+
+TEST_F(InAFolder, ACopyOntoALinkKeepsTheLink) {
+  put("FROM", "new");
+  put("REAL", "old");
+  fs::create_symlink("REAL", "LINK");
+  files.copy("FROM", "LINK");
+  EXPECT_TRUE(fs::is_symlink("LINK"));
+  EXPECT_EQ(get("REAL"), "new");
+}
+
+TEST_F(InAFolder, RenameReplacesItsTarget) {
+  put("FROM", "new");
+  put("TO", "old");
+  files.rename("FROM", "TO");
+  EXPECT_EQ(get("TO"), "new");
+  EXPECT_EQ(filesThere(), 1U);
+  EXPECT_EQ(faultOf([&] { files.rename("FROM", "TO"); }), Fault::rename);
+}
+
+TEST_F(InAFolder, RemoveRemovesAndFailsWhereNothingIs) {
+  put("F", "x");
+  files.remove("F");
+  EXPECT_FALSE(files.exists("F"));
+  EXPECT_EQ(faultOf([&] { files.remove("F"); }), Fault::remove);
+}
+
+TEST_F(InAFolder, LengthOfWhatIsNoFileFails) {
+  fs::create_directory("FOLDER");
+  EXPECT_EQ(faultOf([&] { files.length("MISSING"); }), Fault::read);
+  EXPECT_EQ(faultOf([&] { files.length("FOLDER"); }), Fault::read);
+}
+
+}  // namespace
+}  // namespace karvenis
