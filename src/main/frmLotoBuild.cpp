@@ -32,6 +32,15 @@ constexpr int tickOfBalls = 20;   // milliseconds
 constexpr int tickOfClock = 100;  // milliseconds
 constexpr double twipsPerPixel = 15;
 
+/// The one button that everything is about.
+constexpr char drawButtonSheet[] = R"(
+QPushButton { font-size: 22px; font-weight: bold; color: white; border: 1px solid #123f44; border-radius: 8px;
+  background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #2f7d83, stop:1 #174a50); }
+QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #3a8d93, stop:1 #1f5a60); }
+QPushButton:pressed { background: #123f44; }
+QPushButton:focus { border: 3px solid #e8a92c; }
+)";
+
 /// Where ball `k` comes to rest.
 QRect restOf(int k) {
   const int cell = (stageSize.width() - 6 * cellWidth) / 2 + (k - 1) * cellWidth;
@@ -200,7 +209,7 @@ void frmLoto::buildPanel() {
   row->addWidget(buildChoices());
   Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Kolon"));
   Command1->setToolTip(QStringLiteral("Yeni Kolon"));
-  Command1->setStyleSheet(QStringLiteral("font-size: 20px; font-weight: bold;"));
+  Command1->setStyleSheet(QLatin1String(drawButtonSheet));
   Command1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   on(Command1, &QPushButton::clicked, [this] { Command1_Click(); });
   row->addWidget(Command1, 1);

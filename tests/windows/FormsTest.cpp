@@ -1,0 +1,211 @@
+#include "platform/qt/Forms.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "platform/RunTimeError.h"
+#include "windows/WindowTest.h"
+
+namespace karvenis {
+namespace {
+
+/// A window that notes what happens to it.
+class Noting : public Form {
+ public:
+  Noting(Forms& all, const char* name, std::vector<std::string>& log) : Form(all, name), log_(log) {
+    resize(200, 120);
+    Text1 = control<QLineEdit>(QStringLiteral("Text1"));
+    Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Tamam"));
+    Text1->setGeometry(10, 10, 80, 24);
+    Command1->setGeometry(10, 50, 80, 30);
+    on(Command1, &QPushButton::clicked, [this] { note("Command1_Click"); });
+    onEnter(Text1, [this] {
+      note("Text1 Enter");
+      Command1->setFocus();
+    });
+    Text1->setFocus();
+  }
+  void Form_Load() override { note("Form_Load"); }
+  void Form_Activate() override { note("Form_Activate"); }
+
+  std::function<void()> onKey;
+  QLineEdit* Text1;
+  QPushButton* Command1;
+
+ protected:
+  void Form_KeyDown(int KeyCode, int Shift) override {
+    note("KeyDown " + std::to_string(KeyCode) + "/" + std::to_string(Shift));
+    if (onKey) onKey();
+    if (KeyCode == keyEscape) unload();
+  }
+  void Form_KeyPress(int KeyAscii) override { note("KeyPress " + std::to_string(KeyAscii)); }
+  void Form_Click() override { note("Click"); }
+  void Form_DblClick() override { note("DblClick"); }
+  void Form_Resize() override { note("Resize"); }
+
+ private:
+  void note(const std::string& what) { log_.push_back(name() + " " + what); }
+  std::vector<std::string>& log_;
+};
+
+using Log = std::vector<std::string>;
+
+class FormsTest : public WindowTest {
+ protected:
+  Log log;
+  void SetUp() override {
+    for (const char* name : {"frmA", "frmB", "frmC"}) {
+      forms.add(name, [this, name] { return new Noting(forms, name, log); });
+    }
+  }
+  Noting* show(const char* name) { return static_cast<Noting*>(open(name)); }
+  Log taken() { return std::exchange(log, {}); }
+};
+
+TEST_F(FormsTest, AWindowLoadsResizesAndActivatesOnce) {
+  show("frmA");
+  EXPECT_EQ(taken(), (Log{"frmA Form_Load", "frmA Resize", "frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, ShowingAnOpenWindowRaisesIt) {
+  show("frmA");
+  show("frmB");
+  taken();
+  show("frmA");
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+  show("frmB");
+  EXPECT_EQ(taken(), (Log{"frmB Form_Activate"}));
+}
+
+TEST_F(FormsTest, ClosingActivatesTheOpener) {
+  show("frmA");
+  show("frmB");
+  Noting* c = show("frmC");
+  taken();
+  press(c, Qt::Key_Escape);
+  EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmB Form_Activate"}));
+}
+
+TEST_F(FormsTest, ClosingAnOrphanActivatesTheMainWindow) {
+  show("frmA");
+  Noting* b = show("frmB");
+  Noting* c = show("frmC");
+  press(b, Qt::Key_Escape);
+  settle();
+  show("frmC");
+  taken();
+  press(c, Qt::Key_Escape);
+  EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {
+  Noting* a = show("frmA");
+  taken();
+  QEvent away(QEvent::WindowDeactivate);
+  QEvent back(QEvent::WindowActivate);
+  QCoreApplication::sendEvent(a, &away);
+  QCoreApplication::sendEvent(a, &back);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(FormsTest, TheFormSeesAKeyOnceBeforeTheControl) {
+  Noting* a = show("frmA");
+  taken();
+  press(a, Qt::Key_7);
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 55/0"}));
+  EXPECT_EQ(a->Text1->text(), "7");
+  press(a, Qt::Key_F1, Qt::ShiftModifier);
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/1", "frmA KeyDown 112/1"})) << "Shift is a key too";
+}
+
+TEST_F(FormsTest, FunctionKeysIgnoreRepeatsAndOthersDoNot) {
+  Noting* a = show("frmA");
+  taken();
+  hold(a, Qt::Key_F5, 3);
+  EXPECT_EQ(taken().size(), 1U);
+  hold(a, Qt::Key_Down, 3);
+  EXPECT_EQ(taken().size(), 4U);
+}
+
+TEST_F(FormsTest, TheEnterThatMovesTheFocusDoesNotPressTheButton) {
+  Noting* a = show("frmA");
+  taken();
+  hold(a, Qt::Key_Return, 3);
+  EXPECT_EQ(std::ranges::count(log, "frmA Text1 Enter"), 1);
+  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 0);
+  press(a, Qt::Key_Return);
+  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 1);
+  press(a, Qt::Key_Enter);
+  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 2);
+}
+
+TEST_F(FormsTest, CtrlAndAltGiveNoCharacter) {
+  Noting* a = show("frmA");
+  taken();
+  press(a, Qt::Key_Escape, Qt::ControlModifier);
+  EXPECT_EQ(std::ranges::count(log, "frmA KeyPress 27"), 0);
+}
+
+TEST_F(FormsTest, AClickCountsOnTheFreeSurfaceOnly) {
+  Noting* a = show("frmA");
+  taken();
+  click(a, {150, 100});
+  EXPECT_EQ(taken(), (Log{"frmA Click"}));
+  click(a->Text1);
+  EXPECT_TRUE(taken().empty());
+  QTest::mouseClick(a->windowHandle(), Qt::RightButton, {}, {150, 100});
+  EXPECT_TRUE(taken().empty());
+}
+
+TEST_F(FormsTest, ADoubleClickIsOneClickAndOneDoubleClick) {
+  Noting* a = show("frmA");
+  taken();
+  doubleClick(a, {150, 100});
+  EXPECT_EQ(taken(), (Log{"frmA Click", "frmA DblClick"}));
+}
+
+TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
+  Noting* a = show("frmA");
+  a->onKey = [] { throw RunTimeError(Fault::write, "KARVENIS.RND", "Diskte yer kalmadı."); };
+  world.boxes.expectMessage("'KARVENIS.RND' dosyasına yazılamadı.\rNeden: Diskte yer kalmadı.",
+                            "! HATA !", Icon::critical);
+  press(a, Qt::Key_F1);
+  EXPECT_TRUE(forms.ending());
+  EXPECT_EQ(world.boxes.pointers, (std::vector<Pointer>{Pointer::normal}));
+  press(a, Qt::Key_F1);  // a second fault says no more
+}
+
+TEST_F(FormsTest, AnyExceptionIsAFault) {
+  Noting* a = show("frmA");
+  a->onKey = [] { throw std::bad_alloc(); };
+  world.boxes.expectMessage("Beklenmeyen bir hata oluştu.\rNeden: std::bad_alloc", "! HATA !",
+                            Icon::critical);
+  press(a, Qt::Key_F1);
+  EXPECT_TRUE(forms.ending());
+}
+
+TEST_F(FormsTest, TheScreenHearsOfTheLastCaptionWhenTheProcedureEnds) {
+  Noting* a = show("frmA");
+  a->onKey = [a] {
+    for (int i = 1; i <= 1000; ++i) {
+      a->setCaption("BYTE= " + std::to_string(i));
+      EXPECT_EQ(a->caption(), "BYTE= " + std::to_string(i)) << "exact at once";
+    }
+  };
+  press(a, Qt::Key_F1);
+  EXPECT_EQ(fromQt(a->windowTitle()), "BYTE= 1000");
+}
+
+TEST_F(FormsTest, KeysThatCameDuringALongActionAreDropped) {
+  Noting* a = show("frmA");
+  forms.dropInput();
+  taken();
+  press(a, Qt::Key_F1);
+  EXPECT_TRUE(taken().empty());
+  EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+  press(a, Qt::Key_F1);
+  EXPECT_EQ(taken().size(), 1U);
+}
+
+}  // namespace
+}  // namespace karvenis
