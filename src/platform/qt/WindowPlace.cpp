@@ -47,7 +47,9 @@ void moveFrame(QWidget& window, QPointF place) {
   const QPoint wanted = QPointF(std::clamp(place.x(), -farthest, farthest),
                                 std::clamp(place.y(), -farthest, farthest))
                             .toPoint();
-  const QRect frame(wanted, window.sizeHint());
+  // Sized first: a resize after the move would make the toolkit take the place for the client area's.
+  window.adjustSize();
+  const QRect frame(wanted, window.size());
   const QRect title(frame.topLeft(), QSize(frame.width(), 24));
   window.adjustSize();  // a change of size after the move would place the contents, not the frame
   window.move(titleSeen(title) ? wanted : nearestPlace(frame));
