@@ -58,11 +58,14 @@ class Program:
     # Waiting
 
     def until(self, condition, what):
-        def or_ended():
-            return condition() or (self.process.poll() is not None and "ended")
-        if wait_for(or_ended, what) == "ended" and not condition():
-            raise AssertionError(f"the program ended with {self.process.returncode} while it was "
-                                 f"awaited: {what}\n{self.words()}")
+        """Waits for the condition; a program that ends meanwhile is told at once."""
+        def unless_ended():
+            found = condition()
+            if not found and not self.runs():
+                raise AssertionError(f"the program ended with {self.process.returncode}, and {what} "
+                                     f"was still awaited\n{self.words()}")
+            return found
+        return wait_for(unless_ended, what)
 
     def status(self):
         """The exit status, once the program has ended by itself."""

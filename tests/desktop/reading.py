@@ -15,6 +15,8 @@ class Node:
         self.bus, self.owner, self.path = bus, owner, path
 
     def __eq__(self, other):
+        if not isinstance(other, Node):
+            return NotImplemented
         return (self.owner, self.path) == (other.owner, other.path)
 
     def _call(self, interface, method, arguments=None):

@@ -138,6 +138,10 @@ class Screen:
         os.makedirs(os.path.dirname(path) or ".", exist_ok=True)
         self.run("import", "-window", "root", path)
 
+    def picture_of_windows(self, path):
+        """Saves the part of the screen that windows cover as a PNG."""
+        self.run("import", "-window", "root", "-trim", "+repage", path)
+
     def close(self):
         bus = getattr(self, "bus", None)
         if bus is not None and not bus.is_closed():
