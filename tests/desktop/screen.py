@@ -2,6 +2,7 @@
 
 import ctypes
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -141,6 +142,22 @@ class Screen:
     def picture_of_windows(self, path):
         """Saves the part of the screen that windows cover as a PNG."""
         self.run("import", "-window", "root", "-trim", "+repage", path)
+
+    def picture_of(self, window_id, path):
+        """Saves a window with its frame as a PNG."""
+        told = self.run("xwininfo", "-frame", "-id", window_id)
+        corner = [int(number) for number in re.findall(r"Absolute upper-left .: +(-?\d+)", told)]
+        size = [int(number) for number in re.findall(r"(?:Width|Height): (\d+)", told)]
+        left, right, top, bottom = self._frame(window_id)
+        width, height = size[0] + left + right, size[1] + top + bottom
+        self.run("import", "-window", "root", "-crop",
+                 f"{width}x{height}+{corner[0] - left}+{corner[1] - top}", "+repage", path)
+
+    def _frame(self, window_id):
+        """How far the frame reaches beyond the window: left, right, top, bottom."""
+        told = self.run("xprop", "-notype", "-id", window_id, "_NET_FRAME_EXTENTS")
+        numbers = [int(number) for number in re.findall(r"\d+", told)]
+        return numbers if len(numbers) == 4 else [0, 0, 0, 0]
 
     def close(self):
         bus = getattr(self, "bus", None)

@@ -27,10 +27,13 @@ class Tour:
         self.program = Program(screen, executable, folder=os.path.join(folder, "files"))
 
     def picture(self, name, told):
-        """Keeps what is on the screen, and says what it shows."""
+        """Keeps a picture of the active window, or of all where a box is open."""
         self.steps += 1
         path = os.path.join(self.folder, f"{self.steps:02}-{name}.png")
-        self.screen.picture_of_windows(path)
+        if self.program.boxes():
+            self.screen.picture_of_windows(path)
+        else:
+            self.screen.picture_of(self.program.active_id(), path)
         print(f"{self.steps:3}  {told}", flush=True)
 
     def window(self, title):
