@@ -1,0 +1,97 @@
+#include "comblist/FilterInput.h"
+
+#include <string_view>
+
+#include "core/Numbers.h"
+
+namespace karvenis {
+namespace {
+
+/// A pair and what follows it in an input takes at least "a-b".
+constexpr std::size_t shortestPair = 3;
+
+/// The marked numbers, ascending, with `separator` between them.
+std::string joined(const FilterMarks& marks, const char* separator) {
+  std::string list;
+  for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
+    if (!marks.has(ball)) continue;
+    if (!list.empty()) list += separator;
+    list += std::to_string(ball);
+  }
+  return list;
+}
+
+std::string joinedPairs(const FilterMarks& marks) {
+  std::string list;
+  for (std::int16_t a = 1; a < ballsInAll; ++a) {
+    for (auto b = static_cast<std::int16_t>(a + 1); b <= ballsInAll; ++b) {
+      if (!marks.hasPair(a, b)) continue;
+      if (!list.empty()) list += ", ";
+      list += std::to_string(a) + "-" + std::to_string(b);
+    }
+  }
+  return list;
+}
+
+/// Marks the pair that `rest` begins with and moves `rest` behind the comma that follows it. False
+/// where `rest` begins with none; empty where no further pair can follow.
+bool takePair(std::string_view& rest, FilterMarks& marks) {
+  const std::size_t dash = rest.find('-');
+  if (rest.size() < shortestPair || dash == std::string_view::npos || dash + 1 == rest.size()) {
+    return false;
+  }
+  const std::string_view right = rest.substr(dash + 1);
+  if (!marks.markPair(typedNumber16(rest.substr(0, dash)), typedNumber16(right))) return false;
+  const std::size_t comma = right.find(',');
+  const bool more = comma != std::string_view::npos && right.size() - (comma + 1) >= shortestPair;
+  rest = more ? right.substr(comma + 1) : std::string_view();
+  return true;
+}
+
+}  // namespace
+
+bool FilterMarks::mark(std::int16_t ball) {
+  if (!isBall(ball)) return false;
+  Marked[static_cast<std::size_t>(ball)] = set;
+  return true;
+}
+
+bool FilterMarks::markPair(std::int16_t a, std::int16_t b) {
+  if (!isBall(a) || !isBall(b)) return false;
+  const auto first = static_cast<std::size_t>(a);
+  const auto second = static_cast<std::size_t>(b);
+  PairMarked[first][second] = PairMarked[second][first] = set;
+  return true;
+}
+
+std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks& marks) {
+  const std::string_view input = InputText;
+  if (!marks.mark(typedNumber16(input))) return std::nullopt;
+  for (std::size_t i = 0; i < input.size(); ++i) {
+    if (input[i] != ',') continue;
+    marks.mark(typedNumber16(input.substr(i + 1)));
+    ++i;  // what stands right behind a comma is never taken for a comma
+  }
+  return joined(marks, ",");
+}
+
+std::optional<std::string> readPair(const std::string& InputText, FilterMarks& marks) {
+  const std::string_view input = InputText;
+  const std::int16_t first = typedNumber16(input);
+  if (!marks.mark(first)) return std::nullopt;
+  for (std::size_t i = input.find('-'); i != std::string_view::npos; i = input.find('-', i + 1)) {
+    const std::int16_t second = typedNumber16(input.substr(i + 1));
+    if (marks.mark(second)) return first == second ? InputText : joined(marks, "-");
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> readPairs(const std::string& InputText, FilterMarks& marks) {
+  std::string_view rest = InputText;
+  while (takePair(rest, marks)) continue;
+  std::string pairs = joinedPairs(marks);
+  if (pairs.empty()) return std::nullopt;
+  return pairs;
+}
+
+}  // namespace karvenis

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/Surroundings.h"
+#include "platform/TitleBar.h"
+
+namespace karvenis {
+
+/// The list window's title where no page is shown.
+inline constexpr char listTitle[] = " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]";
+
+/// The scratch file of the filters; it exists only while the kept records are copied.
+inline constexpr char filterScratch[] = "KARVENIS.TMP";
+
+/// The four filters of the combination list, F5 to F8.
+enum class Filter : std::uint8_t {
+  FilterUnwantedNumbers,  ///< deletes the columns that hold any of some numbers
+  FilterWantedNumbers,    ///< deletes the columns that hold none of some numbers
+  FilterUnwantedPair,     ///< deletes the columns that hold both numbers of a pair
+  FilterWantedPairs,      ///< deletes the columns that hold none of some pairs
+};
+
+/// Asks for the numbers, asks whether to go on, and thins out the list in two passes: the first
+/// marks each record in its word (417 to keep, -1 to delete), the second copies the kept ones. The
+/// list as it was goes to its backup first; a list of which nothing is kept is deleted. `title`
+/// shows the progress, then the list's title again. Returns false where the list was left as it
+/// was. Throws RunTimeError; the backup then holds the list as it was.
+bool filterList(Filter filter, Surroundings& around, TitleBar& title);
+
+}  // namespace karvenis

@@ -1,0 +1,423 @@
+#include <gtest/gtest.h>
+
+#include "comblist/Filters.h"
+#include "doubles/Doubles.h"
+#include "doubles/RefusingFiles.h"
+#include "doubles/YieldingBoxes.h"
+
+namespace karvenis {
+namespace {
+
+using enum Filter;
+
+constexpr char unwantedPrompt[] = "İstemediğiniz sayıları (aralarına virgül koyarak) girin.";
+constexpr char wantedPrompt[] =
+    "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
+    "(Herhangi biri olan kolonlar seçilecek.)";
+constexpr char pairPrompt[] =
+    "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.";
+constexpr char pairsPrompt[] =
+    "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin sayılarının "
+    "arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak girin.";
+
+const char* promptOf(Filter filter) {
+  constexpr const char* prompts[] = {unwantedPrompt, wantedPrompt, pairPrompt, pairsPrompt};
+  return prompts[static_cast<std::size_t>(filter)];
+}
+
+using Records = std::vector<ColumnRecord>;
+
+ColumnRecord record(std::int32_t Word, const Column& balls) {
+  return {.Word = Word, .Balls = balls};
+}
+
+/// Four columns that the tests tell apart by their first ball.
+Records fourColumns() {
+  return {record(1, column(1, 2, 3, 4, 5, 6)), record(2, column(7, 8, 9, 10, 11, 12)),
+          record(-1, column(13, 14, 15, 16, 17, 18)), record(417, column(19, 20, 21, 22, 23, 24))};
+}
+
+Bytes list(const World& world) { return world.files.bytes(combinationList); }
+void putList(World& world, const Records& records) {
+  world.files.folder[combinationList] = columnBytes(records);
+}
+
+void expectInput(World& world, Filter filter, const char* typed) {
+  world.boxes.expectInput(promptOf(filter), "Kolon SİLME", "", typed);
+}
+
+// --- what the questions say
+
+struct Asked {
+  const char* name;
+  Filter filter;
+  const char* typed;
+  const char* question;
+};
+
+class FilterQuestion : public testing::TestWithParam<Asked> {};
+
+TEST_P(FilterQuestion, ShowsWhatTheInputMeansAndNoChangesNothing) {
+  const Asked& asked = GetParam();
+  World world;
+  putList(world, fourColumns());
+  const auto before = world.files.folder;
+  expectInput(world, asked.filter, asked.typed);
+  world.boxes.expectQuestion(asked.question, false);
+  EXPECT_FALSE(filterList(asked.filter, world.around, world.title));
+  EXPECT_EQ(world.files.folder, before) << "no backup either";
+  EXPECT_TRUE(world.title.captions.empty());
+}
+
+#define ONE(list) "'" list "' numaralı topun yer aldığı kolonları silmek istiyormusunuz?"
+#define SEVERAL(list) "'" list "' numaralı topların yer aldığı kolonları silmek istiyormusunuz?"
+#define WANTED_ONE(list) "'" list "' numaralı topun yer almadığı kolonları silmek istiyormusunuz?"
+#define WANTED_SEVERAL(list) \
+  "'" list "' numaralı topların hiç birinin yer almadığı kolonları silmek istiyormusunuz?"
+#define PAIR(list) \
+  "'" list "' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"
+#define PAIRS(list) "'" list "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, FilterQuestion,
+    testing::Values(
+        Asked{"OneDigit", FilterUnwantedNumbers, "5", ONE("5")},
+        Asked{"OneOfTwoDigits", FilterUnwantedNumbers, "12", ONE("12")},
+        Asked{"TwoOfOneDigitArePlural", FilterUnwantedNumbers, "5,7", SEVERAL("5,7")},
+        Asked{"BlanksAreSkipped", FilterUnwantedNumbers, "5, 12,30", SEVERAL("5,12,30")},
+        Asked{"ShownAscending", FilterUnwantedNumbers, "30,5", SEVERAL("5,30")},
+        Asked{"RepeatsMerge", FilterUnwantedNumbers, "7,7,7", ONE("7")},
+        Asked{"BlanksInsideNumbersToo", FilterUnwantedNumbers, "1 2,5", SEVERAL("5,12")},
+        Asked{"LaterInvalidOnesArePassedOver", FilterUnwantedNumbers, "5,0,60", ONE("5")},
+        Asked{"LaterWordsArePassedOver", FilterUnwantedNumbers, "5,x,-3,6", SEVERAL("5,6")},
+        Asked{"ADoubledCommaHidesTheNumber", FilterUnwantedNumbers, "5,,7", ONE("5")},
+        Asked{"ATripledCommaDoesNot", FilterUnwantedNumbers, "5,,,7", SEVERAL("5,7")},
+        Asked{"AFourfoldOneDoes", FilterUnwantedNumbers, "5,,,,7", ONE("5")},
+        Asked{"ACommaAtTheEnd", FilterUnwantedNumbers, "5,7,", SEVERAL("5,7")},
+        Asked{"WordsBehindANumber", FilterUnwantedNumbers, "5x,7y", SEVERAL("5,7")},
+        Asked{"TwoAndAHalfIsTwo", FilterUnwantedNumbers, "2.5,3.5", SEVERAL("2,4")},
+        Asked{"AlmostFiftyRoundsDown", FilterUnwantedNumbers, "49.4", ONE("49")},
+        Asked{"LettersOutsideAsciiAreSkippedWhole", FilterUnwantedNumbers, "5,ş,7", SEVERAL("5,7")},
+        Asked{"WantedOne", FilterWantedNumbers, "7", WANTED_ONE("7")},
+        Asked{"WantedSeveral", FilterWantedNumbers, "49,1", WANTED_SEVERAL("1,49")}),
+    [](const auto& asked) { return asked.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Pair, FilterQuestion,
+    testing::Values(
+        Asked{"Ascending", FilterUnwantedPair, "12-5", PAIR("5-12")},
+        Asked{"BlanksAreSkipped", FilterUnwantedPair, " 5 - 12 ", PAIR("5-12")},
+        Asked{"AnInvalidSecondGivesWayToALaterOne", FilterUnwantedPair, "5-0-12", PAIR("5-12")},
+        Asked{"ADoubledDash", FilterUnwantedPair, "5--12", PAIR("5-12")},
+        Asked{"TheFirstValidSecondWins", FilterUnwantedPair, "5-12-30", PAIR("5-12")},
+        Asked{"CommasEndTheFirst", FilterUnwantedPair, "5,9-12", PAIR("5-12")},
+        Asked{"TwiceTheSameShowsTheTypedText", FilterUnwantedPair, "7-7", PAIR("7-7")},
+        Asked{"TwiceTheSameWithWords", FilterUnwantedPair, "7 -07<b>", PAIR("7 -07<b>")}),
+    [](const auto& asked) { return asked.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Pairs, FilterQuestion,
+    testing::Values(
+        Asked{"One", FilterWantedPairs, "2-1", PAIRS("1-2")},
+        Asked{"Two", FilterWantedPairs, "40-12,3-7", PAIRS("3-7, 12-40")},
+        Asked{"RepeatsMerge", FilterWantedPairs, "1-2,2-1", PAIRS("1-2")},
+        Asked{"TheFirstBadOneEndsTheReading", FilterWantedPairs, "1-2,3-x,5-6", PAIRS("1-2")},
+        Asked{"ACommaAtTheEnd", FilterWantedPairs, "1-2,3-4,", PAIRS("1-2, 3-4")},
+        Asked{"TooShortARest", FilterWantedPairs, "1-2,3-", PAIRS("1-2")},
+        Asked{"TheLeftSideUpToItsComma", FilterWantedPairs, "1,2-3", PAIRS("1-3")},
+        Asked{"ADoubledCommaReadsOn", FilterWantedPairs, "1-2,,3-4", PAIRS("1-2")},
+        Asked{"ASecondDashEndsItsPair", FilterWantedPairs, "1-2-9,3-4", PAIRS("1-2, 3-4")},
+        Asked{"APairOfOneBallIsNotShown", FilterWantedPairs, "7-7,1-2", PAIRS("1-2")},
+        Asked{"BlanksAreSkipped", FilterWantedPairs, " 1 - 2 , 3 - 4 ", PAIRS("1-2, 3-4")}),
+    [](const auto& asked) { return asked.param.name; });
+
+// --- inputs that ask for nothing
+
+struct Void {
+  Filter filter;
+  const char* typed;
+};
+
+TEST(FilterInput, ThatAsksForNothingEndsSilently) {
+  const Void inputs[] = {{FilterUnwantedNumbers, ""},
+                         {FilterUnwantedNumbers, "0,5"},
+                         {FilterUnwantedNumbers, "50"},
+                         {FilterUnwantedNumbers, "abc"},
+                         {FilterUnwantedNumbers, "5 7"},
+                         {FilterUnwantedNumbers, ",5"},
+                         {FilterUnwantedNumbers, "-5"},
+                         {FilterUnwantedNumbers, "99999999999,5"},
+                         {FilterUnwantedNumbers, "0.5"},
+                         {FilterUnwantedNumbers, "49.6"},
+                         {FilterWantedNumbers, ""},
+                         {FilterWantedNumbers, "0,5"},
+                         {FilterUnwantedPair, ""},
+                         {FilterUnwantedPair, "5"},
+                         {FilterUnwantedPair, "5-"},
+                         {FilterUnwantedPair, "5-x"},
+                         {FilterUnwantedPair, "-5-12"},
+                         {FilterUnwantedPair, "0-12"},
+                         {FilterUnwantedPair, "5,12"},
+                         {FilterUnwantedPair, "5-50-60-"},
+                         {FilterWantedPairs, ""},
+                         {FilterWantedPairs, "1"},
+                         {FilterWantedPairs, "1-"},
+                         {FilterWantedPairs, "-12"},
+                         {FilterWantedPairs, "1,2"},
+                         {FilterWantedPairs, "7-7"},
+                         {FilterWantedPairs, "0-5,1-2"},
+                         {FilterWantedPairs, "x-5"},
+                         {FilterWantedPairs, "1-50,1-2"},
+                         {FilterWantedPairs, "99999999999-2"},
+                         {FilterUnwantedPair, "5-99999999999"}};
+  for (const auto& [filter, typed] : inputs) {
+    SCOPED_TRACE(typed);
+    World world;
+    putList(world, fourColumns());
+    const auto before = world.files.folder;
+    expectInput(world, filter, typed);
+    EXPECT_FALSE(filterList(filter, world.around, world.title));
+    EXPECT_EQ(world.files.folder, before);
+  }
+}
+
+TEST(FilterInput, IsNotAskedForWithoutAColumn) {
+  for (const Filter filter :
+       {FilterUnwantedNumbers, FilterWantedNumbers, FilterUnwantedPair, FilterWantedPairs}) {
+    World world;
+    EXPECT_FALSE(filterList(filter, world.around, world.title));
+    world.files.folder[combinationList].resize(8);  // rounds to no record
+    EXPECT_FALSE(filterList(filter, world.around, world.title));
+    EXPECT_EQ(world.files.folder.size(), 1U);
+  }
+}
+
+// --- which columns stay
+
+struct Kept {
+  const char* name;
+  Filter filter;
+  const char* typed;
+  Column balls;
+  bool kept;
+};
+
+class KeptColumn : public testing::TestWithParam<Kept> {};
+
+TEST_P(KeptColumn, IsTheOneThatTheRuleKeeps) {
+  const Kept& row = GetParam();
+  YieldingBoxes boxes;
+  boxes.typed = row.typed;
+  World world;
+  Surroundings around{world.state, boxes,         world.clock,  world.chance,
+                      world.files, world.printer, world.windows};
+  putList(world, {record(9, row.balls)});
+  EXPECT_TRUE(filterList(row.filter, around, world.title));
+  EXPECT_EQ(world.files.exists(combinationList), row.kept);
+  if (row.kept) {
+    EXPECT_EQ(list(world), columnBytes({record(417, row.balls)}));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, KeptColumn,
+    testing::Values(
+        Kept{"F5None", FilterUnwantedNumbers, "7,8", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F5First", FilterUnwantedNumbers, "7,1", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F5Third", FilterUnwantedNumbers, "3", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F5Sixth", FilterUnwantedNumbers, "6", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F5NoBalls", FilterUnwantedNumbers, "6", column(0, -1, 50, 32767, -32768, 417), true},
+        Kept{"F6None", FilterWantedNumbers, "7", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F6First", FilterWantedNumbers, "7", column(7, 10, 20, 30, 40, 49), true},
+        Kept{"F6Second", FilterWantedNumbers, "7", column(1, 7, 20, 30, 40, 49), true},
+        Kept{"F6OnlyThird", FilterWantedNumbers, "7", column(1, 3, 7, 20, 30, 40), false},
+        Kept{"F6ThirdAndSixth", FilterWantedNumbers, "7,40", column(1, 3, 7, 20, 30, 40), true},
+        Kept{"F6Fourth", FilterWantedNumbers, "20", column(1, 3, 7, 20, 30, 40), true},
+        Kept{"F6Fifth", FilterWantedNumbers, "30", column(1, 3, 7, 20, 30, 40), true},
+        Kept{"F6ThirdIsTheMarkItself", FilterWantedNumbers, "9", column(1, 2, -1, 4, 5, 6), true},
+        Kept{"F6NoBalls", FilterWantedNumbers, "6", column(0, -1, 50, 32767, -32768, 417), false},
+        Kept{"F7Both", FilterUnwantedPair, "1-6", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F7Neighbours", FilterUnwantedPair, "4-3", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F7OnlyOne", FilterUnwantedPair, "1-7", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F7TwiceTheSame", FilterUnwantedPair, "1-1", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F7ARepeatedBallCountsTwice", FilterUnwantedPair, "1-9", column(1, 1, 3, 4, 5, 6),
+             false},
+        Kept{"F7NoBalls", FilterUnwantedPair, "1-9", column(0, -1, 50, 32767, -32768, 417), true},
+        Kept{"F8Pair", FilterWantedPairs, "1-2", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F8ThirdBallCounts", FilterWantedPairs, "3-6", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F8Unsorted", FilterWantedPairs, "1-6", column(6, 5, 4, 3, 2, 1), true},
+        Kept{"F8OneBallOnly", FilterWantedPairs, "1-9", column(1, 2, 3, 4, 5, 6), false},
+        Kept{"F8SecondPair", FilterWantedPairs, "1-9,5-6", column(1, 2, 3, 4, 5, 6), true},
+        Kept{"F8PairOfOneBall", FilterWantedPairs, "7-7,8-9", column(7, 1, 2, 3, 4, 7), true},
+        Kept{"F8NoBalls", FilterWantedPairs, "1-9", column(0, -1, 50, 32767, -32768, 417), false}),
+    [](const auto& row) { return row.param.name; });
+
+// --- the rewrite
+
+struct Passes {
+  const char* name;
+  Filter filter;
+  const char* typed;
+  const char* question;
+  const char* secondPass;
+};
+
+class FilterRewrite : public testing::TestWithParam<Passes> {};
+
+TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
+  const Passes& passes = GetParam();
+  World world;
+  putList(world, fourColumns());
+  world.files.folder[listBackup] = hex("0A");
+  world.files.folder[filterScratch] = columnBytes(Records(9));
+  expectInput(world, passes.filter, passes.typed);
+  world.boxes.expectQuestion(passes.question, true);
+  EXPECT_TRUE(filterList(passes.filter, world.around, world.title));
+
+  const Records all = fourColumns();
+  EXPECT_EQ(list(world), columnBytes({record(417, all[0].Balls), record(417, all[3].Balls)}));
+  EXPECT_EQ(world.files.bytes(listBackup), columnBytes(all));
+  EXPECT_FALSE(world.files.exists(filterScratch));
+  EXPECT_FALSE(world.state.FileNo.has_value());
+  const std::string second = passes.secondPass;
+  EXPECT_EQ(
+      world.title.captions,
+      (std::vector<std::string>{" FAZ 1 - Kolon : 4 [ 1 ]", " FAZ 1 - Kolon : 3 [ 2 ]",
+                                " FAZ 1 - Kolon : 2 [ 3 ]", " FAZ 1 - Kolon : 2 [ 4 ]",
+                                second + " 1 [ 2 ]", second + " 1 [ 2 ]", second + " 1 [ 2 ]",
+                                second + " 2 [ 2 ]", " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Filters, FilterRewrite,
+                         testing::Values(Passes{"F5", FilterUnwantedNumbers, "7,13",
+                                                SEVERAL("7,13"), " Faz 2 - Kolon :"},
+                                         Passes{"F6", FilterWantedNumbers, "1,24",
+                                                WANTED_SEVERAL("1,24"), " FAZ 2 - Kolon :"},
+                                         Passes{"F8", FilterWantedPairs, "1-3,23-24",
+                                                PAIRS("1-3, 23-24"), " Faz 2 - Kolon :"}),
+                         [](const auto& passes) { return passes.param.name; });
+
+TEST(FilterRewrite, ThePairFilterToo) {
+  World world;
+  putList(world, fourColumns());
+  expectInput(world, FilterUnwantedPair, "8-7");
+  world.boxes.expectQuestion(PAIR("7-8"), true);
+  EXPECT_TRUE(filterList(FilterUnwantedPair, world.around, world.title));
+  Records kept = fourColumns();
+  kept.erase(kept.begin() + 1);
+  for (ColumnRecord& one : kept) one.Word = 417;
+  EXPECT_EQ(list(world), columnBytes(kept));
+  EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
+  EXPECT_EQ(world.files.folder.size(), 2U);
+  EXPECT_EQ(world.title.captions[5], " Faz 2 - Kolon : 1 [ 3 ]");
+}
+
+TEST(FilterRewrite, EveryRecordIsMarkedEvenWhereNothingIsDeleted) {
+  World world;
+  putList(world, fourColumns());
+  expectInput(world, FilterUnwantedPair, "7-7");
+  world.boxes.expectQuestion(PAIR("7-7"), true);
+  EXPECT_TRUE(filterList(FilterUnwantedPair, world.around, world.title));
+  Records kept = fourColumns();
+  for (ColumnRecord& one : kept) one.Word = 417;
+  EXPECT_EQ(list(world), columnBytes(kept));
+  EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
+}
+
+TEST(FilterRewrite, AListOfWhichNothingIsKeptIsDeletedWithoutASecondPass) {
+  World world;
+  putList(world, fourColumns());
+  world.files.folder[filterScratch] = hex("0B");
+  expectInput(world, FilterWantedNumbers, "49");
+  world.boxes.expectQuestion(WANTED_ONE("49"), true);
+  EXPECT_TRUE(filterList(FilterWantedNumbers, world.around, world.title));
+  EXPECT_FALSE(world.files.exists(combinationList));
+  EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
+  EXPECT_EQ(world.files.bytes(filterScratch), hex("0B")) << "the scratch file is not touched";
+  EXPECT_EQ(world.title.captions.size(), 5U);
+  EXPECT_EQ(world.title.captions.back(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
+}
+
+TEST(FilterRewrite, TakesTheListAsItIsAfterTheQuestion) {
+  World world;
+  putList(world, {fourColumns()[0]});
+  expectInput(world, FilterUnwantedNumbers, "7");
+  world.boxes.expectQuestion(ONE("7"), true);
+  world.boxes.whileOpen = [&] { putList(world, fourColumns()); };
+  EXPECT_TRUE(filterList(FilterUnwantedNumbers, world.around, world.title));
+  EXPECT_EQ(columnsOf(list(world)).size(), 3U);
+}
+
+TEST(FilterRewrite, AListThatLostItsRecordsIsDeletedByOneFilterAndLeftByTheOthers) {
+  const Passes rows[] = {
+      {"F5", FilterUnwantedNumbers, "7", ONE("7"), ""},
+      {"F6", FilterWantedNumbers, "7", WANTED_ONE("7"), ""},
+      {"F7", FilterUnwantedPair, "7-8", PAIR("7-8"), ""},
+      {"F8", FilterWantedPairs, "7-8", PAIRS("7-8"), ""},
+  };
+  for (const Passes& row : rows) {
+    SCOPED_TRACE(row.name);
+    World world;
+    putList(world, fourColumns());
+    expectInput(world, row.filter, row.typed);
+    world.boxes.expectQuestion(row.question, true);
+    world.boxes.whileOpen = [&] { putList(world, {}); };
+    const bool deletes = row.filter == FilterWantedPairs;
+    EXPECT_EQ(filterList(row.filter, world.around, world.title), deletes);
+    EXPECT_EQ(world.files.exists(combinationList), !deletes);
+    EXPECT_EQ(world.title.captions.size(), deletes ? 1U : 0U);
+    EXPECT_TRUE(world.files.exists(listBackup));
+  }
+}
+
+TEST(FilterRewrite, AListThatVanishedIsAFaultAndLeavesTheOldBackup) {
+  World world;
+  putList(world, fourColumns());
+  world.files.folder[listBackup] = hex("0A");
+  expectInput(world, FilterUnwantedNumbers, "7");
+  world.boxes.expectQuestion(ONE("7"), true);
+  world.boxes.whileOpen = [&] { world.files.folder.erase(combinationList); };
+  EXPECT_THROW(filterList(FilterUnwantedNumbers, world.around, world.title), RunTimeError);
+  EXPECT_EQ(world.files.bytes(listBackup), hex("0A"));
+}
+
+/// Refuses the n-th step of a filter for every n; the old list must be in the backup or in place.
+void refuseEachStep(Filter filter, const char* typed, const Records& records) {
+  YieldingBoxes boxes;
+  boxes.typed = typed;
+  int refusals = 0;
+  for (int failing = 1;; ++failing) {
+    World world;
+    putList(world, records);
+    RefusingFiles files(world.files);
+    Surroundings around{world.state, boxes,         world.clock,  world.chance,
+                        files,       world.printer, world.windows};
+    files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
+    try {
+      filterList(filter, around, world.title);
+      break;
+    } catch (const RunTimeError&) {
+      ++refusals;
+    }
+    world.state.FileNo.reset();
+    EXPECT_TRUE(world.files.bytes(listBackup) == columnBytes(records) ||
+                list(world) == columnBytes(records))
+        << "refused call " << failing;
+  }
+  EXPECT_GE(refusals, 6);
+}
+
+TEST(FilterRewrite, ARefusalAtAnyStepLeavesTheOldListInTheBackupOrInPlace) {
+  Records records;
+  for (int i = 0; i < 3000; ++i) {
+    for (const ColumnRecord& one : fourColumns()) records.push_back(one);
+  }
+  refuseEachStep(FilterUnwantedNumbers, "7", records);
+  refuseEachStep(FilterWantedNumbers, "7,1", records);
+  refuseEachStep(FilterUnwantedPair, "7-8", records);
+  refuseEachStep(FilterWantedPairs, "7-8", records);
+  refuseEachStep(FilterUnwantedNumbers, "1,7,13,19", records);
+}
+
+}  // namespace
+}  // namespace karvenis
