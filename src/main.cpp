@@ -4,6 +4,8 @@
 #include "bag/frmBanko.h"
 #include "bag/frmList.h"
 #include "core/Surroundings.h"
+#include "listing/frmCLPrint.h"
+#include "listing/frmRLPrint.h"
 #include "main/frmLoto.h"
 #include "platform/RunTimeError.h"
 #include "platform/SystemChance.h"
@@ -12,6 +14,8 @@
 #include "platform/qt/Look.h"
 #include "platform/qt/QtBoxes.h"
 #include "platform/qt/QtClock.h"
+#include "randomlist/frmRndDel.h"
+#include "randomlist/frmRndLst.h"
 
 // Wires the doors to the windows; what the program does stands in the rooms.
 
@@ -57,6 +61,10 @@ int main(int argc, char** argv) {
   forms.add("frmBalls", [&] { return new frmBalls(around, forms); });
   forms.add("frmBanko", [&] { return new frmBanko(around, forms); });
   forms.add("frmList", [&] { return new frmList(around, forms); });
+  forms.add("frmRndLst", [&] { return new frmRndLst(around, forms); });
+  forms.add("frmRndDel", [&] { return new frmRndDel(around, forms); });
+  forms.add("frmRLPrint", [&] { return new frmRLPrint(around, forms); });
+  forms.add("frmCLPrint", [&] { return new frmCLPrint(around, forms); });
 
   forms.show("frmLoto");
   return QApplication::exec();

@@ -10,9 +10,7 @@
 namespace karvenis {
 namespace {
 
-constexpr double topMargin = 200;  // all measures in twips
-constexpr double leftMargin = 200;
-constexpr double ballPitch = 400;
+constexpr double ballPitch = 400;   // twips, as all measures here
 constexpr double sumOffset = 2500;  // from the first ball
 
 /// Where a full last page starts; 0 where the list has less than a page.
@@ -21,7 +19,7 @@ std::int32_t lastPageStart(std::int32_t count) { return std::max(count - rowsOnP
 /// Prints the label of record `number`; returns where the first ball stands. Short labels share one
 /// ball column, longer ones push it to the right.
 double printLabel(TextSurface& surface, std::int64_t number) {
-  surface.currentX(leftMargin);
+  surface.currentX(pageMargin);
   surface.foreColor(QBColor::lightRed);
   surface.print("Kolon -" + withBlank(number) + " : ");
   const double x = surface.currentX();
@@ -92,7 +90,7 @@ std::string pageTitle(const std::string& list, std::int32_t PageNo) {
 
 void drawPage(const ListPage& page, SharedState& state, TextSurface& surface) {
   surface.cls();
-  surface.currentY(topMargin);
+  surface.currentY(pageMargin);
   for (std::int32_t RowNo = 1; RowNo <= page.PageRows; ++RowNo) {
     const std::int64_t number = std::int64_t{page.PageStart} + RowNo;
     state.FileNo->get(number);

@@ -10,6 +10,8 @@ namespace karvenis {
 
 /// Columns on a full page of a list window.
 inline constexpr std::int32_t rowsOnPage = 25;
+/// What the rows keep clear above and to the left, in twips.
+inline constexpr double pageMargin = 200;
 
 /// Which part of a column list a list window shows. A page may start at any record; the last page
 /// is always a full one where the list has that many columns.

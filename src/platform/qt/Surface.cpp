@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <cmath>
 
 #include "platform/qt/SurfaceAccessible.h"
 #include "platform/qt/Text.h"
@@ -46,6 +47,11 @@ Surface::Surface(QWidget* parent) : QWidget(parent) {
 
 double Surface::pixels(double twips) const { return twips / twipsPerPixel; }
 double Surface::lineHeight() const { return QFontMetricsF(font()).height() * twipsPerPixel; }
+
+QSize Surface::sizeFor(double margin, int lines, double right) const {
+  const QSizeF exact(pixels(right + margin), pixels(2 * margin + lines * lineHeight()));
+  return {static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))};
+}
 
 void Surface::cls() {
   runs_.clear();

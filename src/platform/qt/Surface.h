@@ -32,6 +32,9 @@ class Surface final : public QWidget, public TextSurface {
   double pixels(double twips) const;
   /// Twips of one line of text.
   double lineHeight() const;
+  /// The size that holds `lines` lines of text, the first at `margin` and none reaching beyond
+  /// `right`, with as much margin behind them (all in twips).
+  QSize sizeFor(double margin, int lines, double right) const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "listing/frmListing.h"
+
+class QLineEdit;
+
+namespace karvenis {
+
+/// Lists a range of the combination list.
+class frmCLPrint final : public frmListing {
+ public:
+  frmCLPrint(Surroundings& around, Forms& forms);
+
+  void Form_Activate() override;
+
+ private:
+  void Text1_KeyPress();
+  void Text2_KeyPress();
+  void Command1_Click() override;
+
+  QLabel* Label1;    // "Başlangıç :"
+  QLineEdit* Text1;  // the first record's number
+  QLabel* Label2;    // "Bitiş :"
+  QLineEdit* Text2;  // the last record's number
+};
+
+}  // namespace karvenis

@@ -1,0 +1,82 @@
+#include "listing/frmListing.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "platform/qt/Forms.h"
+
+using namespace Qt::StringLiterals;
+
+namespace karvenis {
+
+frmListing::frmListing(Surroundings& around, Forms& forms, const char* name, const Listing& listing)
+    : Form(forms, name),
+      around_(around),
+      Label3(control<QLabel>(u"Label3"_s, u"Çıktı:"_s)),
+      Option1(control<QRadioButton>(u"Option1"_s, u"Text Dosyası"_s)),
+      Option2(control<QRadioButton>(u"Option2"_s, u"Printer"_s)),
+      Command1(control<QPushButton>(u"Command1"_s, u"Yaz"_s)),
+      Command2(control<QPushButton>(u"Command2"_s, u"Kapat"_s)) {
+  setCaption(listing.title);
+  Option1->setChecked(true);
+  // Also the arrow keys choose an option.
+  on(Option1, &QRadioButton::toggled, [this] {
+    if (Option1->isChecked()) Option1_Click();
+  });
+  on(Option2, &QRadioButton::toggled, [this] {
+    if (Option2->isChecked()) Option2_Click();
+  });
+  on(Command1, &QPushButton::clicked, [this] { list(); });
+  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
+}
+
+void frmListing::layOut(QGridLayout* grid) {
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(Command1);
+  buttons->addWidget(Command2);
+
+  const int row = grid->rowCount();
+  grid->addWidget(Label3, row, 0);
+  grid->addWidget(Option1, row, 1);
+  grid->addWidget(Option2, row + 1, 1);
+  grid->addLayout(buttons, row + 2, 0, 1, 2);
+  grid->setRowMinimumHeight(row + 2, 56);
+  grid->setAlignment(buttons, Qt::AlignBottom);
+  grid->setColumnMinimumWidth(1, 200);
+  grid->setContentsMargins(18, 16, 18, 16);
+  grid->setHorizontalSpacing(14);
+  grid->setVerticalSpacing(8);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmListing::Form_KeyDown(int KeyCode, int) {
+  switch (KeyCode) {
+    case keyEscape:
+      return unload();
+    case keyF1:
+      return list();
+    case keyF10:
+      around_.boxes.beep();
+      around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", " FONKSİYON TUŞLARI");
+      return;
+    default:
+      return;
+  }
+}
+
+/// Keys and clicks that come while the list is written must not list it again.
+void frmListing::list() {
+  Command1_Click();
+  forms().dropInput();
+}
+
+Output frmListing::output() const { return Option1->isChecked() ? Output::text : Output::printer; }
+
+void frmListing::Option1_Click() { Command1->setText(u"Yaz"_s); }
+void frmListing::Option2_Click() { Command1->setText(u"Bas"_s); }
+void frmListing::Command2_Click() { unload(); }
+
+}  // namespace karvenis

@@ -1,0 +1,65 @@
+#include "randomlist/frmRndDel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/Numbers.h"
+#include "platform/qt/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace karvenis {
+
+frmRndDel::frmRndDel(Surroundings& around, Forms& forms)
+    : Form(forms, "frmRndDel"),
+      deletion_(around),
+      Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
+      Text1(control<QLineEdit>(u"Text1"_s)),
+      Command1(control<QPushButton>(u"Command1"_s, u"Tamam"_s)),
+      Command2(control<QPushButton>(u"Command2"_s, u"İptal"_s)) {
+  setCaption(" Kolon Silme");
+  buildLayout();
+  onEnter(Text1, [this] { Text1_KeyPress(); });
+  on(Command1, &QPushButton::clicked, [this] { Command1_Click(); });
+  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
+  Text1->setFocus();
+}
+
+void frmRndDel::buildLayout() {
+  Label1->setBuddy(Text1);
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(18, 16, 18, 16);
+  grid->setVerticalSpacing(12);
+  grid->addWidget(Label1, 0, 0, 1, 3);
+  grid->addWidget(Text1, 1, 0, 1, 3);
+  grid->setColumnStretch(0, 1);
+  grid->addWidget(Command1, 2, 1);
+  grid->addWidget(Command2, 2, 2);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmRndDel::Form_Load() {
+  if (!deletion_.load()) unload();
+}
+
+void frmRndDel::Form_KeyPress(int KeyAscii) {
+  if (KeyAscii == keyEscape) unload();
+}
+
+void frmRndDel::Text1_KeyPress() { Command1_Click(); }
+
+void frmRndDel::Command1_Click() {
+  const std::int32_t DelNo = typedNumber32(fromQt(Text1->text()));
+  Text1->setText(QString::number(DelNo));
+  if (deletion_.remove(DelNo)) {
+    unload();
+  } else {
+    Text1->setFocus();
+  }
+}
+
+void frmRndDel::Command2_Click() { unload(); }
+
+}  // namespace karvenis

@@ -1,0 +1,64 @@
+#include "randomlist/frmRndLst.h"
+
+#include <QVBoxLayout>
+
+#include "platform/qt/Surface.h"
+#include "randomlist/RandomColumnList.h"
+
+namespace karvenis {
+
+frmRndLst::frmRndLst(Surroundings& around, Forms& forms)
+    : Form(forms, "frmRndLst"), around_(around), surface_(new Surface(this)) {
+  setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(surface_);
+  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_)));
+}
+
+void frmRndLst::Form_Activate() { showFirstPage(); }
+void frmRndLst::Form_Resize() { showFirstPage(); }
+
+void frmRndLst::Form_Click() {
+  page_.click();
+  redraw();
+}
+
+void frmRndLst::Form_KeyDown(int KeyCode, int Shift) {
+  if (KeyCode == keyEscape) {
+    unload();
+    return;
+  }
+  runCommand(KeyCode, Shift);
+  redraw();
+}
+
+void frmRndLst::runCommand(int KeyCode, int Shift) {
+  switch (KeyCode) {
+    case keyF1:
+      return AppendToCombinationList(around_, page_);
+    case keyF2:
+      return SaveAsCombinationList(around_);
+    case keyF3:
+      return DeleteOneColumn(around_, page_);
+    case keyF4:
+      // With Alt it is the window system's own key for closing.
+      if ((Shift & altKey) == 0) DeleteRndList(around_);
+      return;
+    case keyF9:
+      return ListRndColumns(around_);
+    case keyF10:
+      return ShowRndListKeys(around_.boxes);
+    default:
+      return page_.key(KeyCode);
+  }
+}
+
+void frmRndLst::showFirstPage() {
+  page_.PageStart = 0;
+  redraw();
+}
+
+void frmRndLst::redraw() { ShowRndPage(around_, page_, *surface_, *this); }
+
+}  // namespace karvenis
