@@ -1,0 +1,130 @@
+"""What is installed: where it lies, what the validators say, and that the menu entry starts it."""
+
+import glob
+import os
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import unittest
+
+import reading
+from desktop_case import EXECUTABLE, HOUSE, STANDARD_TITLE
+from screen import Screen, wait_for
+
+BUILD = os.path.dirname(EXECUTABLE)
+ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
+
+
+def output_of(*command, **options):
+    """The words of a command that must succeed."""
+    ended = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, text=True,
+                           timeout=120, check=False, **options)
+    if ended.returncode != 0:
+        raise AssertionError(f"{command[0]} ended with {ended.returncode}:\n"
+                             f"{ended.stdout}{ended.stderr}")
+    return ended.stdout + ended.stderr
+
+
+class PackageCase(unittest.TestCase):
+    """The Debian package, made once and unpacked."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.temporary = tempfile.mkdtemp(prefix="karvenis-package-")
+        cls.addClassCleanup(shutil.rmtree, cls.temporary, ignore_errors=True)
+        output_of("cpack", "--config", os.path.join(BUILD, "CPackConfig.cmake"),
+                  "-B", cls.temporary)
+        (cls.package,) = glob.glob(os.path.join(cls.temporary, "*.deb"))
+        cls.root = os.path.join(cls.temporary, "root")
+        output_of("dpkg-deb", "--extract", cls.package, cls.root)
+
+    def installed(self, path):
+        found = os.path.join(self.root, "usr", path)
+        self.assertTrue(os.path.isfile(found), found)
+        return found
+
+
+class Contents(PackageCase):
+    def test_everything_lies_where_it_belongs(self):
+        found = sorted(os.path.relpath(os.path.join(folder, name), self.root)
+                       for folder, _, names in os.walk(self.root) for name in names)
+        icons = [f"usr/share/icons/hicolor/{size}x{size}/apps/karvenis.png" for size in ICON_SIZES]
+        self.assertEqual(found, sorted(icons + [
+            "usr/bin/karvenis",
+            "usr/share/applications/karvenis.desktop",
+            "usr/share/doc/karvenis/changelog.gz",
+            "usr/share/doc/karvenis/copyright",
+            "usr/share/icons/hicolor/scalable/apps/karvenis.svg",
+            "usr/share/man/man6/karvenis.6.gz",
+            "usr/share/man/tr/man6/karvenis.6.gz",
+            "usr/share/metainfo/org.example.karvenis.metainfo.xml"]))
+
+    def test_it_takes_less_than_a_megabyte(self):
+        self.assertLess(int(output_of("dpkg-deb", "-f", self.package, "Installed-Size")), 1024)
+
+    def test_it_depends_on_the_toolkit_and_not_on_tools(self):
+        depends = output_of("dpkg-deb", "-f", self.package, "Depends")
+        names = set(re.findall(r"(?:^|, )([a-z0-9.+-]+)", depends))
+        self.assertLessEqual({"libc6", "libqt6core6", "libqt6gui6", "libqt6svg6", "libqt6widgets6"},
+                             names)
+        self.assertFalse([name for name in names if not name.startswith("lib")])
+
+    def test_icons_have_their_size(self):
+        for size in ICON_SIZES:
+            icon = self.installed(f"share/icons/hicolor/{size}x{size}/apps/karvenis.png")
+            self.assertEqual(output_of("identify", "-format", "%wx%h", icon), f"{size}x{size}")
+
+    def test_the_release_is_the_program_s_version(self):
+        version = output_of("dpkg-deb", "-f", self.package, "Version").strip()
+        for path in ("packaging/org.example.karvenis.metainfo.xml", "packaging/debian/changelog",
+                     "packaging/karvenis.6", "packaging/tr/karvenis.6"):
+            with open(os.path.join(HOUSE, path), encoding="utf-8") as file:
+                self.assertIn(version, file.read(), path)
+
+
+class Validators(PackageCase):
+    def test_desktop_entry(self):
+        entry = self.installed("share/applications/karvenis.desktop")
+        self.assertEqual(output_of("desktop-file-validate", entry), "")
+
+    def test_metainfo(self):
+        metainfo = self.installed("share/metainfo/org.example.karvenis.metainfo.xml")
+        output_of("appstreamcli", "validate", "--pedantic", "--no-net", metainfo)
+
+    def test_manual_pages(self):
+        for page in ("share/man/man6/karvenis.6.gz", "share/man/tr/man6/karvenis.6.gz"):
+            environment = {**os.environ, "LC_ALL": "C.UTF-8", "MANROFFSEQ": "", "MANWIDTH": "80"}
+            words = output_of("sh", "-c", 'man --warnings -E UTF-8 -l -Tutf8 -Z "$1" >/dev/null',
+                              "man", self.installed(page), env=environment)
+            self.assertEqual(words, "", page)
+
+    def test_debian_package(self):
+        told = output_of("lintian", "--allow-root", "--pedantic", "--fail-on", "error,warning",
+                         self.package)
+        self.assertEqual(told, "")
+
+
+class MenuEntry(PackageCase):
+    def test_it_starts_the_program_in_a_folder_of_the_user(self):
+        screen = Screen()
+        self.addCleanup(screen.close)
+        environment = {**screen.environment,
+                       "PATH": os.path.join(self.root, "usr/bin") + ":/usr/bin:/bin"}
+        entry = self.installed("share/applications/karvenis.desktop")
+        subprocess.run(["gio", "launch", entry], env=environment, cwd="/", check=True, timeout=60,
+                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+        (process,) = wait_for(lambda: reading.programs(screen.bus), "the program")
+        self.addCleanup(os.kill, process, signal.SIGTERM)
+        program = reading.programs(screen.bus)[process]
+        wait_for(lambda: [window.name for window in program.children] == [STANDARD_TITLE],
+                 "the main window")
+        self.assertEqual(os.readlink(f"/proc/{process}/cwd"),
+                         os.path.join(screen.home, "KARVENIS"))
+        self.assertEqual(os.readlink(f"/proc/{process}/exe"),
+                         os.path.join(self.root, "usr/bin/karvenis"))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
