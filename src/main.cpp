@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include "bag/frmBalls.h"
 #include "bag/frmBanko.h"
@@ -20,6 +22,14 @@
 // Wires the doors to the windows; what the program does stands in the rooms.
 
 namespace {
+
+/// The toolkit's own words (the menus of text boxes) in Turkish too, whatever the system's
+/// language.
+void speakTurkish(QTranslator& words) {
+  if (words.load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QApplication::installTranslator(&words);
+  }
+}
 
 /// Says of every print that there is no printer.
 class NoPrinter final : public karvenis::Printer {
@@ -45,6 +55,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("KARVENIS"));
   QApplication::setDesktopFileName(QStringLiteral("karvenis"));
   applyLook(application);
+  QTranslator turkish;
+  speakTurkish(turkish);
 
   SharedState state;
   QtBoxes boxes;

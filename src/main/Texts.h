@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace karvenis {
 
 /// The main window's key list.
@@ -23,7 +25,8 @@ inline constexpr char keyList[] =
     "ESC= Çıkış/Kapat";
 
 inline constexpr char aboutTitle[] = " KARVENIS 2005 Randomizer Hakkında";
-inline constexpr char about[] =
+/// Ends before the name of the folder that the files are in.
+inline const std::string about =
     "Bu program, 6/49 Sayısal Loto için seçtiğiniz toplardan (torbadan) rastgele kolonlar çeker; "
     "çıkmasını mutlaka istediğiniz banko topları her kolona ekler, kolonları gösterir ve "
     "listeler.\r"
@@ -32,6 +35,8 @@ inline constexpr char about[] =
     "masaüstü programıdır. Kolonlarınız yalnızca sizin bilgisayarınızda durur.\r"
     "\r"
     "Tam formüllü kombinasyon listeleri için, bu programın yanında, yapımcının formül programını "
-    "kullanmanızı öneririz.";
+    "kullanmanızı öneririz.\r"
+    "\r"
+    "Dosyaların durduğu klasör: ";
 
 }  // namespace karvenis

@@ -116,7 +116,7 @@ void frmLoto::mnuFKeys_Click() { around_.boxes.message(keyList, keyListTitle); }
 
 void frmLoto::mnuAbout_Click() {
   around_.boxes.beep();
-  around_.boxes.message(about, aboutTitle);
+  around_.boxes.message(about + around_.files.currentFolder(), aboutTitle);
 }
 
 void frmLoto::showImage(int index, bool visible) {

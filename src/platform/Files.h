@@ -45,6 +45,8 @@ class Files {
   virtual void remove(const std::string& name) = 0;
   /// Gives `from` the name `to` in one step, replacing an old `to`. Throws (rename).
   virtual void rename(const std::string& from, const std::string& to) = 0;
+  /// The current directory's path, for showing.
+  virtual std::string currentFolder() = 0;
 };
 
 }  // namespace karvenis

@@ -234,4 +234,6 @@ void SystemFiles::rename(const std::string& from, const std::string& to) {
   if (::rename(from.c_str(), to.c_str()) != 0 || !syncFolder()) fail(Fault::rename, from);
 }
 
+std::string SystemFiles::currentFolder() { return behindLinks("."); }
+
 }  // namespace karvenis

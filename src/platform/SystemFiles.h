@@ -13,6 +13,7 @@ class SystemFiles final : public Files {
   void copy(const std::string& from, const std::string& to) override;
   void remove(const std::string& name) override;
   void rename(const std::string& from, const std::string& to) override;
+  std::string currentFolder() override;
 };
 
 }  // namespace karvenis

@@ -44,6 +44,7 @@ class MemoryFiles : public Files {
     folder.erase(from);
     folder[to] = std::move(moved);
   }
+  std::string currentFolder() override { return "/memory"; }
 
  private:
   std::map<std::string, Bytes>::iterator found(const std::string& name, Fault fault) {

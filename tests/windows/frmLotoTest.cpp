@@ -236,7 +236,7 @@ TEST_F(FrmLoto, F10ListsTheKeysWithoutABeepAndAboutBeeps) {
   press(loto, Qt::Key_F10);
   EXPECT_TRUE(world.boxes.finished());
   EXPECT_EQ(std::ranges::count(std::string_view(keyList), '\r'), 15);
-  world.boxes.expectBeep().expectMessage(about, aboutTitle);
+  world.boxes.expectBeep().expectMessage(about + "/memory", aboutTitle);
   trigger(loto, "mnuAbout");
 }
 

@@ -1,8 +1,10 @@
 #include "platform/qt/Surface.h"
 
 #include <QAccessible>
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/qt/SurfaceAccessible.h"
@@ -12,7 +14,10 @@ namespace karvenis {
 namespace {
 
 constexpr double twipsPerPixel = 15;
-constexpr int textPixels = 13;  // 9.75 points
+constexpr double textPixels = 13;  // 9.75 points
+
+/// How much larger than designed everything is printed: as the user's own font asks, never smaller.
+double zoomOf(const QFont& font) { return std::max(1.0, QFontInfo(font).pixelSize() / textPixels); }
 
 QColor shown(QBColor colour) {
   switch (colour) {
@@ -32,12 +37,12 @@ QColor shown(QBColor colour) {
 
 }  // namespace
 
-Surface::Surface(QWidget* parent) : QWidget(parent) {
+Surface::Surface(QWidget* parent) : QWidget(parent), zoom_(zoomOf(font())) {
   installSurfaceAccessible();
   setObjectName(QStringLiteral("Surface"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
   QFont text = font();
-  text.setPixelSize(textPixels);
+  text.setPixelSize(qRound(textPixels * zoom_));
   setFont(text);
   QPalette white = palette();
   white.setColor(QPalette::Window, Qt::white);
@@ -45,8 +50,9 @@ Surface::Surface(QWidget* parent) : QWidget(parent) {
   setAutoFillBackground(true);
 }
 
-double Surface::pixels(double twips) const { return twips / twipsPerPixel; }
-double Surface::lineHeight() const { return QFontMetricsF(font()).height() * twipsPerPixel; }
+double Surface::pixels(double twips) const { return twips * zoom_ / twipsPerPixel; }
+double Surface::twips(double pixels) const { return pixels * twipsPerPixel / zoom_; }
+double Surface::lineHeight() const { return twips(QFontMetricsF(font()).height()); }
 
 QSize Surface::sizeFor(double margin, int lines, double right) const {
   const QSizeF exact(pixels(right + margin), pixels(2 * margin + lines * lineHeight()));
@@ -65,7 +71,7 @@ void Surface::print(const std::string& text) {
   const QString shownText = toQt(text);
   note(shownText);
   runs_.push_back({x_, y_, colour_, shownText});
-  x_ += QFontMetricsF(font()).horizontalAdvance(shownText) * twipsPerPixel;
+  x_ += twips(QFontMetricsF(font()).horizontalAdvance(shownText));
   update();
 }
 

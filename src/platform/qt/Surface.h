@@ -47,6 +47,9 @@ class Surface final : public QWidget, public TextSurface {
   };
   void note(const QString& text);
 
+  double twips(double pixels) const;
+
+  double zoom_;
   double x_ = 0;
   double y_ = 0;
   QBColor colour_ = QBColor::blue;
