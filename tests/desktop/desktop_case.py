@@ -34,6 +34,27 @@ class DesktopCase(unittest.TestCase):
         self.program.activated(STANDARD_TITLE)
         return self.program
 
+    def click(self, role, name):
+        """Clicks a control of the main window."""
+        self.program.click(self.main.find(role, name))
+
+    def draw(self):
+        """Draws a column from the bag and waits until its sixth ball lies. Returns the column."""
+        self.click("push button", "Kolon")
+        self.program.until(lambda: 0 < len(self.program.numbers(self.main)) < 12,
+                           "the balls to roll")
+        self.program.until(lambda: len(self.program.numbers(self.main)) == 12, "the sixth ball")
+        numbers = self.program.numbers(self.main)
+        self.assertEqual(numbers[::2], numbers[1::2])
+        return numbers[::2]
+
+    def open(self, key, title):
+        """Presses the key that opens the window of this title."""
+        self.program.keys(key)
+        window = self.program.window(title)
+        self.program.activated(title)
+        return window
+
     def expect_box(self, text, title=STANDARD_TITLE, buttons=("Tamam",), answer="Return"):
         """A box with these words comes, and goes with the answer."""
         box = self.program.box()

@@ -147,6 +147,12 @@ class Program:
         self.until(look, f"a title like «{pattern}»; it is «{self.active_title()}»")
         return found[0]
 
+    def numbers(self, main):
+        """The numbers to be seen on the main window's balls and below them, position by position."""
+        told = [re.fullmatch(r"\d\. (?:top|sayı): (\d+)", label.name)
+                for label in main.all("label") if label.has("showing")]
+        return [int(number.group(1)) for number in told if number]
+
     # Hands
 
     def keys(self, *keys):

@@ -7,7 +7,6 @@ files then hold.
 """
 
 import os
-import re
 import shutil
 import sys
 
@@ -99,23 +98,18 @@ class Tour:
         self.picture("question", "F8: the bankos are read back from the file.")
         self.agree("Banko seçimini KARVENIS.DAT dosyasından yüklemek")
 
-    def numbers(self, main):
-        told = [re.fullmatch(r"\d\. (?:top|sayı): (\d+)", label.name)
-                for label in main.all("label") if label.has("showing")]
-        return [int(number.group(1)) for number in told if number]
-
     def draw(self, main):
         self.program.click(main.find("push button", "Kolon"))
-        self.program.until(lambda: len(self.numbers(main)) < 12, "the balls to roll")
+        self.program.until(lambda: len(self.program.numbers(main)) < 12, "the balls to roll")
 
     def draw_and_keep(self, main):
         for count in (1, 2):
             self.draw(main)
             if count == 1:
-                self.program.until(lambda: len(self.numbers(main)) == 6, "the third ball")
+                self.program.until(lambda: len(self.program.numbers(main)) == 6, "the third ball")
                 self.picture("rolling", "\"Kolon\": a column is drawn, ball by ball.")
-            self.program.until(lambda: len(self.numbers(main)) == 12, "the sixth ball")
-            missing = set(BANKOS) - set(self.numbers(main))
+            self.program.until(lambda: len(self.program.numbers(main)) == 12, "the sixth ball")
+            missing = set(BANKOS) - set(self.program.numbers(main))
             if missing:
                 raise AssertionError(f"the column lacks the bankos {missing}")
             self.program.keys("F1")

@@ -114,6 +114,9 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
       return handleKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      repeats_.released(*static_cast<QKeyEvent*>(event));
+      return false;
     case QEvent::MouseButtonPress:
       notePress(*static_cast<QMouseEvent*>(event));
       [[fallthrough]];
@@ -131,7 +134,7 @@ bool Form::handleKey(const QKeyEvent& key) {
   if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
     return true;
   const int code = keyCodeOf(key);
-  keyRepeats_ = key.isAutoRepeat();
+  keyRepeats_ = repeats_.isRepeat(key);
   if (isFunctionKey(code) && keyRepeats_) return true;
 
   const int shift = shiftOf(key);
@@ -139,14 +142,14 @@ bool Form::handleKey(const QKeyEvent& key) {
   run([&] { Form_KeyDown(code, shift); });
   const bool character = (code == keyEnter || code == keyEscape) && (shift & ~shiftKey) == 0;
   if (character && !closing_) run([&] { Form_KeyPress(code); });
-  if (code == keyEnter && !closing_) pressFocused(key, focused);
+  if (code == keyEnter && !closing_) pressFocused(focused);
   return closing_ || isFunctionKey(code) || code == keyEscape;
 }
 
 /// Enter presses the button that had the focus when the key came.
-void Form::pressFocused(const QKeyEvent& key, QWidget* focused) {
+void Form::pressFocused(QWidget* focused) {
   auto* button = qobject_cast<QPushButton*>(focused);
-  if (button != nullptr && !key.isAutoRepeat() && button == focusWidget()) button->click();
+  if (button != nullptr && !keyRepeats_ && button == focusWidget()) button->click();
 }
 
 void Form::closeEvent(QCloseEvent* event) {

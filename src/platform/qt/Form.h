@@ -10,6 +10,7 @@
 
 #include "platform/Keys.h"
 #include "platform/TitleBar.h"
+#include "platform/qt/KeyCodes.h"
 
 class QKeyEvent;
 class QLineEdit;
@@ -102,7 +103,7 @@ class Form : public QWidget, public TitleBar {
  private:
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
-  void pressFocused(const QKeyEvent& key, QWidget* focused);
+  void pressFocused(QWidget* focused);
   bool isFree(const QPoint& place) const;
 
   Forms& forms_;
@@ -113,6 +114,7 @@ class Form : public QWidget, public TitleBar {
   QSize lastSize_;
   int running_ = 0;
   bool closing_ = false;
+  KeyRepeats repeats_;
   bool keyRepeats_ = false;
   bool clickArmed_ = false;
   bool pressWasFree_ = false;        // the last press was on the window's own surface
