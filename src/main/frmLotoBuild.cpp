@@ -77,7 +77,6 @@ frmLoto::frmLoto(Surroundings& around, Forms& forms)
   Picture2 = new Picture(artwork_, QStringLiteral("window.svg"), {}, this);
   Picture2->setObjectName(QStringLiteral("Picture2"));
   Picture2->hide();
-  setWindowIcon(QIcon(QStringLiteral(":/assets/karvenis.svg")));
   setCaption(standardTitle);
   Command1->setFocus();
 }

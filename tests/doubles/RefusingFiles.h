@@ -57,6 +57,7 @@ class RefusingFiles final : public Files {
     rule_->pass(Fault::rename, from);
     inner_.rename(from, to);
   }
+  std::string currentFolder() override { return inner_.currentFolder(); }
 
  private:
   class Open final : public File {

@@ -5,6 +5,7 @@
 
 #include "platform/RunTimeError.h"
 #include "platform/qt/Form.h"
+#include "platform/qt/WindowPlace.h"
 
 namespace karvenis {
 namespace {
@@ -13,6 +14,12 @@ namespace {
 std::string words(const std::exception& error) {
   if (const auto* known = dynamic_cast<const RunTimeError*>(&error)) return describe(*known);
   return std::string("Beklenmeyen bir hata oluştu.\rNeden: ") + error.what();
+}
+
+/// A new window stands a little to the right of its opener's corner and below its title.
+void placeBeside(Form& window, const Form& opener) {
+  constexpr QPoint step(36, 56);
+  moveFrame(window, opener.pos() + step);
 }
 
 }  // namespace
@@ -50,7 +57,10 @@ Form* Forms::open(std::string_view form) {
   window->setOpener(active_);
   std::erase_if(open_, [](const QPointer<Form>& gone) { return gone.isNull(); });
   open_.emplace_back(window);
-  window->run([&] { window->Form_Load(); });
+  window->run([&] {
+    if (active_) placeBeside(*window, *active_);
+    window->Form_Load();
+  });
   return window->isClosing() ? nullptr : window;
 }
 

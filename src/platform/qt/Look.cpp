@@ -1,6 +1,7 @@
 #include "platform/qt/Look.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -48,6 +49,7 @@ QToolTip { background: #fffdf7; color: #2a2622; border: 1px solid #b79f71; paddi
 void applyLook(QApplication& application) {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(palette());
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/assets/karvenis.svg")));
   application.setStyleSheet(QLatin1String(sheet));
 }
 
