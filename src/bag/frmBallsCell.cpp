@@ -8,9 +8,9 @@
 namespace karvenis {
 namespace {
 
-constexpr QSize cellSize(50, 46);
-constexpr int textPixels = 17;
-constexpr double ringDiameter = 34;
+constexpr QSize cellSize(54, 48);
+constexpr int textPixels = 18;
+constexpr double ringDiameter = 36;
 
 }  // namespace
 

@@ -14,7 +14,7 @@ namespace karvenis {
 namespace {
 
 constexpr int margin = 16;
-constexpr QSize boxSize(64, 40);
+constexpr int boxHeight = 40;
 constexpr int boxPixels = 20;
 
 }  // namespace
@@ -53,7 +53,7 @@ QWidget* frmBanko::buildOptions() {
   auto* holder = new QWidget(this);
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(margin - 2);
+  row->setSpacing(margin / 2);
   Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("Banko Top Sayısı:"));
   row->addWidget(Label1);
   for (int count = 0; count <= mostBankos; ++count) {
@@ -83,11 +83,12 @@ QWidget* frmBanko::buildBoxes() {
     auto* box = control<QLineEdit>(QStringLiteral("Text1_%1").arg(index));
     box->setAccessibleName(QStringLiteral("%1. banko top").arg(index + 1));
     box->setAlignment(Qt::AlignCenter);
-    box->setFixedSize(boxSize);
+    box->setFixedHeight(boxHeight);
+    box->setMinimumWidth(boxHeight);
     QFont large = box->font();
     large.setPixelSize(boxPixels);
     box->setFont(large);
-    QSizePolicy kept = box->sizePolicy();
+    QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
     kept.setRetainSizeWhenHidden(true);
     box->setSizePolicy(kept);
     box->hide();
@@ -96,7 +97,6 @@ QWidget* frmBanko::buildBoxes() {
     Text1[static_cast<std::size_t>(index)] = box;
     row->addWidget(box);
   }
-  row->addStretch();
   column->addLayout(row);
   return holder;
 }
@@ -105,6 +105,7 @@ QWidget* frmBanko::buildCommands() {
   auto* holder = new QWidget(this);
   auto* column = new QVBoxLayout(holder);
   column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(margin - 4);
   auto* row = new QHBoxLayout;
   Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
   Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
@@ -149,6 +150,11 @@ void frmBanko::Option_Click(int count) {
   Label2->setText(toQt(bankoCaption(count)));
   for (int index = 0; index < mostBankos; ++index) {
     Text1[static_cast<std::size_t>(index)]->setVisible(index < count);
+  }
+  // The focus goes with the choice, unless the user works elsewhere in the window.
+  QWidget* focused = focusWidget();
+  if (focused == nullptr || qobject_cast<QRadioButton*>(focused) != nullptr) {
+    Option[static_cast<std::size_t>(count)]->setFocus();
   }
 }
 

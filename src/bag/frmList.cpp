@@ -22,13 +22,12 @@ frmList::frmList(Surroundings& around, Forms& forms)
   setCaption("KARVENIS 2005 - Sekiz Rastgele Kolon");
   setPalette(page_->palette());
   auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
+  whole->setContentsMargins(margin, 0, margin, margin);
   whole->setSpacing(0);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   whole->addWidget(page_);
 
   Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("F10 = Yardım"));
-  Label1->setContentsMargins(0, 0, margin, margin);
   QSizePolicy kept = Label1->sizePolicy();
   kept.setRetainSizeWhenHidden(true);
   Label1->setSizePolicy(kept);
@@ -50,7 +49,7 @@ Surface* frmList::makePage(QWidget* parent) {
   page->setFont(large);
   const QFontMetrics metrics(large);
   const QString widest = QStringLiteral(" Kolon  8 - 48  48  48  48  48  48  ");
-  page->setFixedSize(metrics.horizontalAdvance(widest) + margin, linesOfPage * metrics.height());
+  page->setFixedSize(metrics.horizontalAdvance(widest), linesOfPage * metrics.height());
   return page;
 }
 

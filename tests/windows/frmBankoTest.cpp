@@ -105,6 +105,17 @@ TEST_F(FrmBanko, ShowsTheBankosWhenItOpens) {
   EXPECT_EQ(texts(), (QStringList{"30", "7", "", "", ""}));
 }
 
+TEST_F(FrmBanko, TheFocusGoesWithTheChoiceUnlessItIsElsewhere) {
+  setBanko(world.state, {30, 7});
+  start();
+  EXPECT_EQ(focused(), "Option3");
+  press(banko, Qt::Key_F8);
+  EXPECT_EQ(focused(), "Option5");
+  click(box(1));
+  press(banko, Qt::Key_F6);
+  EXPECT_EQ(focused(), "Text1_1");
+}
+
 TEST_F(FrmBanko, KeysChooseTheCountAndKeepTheNumbers) {
   setBanko(world.state, {1, 2, 3, 4, 5});
   start();

@@ -38,6 +38,8 @@ QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #
 QPushButton:pressed { background: #e2cfa5; }
 QPushButton:focus { border: 2px solid #1f5a60; padding: 4px 15px; }
 QPushButton:disabled { color: #8c8272; background: #efe6d3; }
+QRadioButton, QCheckBox { border: 1px solid transparent; border-radius: 4px; padding: 1px 4px 1px 2px; }
+QRadioButton:focus, QCheckBox:focus { border-color: #1f5a60; }
 QMenuBar { background: #efe3ca; color: #2a2622; border-bottom: 1px solid #d8c6a0; }
 QMenuBar::item { padding: 5px 10px; background: transparent; }
 QMenuBar::item:selected { background: #1f5a60; color: white; border-radius: 3px; }
