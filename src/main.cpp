@@ -5,6 +5,8 @@
 #include "bag/frmBalls.h"
 #include "bag/frmBanko.h"
 #include "bag/frmList.h"
+#include "comblist/frmComLst.h"
+#include "comblist/frmRnd.h"
 #include "core/Surroundings.h"
 #include "listing/frmCLPrint.h"
 #include "listing/frmRLPrint.h"
@@ -76,6 +78,8 @@ int main(int argc, char** argv) {
   forms.add("frmRndLst", [&] { return new frmRndLst(around, forms); });
   forms.add("frmRndDel", [&] { return new frmRndDel(around, forms); });
   forms.add("frmRLPrint", [&] { return new frmRLPrint(around, forms); });
+  forms.add("frmRnd", [&] { return new frmRnd(around, forms); });
+  forms.add("frmComLst", [&] { return new frmComLst(around, forms); });
   forms.add("frmCLPrint", [&] { return new frmCLPrint(around, forms); });
 
   forms.show("frmLoto");

@@ -105,10 +105,11 @@ void Forms::showCaptions() {
 }
 
 void Forms::dropInput() {
-  dropping_ = true;
+  *dropping_ = true;
   // The first turn of the event loop brings what came meanwhile; idle timers fire after it.
-  QTimer::singleShot(0, qApp,
-                     [this] { QTimer::singleShot(0, qApp, [this] { dropping_ = false; }); });
+  QTimer::singleShot(0, qApp, [dropping = dropping_] {
+    QTimer::singleShot(0, qApp, [dropping] { *dropping = false; });
+  });
 }
 
 }  // namespace karvenis

@@ -49,7 +49,7 @@ class Forms final : public Windows {
   /// Drops the keys and clicks that came while a long action kept the program busy, so that they do
   /// not become commands after it.
   void dropInput();
-  bool droppingInput() const { return dropping_; }
+  bool droppingInput() const { return *dropping_; }
 
  private:
   Form* open(std::string_view form);
@@ -61,7 +61,7 @@ class Forms final : public Windows {
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
   bool ending_ = false;
-  bool dropping_ = false;
+  std::shared_ptr<bool> dropping_ = std::make_shared<bool>(false);  // outlives us in its timers
 };
 
 }  // namespace karvenis

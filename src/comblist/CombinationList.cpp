@@ -1,0 +1,101 @@
+#include "comblist/CombinationList.h"
+
+#include "comblist/ListDeletion.h"
+#include "core/ColumnFile.h"
+#include "core/Numbers.h"
+
+namespace karvenis {
+namespace {
+
+constexpr char keys[] =
+    "F1= Kombinasyon listesini bas (Text yap)\r"
+    "F2= Kombinasyon listesini 'KARVENIS.RND' dosyasına kayıtla\r"
+    "F3= Bir kolon sil\r"
+    "F4= Kombinasyon listesini (KARVENIS.LST dosyasını) sil\r"
+    "F5= Kombinasyon listesini istenmeyen sayılar girişine göre ele\r"
+    "F6= Kombinasyon listesini istenen sayılar girişine göre ele\r"
+    "F7= Kombinasyon listesini istenmeyen ikililer girişine göre ele\r"
+    "F8= Kombinasyon listesini istenen ikililer girişine göre ele\r"
+    "\r"
+    "F10= Fonksiyon Tuşları (Yardım)\r"
+    "\r"
+    "Not: Tam formüllerden oluşan listeler için KARVENIS'in kardeş programını öneririz.\r"
+    "\r"
+    "HOME= İlk Sayfa\r"
+    "END= Son Sayfa\r"
+    "PAGEDOWN= Sonraki Sayfa\r"
+    "PAGEUP= Önceki Sayfa\r"
+    "\r"
+    "ESC= Kapat";
+
+}  // namespace
+
+void ShowPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
+  if (!around.files.exists(combinationList)) return;
+  std::optional<ColumnFile>& list = around.state.FileNo;
+  list.emplace(around.files, combinationList, around.state.Record);
+  page.RecordCount = list->count();
+  const bool empty = page.RecordCount < 1;
+  if (!empty) {
+    page.fit(page.RecordCount);
+    title.setCaption(pageTitle("Kombinasyon Listesi", page.PageNo));
+    drawPage(page, around.state, surface);
+  }
+  list->close();
+  list.reset();
+  if (empty) around.boxes.warn("Kombinasyon listesi dosyası 'KARVENIS.LST' boş!");
+}
+
+bool findList(Surroundings& around) {
+  if (around.files.exists(combinationList)) return true;
+  around.boxes.warn("Kombinasyon listesi dosyası 'KARVENIS.LST' bulunamadı!");
+  return false;
+}
+
+void ListCombinations(Surroundings& around) {
+  around.boxes.beep();
+  if (holdsColumns(around.files, combinationList)) around.windows.show("frmCLPrint");
+}
+
+bool CopyToRandomColumns(Surroundings& around) {
+  around.boxes.beep();
+  if (!holdsColumns(around.files, combinationList)) return true;
+  if (around.files.exists(randomColumns) &&
+      !around.boxes.ask("'KARVENIS.LST' dosyasını 'KARVENIS.RND' dosyası olarak kopyelemek "
+                        "istiyormusunuz?\r\r(Mevcut 'KARVENIS.RND' dosyası silinecek!)")) {
+    return false;
+  }
+  around.files.copy(combinationList, randomColumns);
+  around.boxes.message("Kombinasyon Listesi Yasak Kombinasyonlar Listesi'ne eklendi.");
+  return true;
+}
+
+void DeleteColumn(Surroundings& around, ListPage& page) {
+  around.boxes.beep();
+  Files& files = around.files;
+  if (!files.exists(combinationList) || columnCount(files, combinationList) < 1) return;
+  page.PageStart = typedNumber32(
+      around.boxes.input("Silmek istediğiniz kolon numarasını girin.", "Kolon SİLME", "0"));
+  const std::int32_t number = page.PageStart;
+  if (number < 1) return;
+  const std::int32_t count = columnCount(files, combinationList);
+  if (number > count) return;
+  deleteListColumn(around.state, files, number, count);
+  page.PageStart = number - 1;
+}
+
+void DeleteList(Surroundings& around) {
+  around.boxes.beep();
+  if (!around.files.exists(combinationList)) return;
+  if (!around.boxes.ask("'KARVENIS.LST' dosyasını silmek istiyormusunuz ?")) return;
+  around.files.remove(combinationList);
+  around.boxes.beep();
+  around.boxes.message("'KARVENIS.LST' silindi...");
+}
+
+void ShowListKeys(Boxes& boxes) {
+  boxes.beep();
+  boxes.message(keys, " Kombinasyon Listesi FONKSİYON TUŞLARI");
+}
+
+}  // namespace karvenis

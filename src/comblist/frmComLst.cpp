@@ -1,0 +1,86 @@
+#include "comblist/frmComLst.h"
+
+#include <QVBoxLayout>
+
+#include "comblist/CombinationList.h"
+#include "platform/qt/Forms.h"
+#include "platform/qt/Surface.h"
+
+namespace karvenis {
+
+frmComLst::frmComLst(Surroundings& around, Forms& forms)
+    : Form(forms, "frmComLst"), around_(around), surface_(new Surface(this)) {
+  setCaption(listTitle);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(surface_);
+  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_)));
+}
+
+void frmComLst::Form_Activate() {
+  if (!findList(around_)) {
+    unload();
+    return;
+  }
+  page_.PageStart = 0;
+  redraw();
+}
+
+void frmComLst::Form_Click() {
+  page_.click();
+  redraw();
+}
+
+void frmComLst::Form_KeyDown(int KeyCode, int Shift) {
+  if (KeyCode == keyEscape) {
+    unload();
+    return;
+  }
+  if (runCommand(KeyCode, Shift)) redraw();
+}
+
+/// Returns whether the page is to be drawn anew.
+bool frmComLst::runCommand(int KeyCode, int Shift) {
+  switch (KeyCode) {
+    case keyF1:
+      ListCombinations(around_);
+      return true;
+    case keyF2:
+      return CopyToRandomColumns(around_);
+    case keyF3:
+      DeleteColumn(around_, page_);
+      return true;
+    case keyF4:
+      // With Alt it is the window system's own key for closing.
+      if ((Shift & altKey) == 0) DeleteList(around_);
+      return true;
+    case keyF5:
+    case keyF6:
+    case keyF7:
+    case keyF8:
+      runFilter(static_cast<Filter>(KeyCode - keyF5));
+      return true;
+    case keyF10:
+      ShowListKeys(around_.boxes);
+      return true;
+    case keyF11:
+    case keyF12:
+      around_.boxes.beep();
+      return true;
+    default:
+      page_.key(KeyCode);
+      return true;
+  }
+}
+
+/// The page then starts at the list's second column.
+void frmComLst::runFilter(Filter filter) {
+  around_.boxes.beep();
+  if (!filterList(filter, around_, *this)) return;
+  page_.PageStart = 1;
+  forms().dropInput();
+}
+
+void frmComLst::redraw() { ShowPage(around_, page_, *surface_, *this); }
+
+}  // namespace karvenis

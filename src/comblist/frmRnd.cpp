@@ -1,0 +1,123 @@
+#include "comblist/frmRnd.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "platform/qt/Forms.h"
+#include "platform/qt/Text.h"
+
+namespace karvenis {
+namespace {
+
+constexpr int margin = 18;
+constexpr int spacing = 12;
+
+}  // namespace
+
+frmRnd::frmRnd(Surroundings& around, Forms& forms)
+    : Form(forms, "frmRnd"), boxes_(around.boxes), list_(around, *this) {
+  setCaption(generatorTitle);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(margin, margin, margin, margin);
+  whole->setSpacing(spacing);
+  whole->setSizeConstraint(QLayout::SetFixedSize);
+  whole->addLayout(buildCount());
+  whole->addLayout(buildOptions());
+  Line1 = control<QFrame>(QStringLiteral("Line1"));
+  Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+  whole->addWidget(Line1);
+  Label2 = control<QLabel>(QStringLiteral("Label2"),
+                           QStringLiteral("KARVENIS.LST dosyasına kayıtlanacak."));
+  Label2->setToolTip(QStringLiteral("Kombinasyon Listesi dosyasına kayıtlanacak."));
+  whole->addWidget(Label2);
+  whole->addLayout(buildCommands());
+}
+
+QLayout* frmRnd::buildCount() {
+  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("Kolon Sayısı:"));
+  Text1 = control<QLineEdit>(QStringLiteral("Text1"), QStringLiteral("32767"));
+  Text1->setToolTip(QStringLiteral("Rastgele küme oluşturmak için en çok deneme sayısı."));
+  Label1->setBuddy(Text1);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(spacing);
+  row->addWidget(Label1);
+  row->addWidget(Text1);
+  return row;
+}
+
+QLayout* frmRnd::buildOptions() {
+  Option1 = control<QRadioButton>(QStringLiteral("Option1"), QStringLiteral("Yeni Liste"));
+  Option2 = control<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("Mevcut Listeye Ekle"));
+  Option1->setChecked(true);
+  onOption(Option1, &frmRnd::Option1_Click);
+  onOption(Option2, &frmRnd::Option2_Click);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(spacing / 2);
+  column->addWidget(Option1);
+  column->addWidget(Option2);
+  return column;
+}
+
+/// An option is clicked when it is chosen, in whatever way, and also when it was chosen before.
+void frmRnd::onOption(QRadioButton* option, void (frmRnd::*procedure)()) {
+  on(option, &QRadioButton::clicked, [this, procedure] { (this->*procedure)(); });
+  on(option, &QRadioButton::toggled, [this, option, procedure] {
+    if (option->isChecked()) (this->*procedure)();
+  });
+}
+
+QLayout* frmRnd::buildCommands() {
+  Command1 = command("Command1", u"Oluştur", u"", [this] { Command1_Click(); });
+  Command2 = command("Command2", u"Kapat", u"", [this] { unload(); });
+  auto* row = new QHBoxLayout;
+  row->setSpacing(spacing);
+  row->addWidget(Command1, 1);
+  row->addWidget(Command2, 1);
+  return row;
+}
+
+void frmRnd::Form_Activate() {
+  Option2->setEnabled(list_.canAppend());
+  if (!list_.canAppend()) return;
+  Text1->setText(toQt(list_.countForAppend()));
+  Option2->setChecked(true);
+}
+
+void frmRnd::Form_KeyDown(int KeyCode, int) {
+  switch (KeyCode) {
+    case keyEscape:
+      return unload();
+    case keyF1:
+      return Command1_Click();
+    case keyF10:
+      boxes_.beep();
+      return boxes_.message("F1= Oluştur\r\rESC= İptal/Kapat", " FONKSİYON TUŞLARI");
+    default:
+      return;
+  }
+}
+
+void frmRnd::Option1_Click() { Text1->setText(toQt(list_.countForNewList(fromQt(Text1->text())))); }
+
+void frmRnd::Option2_Click() { Text1->setText(toQt(list_.countForAppend())); }
+
+void frmRnd::Command1_Click() {
+  const auto mode = Option1->isChecked() ? RandomList::Mode::newList : RandomList::Mode::append;
+  switch (list_.start(mode, fromQt(Text1->text()))) {
+    case RandomList::Outcome::refused:
+      Text1->setFocus(Qt::TabFocusReason);
+      return;
+    case RandomList::Outcome::kept:
+      return;
+    case RandomList::Outcome::done:
+      forms().dropInput();
+      return unload();
+  }
+}
+
+}  // namespace karvenis

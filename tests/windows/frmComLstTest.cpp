@@ -1,0 +1,331 @@
+#include "comblist/frmComLst.h"
+
+#include "doubles/Columns.h"
+#include "listing/frmCLPrint.h"
+#include "windows/WindowTest.h"
+
+namespace karvenis {
+namespace {
+
+constexpr char missing[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' bulunamadı!";
+constexpr char emptyList[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' boş!";
+constexpr char deleteQuestion[] = "'KARVENIS.LST' dosyasını silmek istiyormusunuz ?";
+constexpr char unwantedPrompt[] = "İstemediğiniz sayıları (aralarına virgül koyarak) girin.";
+
+/// The window that the list is opened from.
+class Opener final : public Form {
+ public:
+  Opener(Surroundings&, Forms& windows) : Form(windows, "opener") {}
+  void Form_Activate() override { ++activations; }
+  int activations = 0;
+};
+
+class FrmComLst : public WindowTest {
+ protected:
+  Form* list = nullptr;
+
+  void SetUp() override {
+    add<Opener>("opener");
+    add<frmComLst>("frmComLst");
+    add<frmCLPrint>("frmCLPrint");
+    open("opener");
+  }
+  void openOver(std::int32_t count) {
+    hold(count);
+    list = open("frmComLst");
+    ASSERT_NE(list, nullptr);
+  }
+  void hold(std::int32_t count) { world.files.folder[combinationList] = countedColumns(count); }
+  std::size_t records() const { return columnsOf(world.files.bytes(combinationList)).size(); }
+  std::vector<std::string> shown() const { return linesOf(list); }
+  bool showsFrom(int first, std::size_t rows) const {
+    return shown().size() == rows &&
+           shown().front().starts_with("Kolon - " + std::to_string(first) + " : ");
+  }
+  void expectInput(const char* prompt, const char* typed, const char* preset = "") {
+    world.boxes.expectBeep().expectInput(prompt, "Kolon SİLME", preset, typed);
+  }
+};
+
+std::string pageTitled(int page) {
+  return " Kombinasyon Listesi - Sayfa " + std::to_string(page) + "  [ F10= Yardım ]";
+}
+
+TEST_F(FrmComLst, CarriesItsDesignTitleUntilTheFirstRedraw) {
+  frmComLst window(around, forms);
+  EXPECT_EQ(window.caption(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
+}
+
+TEST_F(FrmComLst, ShowsItsFirstPage) {
+  openOver(60);
+  EXPECT_EQ(list->caption(), pageTitled(1));
+  ASSERT_TRUE(showsFrom(1, 25));
+  EXPECT_EQ(shown()[1], "Kolon - 2 :  1   2   3   4   5   7  [ 022 ]");
+}
+
+TEST_F(FrmComLst, WithoutAListTellsOnceAndCloses) {
+  world.boxes.expectWarning(missing);
+  forms.show("frmComLst");
+  EXPECT_EQ(forms.find("frmComLst"), nullptr);
+  settle();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dynamic_cast<Opener*>(forms.find("opener"))->activations, 2);
+}
+
+TEST_F(FrmComLst, OverAnEmptyListTellsAndStays) {
+  world.files.folder[combinationList];
+  world.boxes.expectWarning(emptyList);
+  forms.show("frmComLst");
+  list = forms.find("frmComLst");
+  ASSERT_NE(list, nullptr);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(list));
+  EXPECT_EQ(list->caption(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
+  world.boxes.expectWarning(emptyList);
+  press(list, Qt::Key_Down);
+}
+
+TEST_F(FrmComLst, PagesByEveryKey) {
+  openOver(60);
+  press(list, Qt::Key_PageDown);
+  EXPECT_TRUE(showsFrom(26, 25));
+  EXPECT_EQ(list->caption(), pageTitled(2));
+  press(list, Qt::Key_Space);
+  EXPECT_TRUE(showsFrom(51, 10));
+  press(list, Qt::Key_PageDown);
+  EXPECT_TRUE(showsFrom(51, 10));
+  press(list, Qt::Key_PageUp);
+  EXPECT_TRUE(showsFrom(26, 25));
+  press(list, Qt::Key_End);
+  EXPECT_TRUE(showsFrom(36, 25));
+  press(list, Qt::Key_Up);
+  EXPECT_TRUE(showsFrom(35, 25));
+  press(list, Qt::Key_Down);
+  EXPECT_TRUE(showsFrom(36, 25));
+  press(list, Qt::Key_Home);
+  EXPECT_TRUE(showsFrom(1, 25));
+  press(list, Qt::Key_Return);
+  EXPECT_TRUE(showsFrom(26, 25));
+}
+
+TEST_F(FrmComLst, DownFromTheLastOfThirtyShowsTheLastFullPage) {
+  openOver(30);
+  press(list, Qt::Key_PageDown);
+  for (int i = 0; i < 4; ++i) press(list, Qt::Key_Down);
+  EXPECT_TRUE(showsFrom(30, 1));
+  press(list, Qt::Key_Down);
+  EXPECT_TRUE(showsFrom(6, 25));
+}
+
+TEST_F(FrmComLst, AClickPagesOnce) {
+  openOver(30);
+  click(list);
+  EXPECT_TRUE(showsFrom(26, 5));
+  click(list);
+  EXPECT_TRUE(showsFrom(6, 25));
+}
+
+TEST_F(FrmComLst, OtherKeysShowTheListAsItIsNow) {
+  openOver(3);
+  for (const Qt::Key key : {Qt::Key_F9, Qt::Key_A, Qt::Key_Tab}) {
+    hold(2);
+    press(list, key);
+    EXPECT_EQ(shown().size(), 2U);
+    hold(3);
+    press(list, key);
+    EXPECT_EQ(shown().size(), 3U);
+  }
+  world.boxes.expectBeep(2);
+  hold(4);
+  press(list, Qt::Key_F11);
+  EXPECT_EQ(shown().size(), 4U);
+  hold(5);
+  press(list, Qt::Key_F12);
+  EXPECT_EQ(shown().size(), 5U);
+}
+
+TEST_F(FrmComLst, EscClosesWithoutARedraw) {
+  openOver(3);
+  hold(0);
+  press(list, Qt::Key_Escape);
+  EXPECT_EQ(forms.find("frmComLst"), nullptr);
+}
+
+TEST_F(FrmComLst, F1OpensTheListingAndItsClosingShowsTheFirstPage) {
+  openOver(60);
+  press(list, Qt::Key_End);
+  world.boxes.expectBeep();
+  press(list, Qt::Key_F1);
+  Form* dialog = forms.find("frmCLPrint");
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_TRUE(showsFrom(36, 25));
+  dialog->unload();
+  EXPECT_TRUE(showsFrom(1, 25));
+}
+
+TEST_F(FrmComLst, ARefusedCopyDoesNotRedraw) {
+  openOver(3);
+  world.files.folder[randomColumns];
+  world.boxes.expectBeep().expectQuestion(
+      "'KARVENIS.LST' dosyasını 'KARVENIS.RND' dosyası olarak kopyelemek istiyormusunuz?\r\r"
+      "(Mevcut 'KARVENIS.RND' dosyası silinecek!)",
+      false);
+  world.boxes.whileOpen = [this] { hold(2); };
+  press(list, Qt::Key_F2);
+  EXPECT_EQ(shown().size(), 3U);
+}
+
+TEST_F(FrmComLst, ACopyRedraws) {
+  openOver(3);
+  world.boxes.expectBeep().expectMessage(
+      "Kombinasyon Listesi Yasak Kombinasyonlar Listesi'ne eklendi.");
+  world.boxes.whileOpen = [this] { hold(2); };
+  press(list, Qt::Key_F2);
+  EXPECT_EQ(shown().size(), 2U);
+}
+
+TEST_F(FrmComLst, F3DeletesAndShowsTheColumnThatFollowed) {
+  openOver(60);
+  expectInput("Silmek istediğiniz kolon numarasını girin.", "10", "0");
+  press(list, Qt::Key_F3);
+  EXPECT_EQ(records(), 59U);
+  EXPECT_TRUE(showsFrom(10, 25));
+  EXPECT_TRUE(shown().front().ends_with("16  [ 031 ]")) << "the former eleventh";
+}
+
+TEST_F(FrmComLst, F3WithAWrongNumberMovesThePage) {
+  openOver(60);
+  press(list, Qt::Key_PageDown);
+  expectInput("Silmek istediğiniz kolon numarasını girin.", "99", "0");
+  press(list, Qt::Key_F3);
+  EXPECT_TRUE(showsFrom(36, 25)) << "too large: the last page";
+  expectInput("Silmek istediğiniz kolon numarasını girin.", "-9", "0");
+  press(list, Qt::Key_F3);
+  EXPECT_TRUE(showsFrom(1, 25)) << "negative, or cancelled: the first page";
+  EXPECT_EQ(records(), 60U);
+}
+
+TEST_F(FrmComLst, F4DeletesTheListAndKeepsThePage) {
+  openOver(3);
+  world.boxes.expectBeep()
+      .expectQuestion(deleteQuestion, true)
+      .expectBeep()
+      .expectMessage("'KARVENIS.LST' silindi...");
+  press(list, Qt::Key_F4);
+  EXPECT_TRUE(world.files.folder.empty());
+  EXPECT_EQ(shown().size(), 3U);
+  EXPECT_EQ(list->caption(), pageTitled(1));
+  press(list, Qt::Key_Down);
+  click(list);
+  EXPECT_EQ(shown().size(), 3U);
+  EXPECT_NE(forms.find("frmComLst"), nullptr);
+}
+
+TEST_F(FrmComLst, AltF4IsNoCommand) {
+  openOver(3);
+  press(list, Qt::Key_F4, Qt::AltModifier);
+  EXPECT_EQ(records(), 3U);
+}
+
+TEST_F(FrmComLst, AHeldFunctionKeyRunsOnce) {
+  openOver(3);
+  world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
+  WindowTest::hold(list, Qt::Key_F4, 5);
+}
+
+struct FilterKey {
+  Qt::Key key;
+  const char* prompt;
+  const char* typed;
+  const char* question;
+};
+
+TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
+  const FilterKey keys[] = {
+      {Qt::Key_F5, unwantedPrompt, "6",
+       "'6' numaralı topun yer aldığı kolonları silmek istiyormusunuz?"},
+      {Qt::Key_F6,
+       "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
+       "(Herhangi biri olan kolonlar seçilecek.)",
+       "7,8,9",
+       "'7,8,9' numaralı topların hiç birinin yer almadığı kolonları silmek "
+       "istiyormusunuz?"},
+      {Qt::Key_F7, "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
+       "7-1", "'1-7' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
+      {Qt::Key_F8,
+       "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin sayılarının "
+       "arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak girin.",
+       "1-8", "'1-8'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"}};
+  const std::size_t left[] = {58, 6, 4, 2};
+  openOver(60);
+  for (std::size_t i = 0; i < 4; ++i) {
+    SCOPED_TRACE(keys[i].question);
+    expectInput(keys[i].prompt, keys[i].typed);
+    world.boxes.expectQuestion(keys[i].question, true);
+    press(list, keys[i].key);
+    EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+    EXPECT_EQ(records(), left[i]);
+    EXPECT_TRUE(showsFrom(2, std::min<std::size_t>(left[i] - 1, 25)));
+    EXPECT_TRUE(list->caption().starts_with(" Kombinasyon Listesi - Sayfa "));
+  }
+}
+
+TEST_F(FrmComLst, AFilterThatLeavesOneColumnShowsIt) {
+  openOver(3);
+  expectInput(unwantedPrompt, "7,8");
+  world.boxes.expectQuestion("'7,8' numaralı topların yer aldığı kolonları silmek istiyormusunuz?",
+                             true);
+  press(list, Qt::Key_F5);
+  EXPECT_TRUE(showsFrom(1, 1));
+}
+
+TEST_F(FrmComLst, AFilterThatDeletesAllKeepsThePageUnderTheListsOwnTitle) {
+  openOver(3);
+  expectInput(unwantedPrompt, "1");
+  world.boxes.expectQuestion("'1' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
+                             true);
+  press(list, Qt::Key_F5);
+  EXPECT_FALSE(world.files.exists(combinationList));
+  EXPECT_EQ(shown().size(), 3U);
+  EXPECT_EQ(list->caption(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
+}
+
+TEST_F(FrmComLst, AnInputThatAsksForNothingKeepsThePage) {
+  openOver(60);
+  press(list, Qt::Key_PageDown);
+  expectInput(unwantedPrompt, "");
+  press(list, Qt::Key_F5);
+  EXPECT_TRUE(showsFrom(26, 25));
+  EXPECT_EQ(world.files.folder.size(), 1U);
+}
+
+TEST_F(FrmComLst, KeysThatCameDuringAFilterAreNoCommandsAfterIt) {
+  openOver(60);
+  expectInput(unwantedPrompt, "49");
+  world.boxes.expectQuestion("'49' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
+                             true);
+  world.boxes.whileOpen = [&] {
+    QCoreApplication::postEvent(list->windowHandle(),
+                                new QKeyEvent(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier));
+  };
+  press(list, Qt::Key_F5);
+  EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+  EXPECT_TRUE(showsFrom(2, 25)) << "nothing asked whether to delete the list";
+}
+
+TEST_F(FrmComLst, PaintingReadsNoFile) {
+  openOver(60);
+  world.files.folder.clear();
+  list->repaint();
+  EXPECT_TRUE(world.files.folder.empty());
+  EXPECT_TRUE(showsFrom(1, 25));
+}
+
+TEST_F(FrmComLst, TwentyFiveRowsAndTheLongestOneFit) {
+  openOver(60);
+  auto* surface = list->findChild<Surface*>();
+  EXPECT_LE(surface->lineRect(24).bottom(), surface->height());
+  EXPECT_LE(surface->pixels(widestRow(*surface)), surface->width());
+}
+
+}  // namespace
+}  // namespace karvenis
