@@ -11,13 +11,13 @@
 #include "listing/frmCLPrint.h"
 #include "listing/frmRLPrint.h"
 #include "main/frmLoto.h"
-#include "platform/RunTimeError.h"
 #include "platform/SystemChance.h"
 #include "platform/SystemFiles.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/QtBoxes.h"
 #include "platform/qt/QtClock.h"
+#include "platform/qt/QtPrinter.h"
 #include "randomlist/frmRndDel.h"
 #include "randomlist/frmRndLst.h"
 
@@ -32,22 +32,6 @@ void speakTurkish(QTranslator& words) {
     QApplication::installTranslator(&words);
   }
 }
-
-/// Says of every print that there is no printer.
-class NoPrinter final : public karvenis::Printer {
- public:
-  void fontSize(double) override { refuse(); }
-  void currentX(double) override { refuse(); }
-  void currentY(double) override { refuse(); }
-  void printLine(const std::string&) override { refuse(); }
-  void endDocument() override { refuse(); }
-  void killDocument() noexcept override {}
-
- private:
-  [[noreturn]] static void refuse() {
-    throw karvenis::RunTimeError(karvenis::Fault::printer, "printer", "yok");
-  }
-};
 
 }  // namespace
 
@@ -65,7 +49,7 @@ int main(int argc, char** argv) {
   QtClock clock;
   SystemChance chance;
   SystemFiles files;
-  NoPrinter printer;
+  QtPrinter printer;
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
   boxes.beforeBox = [&forms] { forms.showCaptions(); };

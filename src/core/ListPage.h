@@ -10,6 +10,8 @@ namespace karvenis {
 
 /// Columns on a full page of a list window.
 inline constexpr std::int32_t rowsOnPage = 25;
+/// How far a list window reaches at least, in twips, so that its frame shows the whole title.
+inline constexpr double titleEdge = 7600;
 /// What the rows keep clear above and to the left, in twips.
 inline constexpr double pageMargin = 200;
 

@@ -34,6 +34,7 @@ frmListing::frmListing(Surroundings& around, Forms& forms, const char* name, con
 
 void frmListing::layOut(QGridLayout* grid) {
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(8);
   buttons->addStretch();
   buttons->addWidget(Command1);
   buttons->addWidget(Command2);

@@ -32,6 +32,7 @@ void frmRndDel::buildLayout() {
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(18, 16, 18, 16);
   grid->setVerticalSpacing(12);
+  grid->setHorizontalSpacing(8);
   grid->addWidget(Label1, 0, 0, 1, 3);
   grid->addWidget(Text1, 1, 0, 1, 3);
   grid->setColumnStretch(0, 1);

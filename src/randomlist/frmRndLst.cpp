@@ -1,19 +1,20 @@
 #include "randomlist/frmRndLst.h"
 
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/Surface.h"
 #include "randomlist/RandomColumnList.h"
 
 namespace karvenis {
-
 frmRndLst::frmRndLst(Surroundings& around, Forms& forms)
     : Form(forms, "frmRndLst"), around_(around), surface_(new Surface(this)) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(surface_);
-  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_)));
+  const double edge = std::max(widestRow(*surface_), titleEdge);
+  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, edge));
 }
 
 void frmRndLst::Form_Activate() { showFirstPage(); }

@@ -1,0 +1,138 @@
+"""A print server of the tests' own, with one queue: the machine's queues are never touched."""
+
+import getpass
+import grp
+import os
+import shutil
+import stat
+import subprocess
+import tempfile
+
+from screen import start, stop, wait_for
+
+SERVER = "/usr/sbin/cupsd"
+QUEUE = "PDF"
+
+# Runs as whoever runs the tests; takes jobs from its own socket only and asks nobody who they are.
+_DAEMON = """\
+Listen {home}/socket
+Browsing Off
+BrowseLocalProtocols none
+DefaultAuthType None
+WebInterface No
+MaxJobTime 60
+LogLevel info
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  <Limit All>
+    Order allow,deny
+    Allow all
+  </Limit>
+</Policy>
+"""
+
+# What stands for the device: it keeps each job as a file.
+_DEVICE = """\
+#!/bin/sh
+[ $# -gt 0 ] || exit 0
+cat "${{6:--}}" >"{home}/printed/$1.pdf"
+"""
+
+_FILES = """\
+ServerRoot {home}
+ServerBin {home}/programs
+DataDir /usr/share/cups
+StateDir {home}/state
+CacheDir {home}/cache
+RequestRoot {home}/spool
+TempDir {home}/spool/tmp
+AccessLog {home}/access_log
+ErrorLog {home}/error_log
+PageLog {home}/page_log
+SystemGroup {group}
+{user}
+"""
+
+
+class PrintQueue:
+    """A server whose default queue keeps each job as a file, or that has no queue at all.
+    `environment` leads a program to it."""
+
+    def __init__(self, has_queue=True):
+        self.home = tempfile.mkdtemp(prefix="karvenis-print-")
+        os.chmod(self.home, 0o755)
+        self.environment = {"CUPS_SERVER": os.path.join(self.home, "socket")}
+        self._server = None
+        try:
+            self._serve()
+            if has_queue:
+                self._run("lpadmin", "-p", QUEUE, "-E", "-v", "keep:/", "-m", "raw")
+                self._run("lpadmin", "-d", QUEUE)
+        except BaseException:
+            self.close()
+            raise
+
+    def _serve(self):
+        for folder in ("state/certs", "cache", "spool/tmp", "programs/backend", "printed"):
+            os.makedirs(os.path.join(self.home, folder))
+        os.symlink("/usr/lib/cups/daemon", os.path.join(self.home, "programs/daemon"))
+        device = os.path.join(self.home, "programs/backend/keep")
+        with open(device, "w", encoding="utf-8") as file:
+            file.write(_DEVICE.format(home=self.home))
+        os.chmod(device, 0o700)  # not for everybody: the server then runs it as itself
+        group = grp.getgrgid(os.getgid()).gr_name
+        user = "" if os.getuid() == 0 else f"User {getpass.getuser()}\nGroup {group}"
+        paths = []
+        for name, text in (("cupsd.conf", _DAEMON), ("cups-files.conf", _FILES)):
+            paths.append(os.path.join(self.home, name))
+            with open(paths[-1], "w", encoding="utf-8") as file:
+                file.write(text.format(home=self.home, group=group, user=user))
+            os.chmod(paths[-1], 0o640)
+        with open(os.path.join(self.home, "words"), "wb") as words:
+            self._server = start([SERVER, "-f", "-c", paths[0], "-s", paths[1]],
+                                 stdout=words, stderr=words)
+        wait_for(lambda: self._is_socket() and "is running" in self._ask("lpstat", "-r"),
+                 "the print server")
+
+    def _is_socket(self):
+        path = self.environment["CUPS_SERVER"]
+        return os.path.exists(path) and stat.S_ISSOCK(os.stat(path).st_mode)
+
+    def _ask(self, *command):
+        done = subprocess.run(command, env={**os.environ, **self.environment, "LC_ALL": "C"},
+                              stdin=subprocess.DEVNULL, capture_output=True, text=True,
+                              check=False, timeout=30)
+        return done.stdout + done.stderr
+
+    def _run(self, *command):
+        subprocess.run(command, env={**os.environ, **self.environment, "LC_ALL": "C"},
+                       stdin=subprocess.DEVNULL, capture_output=True, check=True, timeout=30)
+
+    def refuse(self):
+        """From now on the queue takes no job."""
+        self._run("cupsreject", QUEUE)
+
+    def accept(self):
+        """From now on it takes them again."""
+        self._run("cupsaccept", QUEUE)
+
+    def stop_serving(self):
+        """From now on nobody answers."""
+        stop(self._server)
+
+    def printed(self, job=1):
+        """The path of the PDF that has come of a job, counted from 1."""
+        wait_for(lambda: f"{QUEUE}-{job} " in self._ask("lpstat", "-W", "completed", "-o"),
+                 f"job {job} to be printed")
+        return os.path.join(self.home, "printed", f"{job}.pdf")
+
+    def jobs(self):
+        """How many jobs the queue has taken so far."""
+        return len(self._ask("lpstat", "-W", "all", "-o").splitlines())
+
+    def close(self):
+        stop(self._server)
+        shutil.rmtree(self.home, ignore_errors=True)
