@@ -16,8 +16,7 @@ void deleteListColumn(SharedState& state, Files& files, std::int32_t number, std
   list.close();
   state.FileNo.reset();
   YlsFileNo.close();
-  files.copy(listScratch, combinationList);
-  files.remove(listScratch);
+  files.rename(listScratch, combinationList);  // one step: nothing of the scratch file stays behind
 }
 
 }  // namespace karvenis

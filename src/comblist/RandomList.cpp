@@ -11,6 +11,10 @@ namespace {
 constexpr std::int32_t leastSensibleCount = 8;
 constexpr char attentionTitle[] = "! DİKKAT !";
 
+/// The columns are written to a copy of the list, which takes the list's place when it is whole, so
+/// that the list holds its old or its new bytes whatever happens.
+constexpr char scratchFile[] = "KARVENIS.TMP";
+
 }  // namespace
 
 RandomList::RandomList(Surroundings& around, TitleBar& title) : around_(around), title_(title) {
@@ -84,7 +88,8 @@ void RandomList::AppendToList(RandomColumn& draw) {
 }
 
 void RandomList::open() {
-  around_.state.FileNo.emplace(around_.files, combinationList, around_.state.Record);
+  copyListTo(around_.files, scratchFile);
+  around_.state.FileNo.emplace(around_.files, scratchFile, around_.state.Record);
 }
 
 /// Writes `drawn` as record `number`, which is also its word.
@@ -97,6 +102,7 @@ void RandomList::write(const Column& drawn, std::int64_t number) {
 void RandomList::finish(std::int32_t written, const char* words) {
   around_.state.FileNo->close();
   around_.state.FileNo.reset();
+  around_.files.rename(scratchFile, combinationList);
   around_.boxes.beep();
   around_.boxes.message(withBlank(written) + words);
   title_.setCaption(generatorTitle);

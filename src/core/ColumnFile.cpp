@@ -33,6 +33,14 @@ void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& fr
   }
 }
 
+void copyListTo(Files& files, const std::string& scratch) {
+  if (files.exists(combinationList)) {
+    files.copy(combinationList, scratch);
+  } else if (files.exists(scratch)) {
+    files.remove(scratch);
+  }
+}
+
 void backUpList(Files& files) {
   if (files.exists(combinationList)) files.copy(combinationList, listBackup);
 }

@@ -45,6 +45,10 @@ bool holdsColumns(Files& files, const std::string& name);
 /// `to`, words included. Both must share one buffer; neither is closed.
 void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from, ColumnFile& to);
 
+/// Starts `scratch` as a copy of the combination list; where there is no list, as no file. What an
+/// interrupted run left in it is gone then.
+void copyListTo(Files& files, const std::string& scratch);
+
 /// Copies the combination list, where there is one, over its backup.
 void backUpList(Files& files);
 

@@ -56,9 +56,11 @@ std::span<std::byte> RecordFile::inBlock(std::int64_t number) {
   const std::uint64_t start = offset - offset % blockLength;
   if (block_.empty() || start != blockStart_) {
     flush(*file_);
-    block_.assign(blockLength, std::byte{0});
     blockStart_ = start;
-    file_->read(start, block_);
+    std::vector<std::byte> block(blockLength);
+    block_.clear();  // a read that fails leaves no block
+    file_->read(start, block);
+    block_ = std::move(block);
   }
   return std::span(block_).subspan(static_cast<std::size_t>(offset - start), recordLength_);
 }

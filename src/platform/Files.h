@@ -43,7 +43,8 @@ class Files {
   virtual void copy(const std::string& from, const std::string& to) = 0;
   /// Throws (remove), also when there is no such file.
   virtual void remove(const std::string& name) = 0;
-  /// Gives `from` the name `to` in one step, replacing an old `to`. Throws (rename).
+  /// Gives `from` the name `to` in one step, replacing an old `to`; on return it is on disk. Throws
+  /// (rename).
   virtual void rename(const std::string& from, const std::string& to) = 0;
   /// The current directory's path, for showing.
   virtual std::string currentFolder() = 0;

@@ -1,12 +1,14 @@
 #include "platform/SystemFiles.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -92,8 +94,17 @@ class SystemFile final : public File {
   std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
     return readAll(descriptor_.get(), offset, into, name_);
   }
+  /// Bytes that come to stand behind the file's end stand there whole or not at all.
   void write(std::uint64_t offset, std::span<const std::byte> bytes) override {
-    writeAll(descriptor_.get(), offset, bytes, name_);
+    const std::uint64_t before = length();
+    try {
+      writeAll(descriptor_.get(), offset, bytes, name_);
+    } catch (const RunTimeError&) {
+      if (length() > before) {
+        std::ignore = ::ftruncate(descriptor_.get(), static_cast<off_t>(before));
+      }
+      throw;
+    }
   }
   std::uint64_t length() override {
     struct stat status {};
@@ -134,6 +145,8 @@ void refuseAllButRegular(const Descriptor& descriptor, Fault fault, const std::s
 
 /// The file that a link of this name stands for; the name itself where it is no link.
 std::string behindLinks(const std::string& name) {
+  struct stat status {};
+  if (::lstat(name.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return name;
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(name.c_str(), nullptr),
                                                          &std::free);
   return path ? path.get() : name;
@@ -144,18 +157,31 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
+/// The file of this name, new and empty, locked while it is open. One that an interrupted copy left
+/// behind is thrown away; one that another copy is writing just now is not, and none is returned.
+Descriptor openAlone(const std::string& name) {
+  constexpr int flags = O_RDWR | O_CLOEXEC | O_NOFOLLOW;
+  {
+    const Descriptor leftOver(::open(name.c_str(), (flags & ~O_RDWR) | O_RDONLY | O_NONBLOCK));
+    if (leftOver && ::flock(leftOver.get(), LOCK_EX | LOCK_NB) != 0) return Descriptor();
+    ::unlink(name.c_str());
+  }
+  Descriptor created(::open(name.c_str(), flags | O_CREAT | O_EXCL, 0600));
+  if (created && ::flock(created.get(), LOCK_EX | LOCK_NB) != 0) return Descriptor();
+  return created;
+}
+
 /// A copy grows under a name of its own beside its target and takes the target's place when it is
-/// whole and on disk. Where that does not come to pass, nothing of it stays behind.
+/// whole and on disk. Where that does not come to pass, nothing of it stays behind; what a killed
+/// process leaves, the next copy to that target clears away.
 class Replacement {
  public:
   explicit Replacement(const std::string& target)
-      : target_(behindLinks(target)),
-        name_(target_ + ".XXXXXX"),
-        descriptor_(::mkostemp(name_.data(), O_CLOEXEC)) {
+      : target_(behindLinks(target)), name_(target_ + "~"), descriptor_(openAlone(name_)) {
     if (!descriptor_) fail(Fault::copy, target_);
   }
   ~Replacement() {
-    if (!done_) ::unlink(name_.c_str());
+    if (!done_) ::unlink(name_.c_str());  // still locked: it is this one's
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
@@ -231,7 +257,14 @@ void SystemFiles::remove(const std::string& name) {
 }
 
 void SystemFiles::rename(const std::string& from, const std::string& to) {
-  if (::rename(from.c_str(), to.c_str()) != 0 || !syncFolder()) fail(Fault::rename, from);
+  const std::string target = behindLinks(to);
+  if (::rename(from.c_str(), target.c_str()) != 0) {
+    if (errno != EXDEV) fail(Fault::rename, from);
+    copy(from, to);  // the link leads to another disk
+    remove(from);
+    return;
+  }
+  if (!syncFolder() || (target != to && !syncFolder(folderOf(target)))) fail(Fault::rename, from);
 }
 
 std::string SystemFiles::currentFolder() { return behindLinks("."); }

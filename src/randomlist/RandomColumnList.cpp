@@ -26,15 +26,6 @@ constexpr char keys[] =
     "\r"
     "ESC= Kapat/Çık";
 
-/// Starts the scratch file as a copy of the combination list; where there is none, as an empty one.
-void copyListToScratch(Files& files) {
-  if (files.exists(combinationList)) {
-    files.copy(combinationList, scratchFile);
-  } else if (files.exists(scratchFile)) {
-    files.remove(scratchFile);
-  }
-}
-
 /// Writes all random columns behind record `page.PageStart` of the open file. Returns with it on
 /// disk and closed.
 void appendAll(Surroundings& around, ListPage& page) {
@@ -69,7 +60,7 @@ void AppendToCombinationList(Surroundings& around, ListPage& page) {
                         "istiyormusunuz ?")) {
     return;
   }
-  copyListToScratch(around.files);
+  copyListTo(around.files, scratchFile);
   SharedState& state = around.state;
   state.FileNo.emplace(around.files, scratchFile, state.Record);
   page.PageStart = state.FileNo->count();

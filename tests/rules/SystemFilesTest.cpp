@@ -1,10 +1,14 @@
 #include "platform/SystemFiles.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -122,6 +126,53 @@ TEST_F(InAFolder, ACopyOntoALinkKeepsTheLink) {
   files.copy("FROM", "LINK");
   EXPECT_TRUE(fs::is_symlink("LINK"));
   EXPECT_EQ(get("REAL"), "new");
+}
+
+TEST_F(InAFolder, ARenameOntoALinkKeepsTheLink) {
+  put("FROM", "new");
+  put("REAL", "old");
+  fs::create_symlink("REAL", "LINK");
+  files.rename("FROM", "LINK");
+  EXPECT_TRUE(fs::is_symlink("LINK"));
+  EXPECT_EQ(get("REAL"), "new");
+  EXPECT_FALSE(files.exists("FROM"));
+}
+
+TEST_F(InAFolder, ACopyClearsAwayWhatAnInterruptedOneLeft) {
+  put("FROM", "new");
+  put("TO", "old");
+  put("TO~", "a half-written copy, longer than the new one");
+  fs::permissions("TO~", fs::perms::none);
+  files.copy("FROM", "TO");
+  EXPECT_EQ(get("TO"), "new");
+  EXPECT_EQ(filesThere(), 2U);
+}
+
+TEST_F(InAFolder, ACopyThatIsUnderWayElsewhereIsLeftAlone) {
+  put("FROM", "new");
+  put("TO", "old");
+  put("TO~", "the copy of another process");
+  const int other = ::open("TO~", O_RDWR);
+  ASSERT_EQ(::flock(other, LOCK_EX), 0);
+  EXPECT_EQ(faultOf([&] { files.copy("FROM", "TO"); }), Fault::copy);
+  ::close(other);
+  EXPECT_EQ(get("TO"), "old");
+  EXPECT_EQ(get("TO~"), "the copy of another process");
+}
+
+TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsLongAsItWas) {
+  put("F", std::string(100, 'o'));
+  const auto file = files.open("F");
+  const auto before = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const rlimit small{110, limit.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+  const Fault fault = faultOf([&] { file->write(96, Bytes(32, std::byte{'n'})); });
+  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+  std::ignore = std::signal(SIGXFSZ, before);
+  EXPECT_EQ(fault, Fault::write);
+  EXPECT_EQ(get("F").size(), 100U);
 }
 
 TEST_F(InAFolder, RenameReplacesItsTarget) {
