@@ -1,0 +1,337 @@
+#include "faults/Actions.h"
+
+#include <algorithm>
+#include <array>
+
+#include "bag/BagActions.h"
+#include "bag/BagFile.h"
+#include "bag/BankoActions.h"
+#include "comblist/Filters.h"
+#include "comblist/ListDeletion.h"
+#include "comblist/RandomList.h"
+#include "doubles/Columns.h"
+#include "doubles/RecordingSurface.h"
+#include "doubles/YieldingBoxes.h"
+#include "listing/Listing.h"
+#include "main/NewColumn.h"
+#include "main/Settings.h"
+#include "randomlist/ColumnDeletion.h"
+#include "randomlist/RandomColumnFile.h"
+#include "randomlist/RandomColumnList.h"
+
+namespace karvenis {
+namespace {
+
+constexpr std::int32_t longList = 4100;  // a block holds 4096
+constexpr char textFile[] = "KARVENIS.TXT";
+
+class Buttons final : public BallButtons {
+ public:
+  bool isMarked(int ball) const override { return marked_.at(static_cast<std::size_t>(ball)); }
+  void setMarked(int ball, bool marked) override {
+    marked_.at(static_cast<std::size_t>(ball)) = marked;
+  }
+
+ private:
+  std::array<bool, ballsInAll + 1> marked_{};
+};
+
+class BankoInputs final : public BankoBoxes {
+ public:
+  int count() const override { return count_; }
+  void chooseCount(int count) override { count_ = count; }
+  std::string text(int index) const override { return texts_.at(static_cast<std::size_t>(index)); }
+  void setText(int index, const std::string& text) override {
+    texts_.at(static_cast<std::size_t>(index)) = text;
+  }
+
+ private:
+  int count_ = 2;
+  std::array<std::string, mostBankos> texts_{"11", "12"};
+};
+
+Bytes bagBytes() {
+  std::vector<int> all(50, 0);
+  const std::vector<int> bag{7, 4, 8, 15, 16, 23, 42, 49};
+  std::ranges::copy(bag, all.begin());
+  all.insert(all.end(), {2, 5, 6});
+  return words(all);
+}
+
+/// A folder in which every file of the program stands.
+Folder full(std::int32_t kept = longList, std::int32_t listed = longList) {
+  return {
+      {randomColumns, countedColumns(kept, 0)},       {combinationList, countedColumns(listed, 1)},
+      {listBackup, countedColumns(3, 1000)},          {bagFileName, bagBytes()},
+      {settingsFile, hex("00 00 c8 42 00 00 48 43")}, {textFile, hex("41 42 43")}};
+}
+
+Folder without(Folder folder, const std::string& name) {
+  folder.erase(name);
+  return folder;
+}
+
+void save(Surroundings& around, TitleBar& title) {
+  around.state.Drawn = column(45, 7, 3, 21, 30, 12);
+  SaveRndColumn(around, title, false);
+}
+
+void appendList(Surroundings& around, TitleBar&) {
+  ListPage page;
+  AppendToCombinationList(around, page);
+}
+
+void deleteKept(Surroundings& around, TitleBar&) {
+  ColumnDeletion deletion(around);
+  if (deletion.load()) deletion.remove(1);
+}
+
+void deleteListed(Surroundings& around, TitleBar&) {
+  if (!holdsColumns(around.files, combinationList)) return;
+  deleteListColumn(around.state, around.files, 1, columnCount(around.files, combinationList));
+}
+
+void loadBagWindow(Surroundings& around, TitleBar&) {
+  Buttons buttons;
+  loadBag(around, buttons);
+}
+
+void saveBagWindow(Surroundings& around, TitleBar&) {
+  Buttons buttons;
+  for (const int ball : {1, 2, 3, 9, 10, 11, 12, 13, 14}) buttons.setMarked(ball, true);
+  saveBag(around, buttons);
+}
+
+void loadBankoWindow(Surroundings& around, TitleBar&) {
+  BankoInputs inputs;
+  loadBanko(around, inputs);
+}
+
+void saveBankoWindow(Surroundings& around, TitleBar&) {
+  BankoInputs inputs;
+  saveBanko(around, inputs);
+}
+
+template <RandomList::Mode mode, int count>
+void generate(Surroundings& around, TitleBar& title) {
+  RandomList(around, title).start(mode, std::to_string(count));
+}
+
+void writeCombinations(Surroundings& around, TitleBar& title) {
+  listCombinations(around, title, Output::text, {1, 100});
+}
+
+void showKept(Surroundings& around, TitleBar& title) {
+  ListPage page;
+  RecordingSurface surface;
+  ShowRndPage(around, page, surface, title);
+}
+
+template <Filter filter, const char* typed>
+void thinOut(Surroundings& around, TitleBar& title) {
+  static_cast<YieldingBoxes&>(around.boxes).typed = typed;
+  filterList(filter, around, title);
+}
+
+constexpr char someNumbers[] = "7,10,20";
+constexpr char everyColumn[] = "1";
+constexpr char aPair[] = "1-7";
+constexpr char somePairs[] = "1-7,2-8";
+
+constexpr auto newList = RandomList::Mode::newList;
+constexpr auto append = RandomList::Mode::append;
+
+std::vector<Action> savingActions() {
+  using enum Action::OnFault;
+  return {
+      {"save", full(), save},
+      {"save the first", without(full(), randomColumns), save},
+      {"write the place", full(),
+       [](auto& a, auto&) {
+         writePlace(a.files, {1, 2});
+       }},
+      {"write the first place", without(full(), settingsFile),
+       [](auto& a, auto&) {
+         writePlace(a.files, {1, 2});
+       }},
+      {"read the place", full(), [](auto& a, auto&) { readPlace(a.files); }},
+      {"load the bag", full(), [](auto& a, auto&) { askAndLoadBag(a); }},
+      {"load the bankos", full(), [](auto& a, auto&) { askAndLoadBanko(a); }},
+      {"load the bag in its window", full(), loadBagWindow},
+      {"load the bankos in their window", full(), loadBankoWindow},
+      {"save the bag", full(), saveBagWindow},
+      {"save the first bag", without(full(), bagFileName), saveBagWindow},
+      {"save the bankos", full(), saveBankoWindow},
+      {"save the first bankos", without(full(), bagFileName), saveBankoWindow},
+  };
+}
+
+std::vector<Action> listActions() {
+  using enum Action::OnFault;
+  return {
+      {"make the kept columns the list", full(), ChangeRndFile, mayGoOn},
+      {"make the kept columns the first list", without(full(), combinationList), ChangeRndFile,
+       mayGoOn},
+      {"delete the kept columns", full(), DeleteRndFile, mayGoOn},
+      {"delete the kept columns in their window", full(), [](auto& a, auto&) { DeleteRndList(a); },
+       mayGoOn},
+      {"append to the list", full(), appendList},
+      {"append to a missing list", without(full(), combinationList), appendList},
+      {"save as the list", full(), [](auto& a, auto&) { SaveAsCombinationList(a); }},
+      {"delete a kept column", full(), deleteKept, mayGoOn},
+      {"delete the only kept column", full(1), deleteKept, mayGoOn},
+      {"delete a listed column", full(), deleteListed},
+      {"delete the only listed column", full(1, 1), deleteListed},
+      {"generate a longer list", full(), generate<newList, longList + 50>},
+      {"generate a shorter list", full(), generate<newList, 40>},
+      {"generate the first list", without(full(), combinationList), generate<newList, 4100>},
+      {"generate more", full(), generate<append, 4100>},
+      {"write the kept columns as text", full(100),
+       [](auto& a, auto& t) { listRandomColumns(a, t, Output::text); }},
+      {"write the list as text", full(), writeCombinations},
+      {"print the kept columns", full(100),
+       [](auto& a, auto& t) { listRandomColumns(a, t, Output::printer); }, mayGoOn},
+      {"show the kept columns", full(), showKept},
+      {"draw from the list", full(), [](auto& a, auto&) { PickFromList(a); }},
+  };
+}
+
+std::vector<Action> filterActions() {
+  using enum Action::OnFault;
+  return {
+      {"delete what holds unwanted numbers", full(),
+       thinOut<Filter::FilterUnwantedNumbers, someNumbers>, ends, true},
+      {"delete every column", full(), thinOut<Filter::FilterUnwantedNumbers, everyColumn>, ends,
+       true},
+      {"keep what holds wanted numbers", full(), thinOut<Filter::FilterWantedNumbers, someNumbers>,
+       ends, true},
+      {"delete what holds an unwanted pair", full(), thinOut<Filter::FilterUnwantedPair, aPair>,
+       ends, true},
+      {"keep what holds wanted pairs", full(), thinOut<Filter::FilterWantedPairs, somePairs>, ends,
+       true},
+  };
+}
+
+const Bytes* find(const Folder& folder, const std::string& name) {
+  const auto found = folder.find(name);
+  return found == folder.end() ? nullptr : &found->second;
+}
+
+/// Whether the opening of a missing file has made it, and nothing has come into it yet.
+bool isCreated(const Folder& old, const Folder& now, const std::string& name) {
+  const Bytes* made = find(now, name);
+  return find(old, name) == nullptr && made != nullptr && made->empty();
+}
+
+bool same(const Folder& a, const Folder& b, const std::string& name) {
+  const Bytes* left = find(a, name);
+  const Bytes* right = find(b, name);
+  return left == nullptr || right == nullptr ? left == right : *left == *right;
+}
+
+/// Whether `now` is `old` with nothing changed but words, and those to marks.
+bool isMarked(const Bytes& old, const Bytes& now) {
+  if (old.size() != now.size()) return false;
+  const auto before = columnsOf(old);
+  const auto after = columnsOf(now);
+  return std::ranges::equal(before, after, [](const ColumnRecord& a, const ColumnRecord& b) {
+    return a.Balls == b.Balls && (a.Word == b.Word || b.Word == 417 || b.Word == -1);
+  });
+}
+
+bool listIsMarked(const Folder& old, const Folder& now) {
+  const Bytes* before = find(old, combinationList);
+  const Bytes* after = find(now, combinationList);
+  return before != nullptr && after != nullptr && isMarked(*before, *after) &&
+         find(now, listBackup) != nullptr && *find(now, listBackup) == *before;
+}
+
+bool begins(const Bytes& whole, const Bytes& part) {
+  return part.size() <= whole.size() && std::equal(part.begin(), part.end(), whole.begin());
+}
+
+constexpr const char* lists[] = {randomColumns, combinationList, bagFileName, settingsFile};
+constexpr const char* lasting[] = {randomColumns, combinationList, listBackup,
+                                   bagFileName,   settingsFile,    textFile};
+
+bool isLasting(const std::string& name) {
+  return std::ranges::any_of(lasting, [&](const char* other) { return name == other; });
+}
+
+Folder withoutLeftOvers(Folder folder) {
+  std::erase_if(folder, [](const auto& file) { return !isLasting(file.first); });
+  return folder;
+}
+
+}  // namespace
+
+const std::vector<Action>& actions() {
+  static const std::vector<Action> all = [] {
+    auto some = savingActions();
+    for (const auto& more : {listActions(), filterActions()}) {
+      some.insert(some.end(), more.begin(), more.end());
+    }
+    return some;
+  }();
+  return all;
+}
+
+void perform(const Action& action, Files& files) {
+  World world;
+  YieldingBoxes boxes;
+  Surroundings around{world.state, boxes,         world.clock,  world.chance,
+                      files,       world.printer, world.windows};
+  action.run(around, world.title);
+}
+
+Folder resultOf(const Action& action, const Folder& start) {
+  MemoryFiles files;
+  files.folder = start;
+  perform(action, files);
+  return files.folder;
+}
+
+std::string damage(const Action& action, const Folder& now, bool died) {
+  static std::map<std::string, Folder> results;
+  const auto known = results.find(action.name);
+  const Folder& fresh = known != results.end()
+                            ? known->second
+                            : results[action.name] = resultOf(action, action.start);
+  const Folder& old = action.start;
+  const bool marked = action.marks && listIsMarked(old, now);
+  for (const char* name : lists) {
+    const bool allowed =
+        (marked && std::string(name) == combinationList) || isCreated(old, now, name);
+    if (!same(now, old, name) && !same(now, fresh, name) && !allowed) {
+      return std::string(name) + " holds neither its old nor its new bytes";
+    }
+  }
+  if (!same(now, old, listBackup) && !same(now, fresh, listBackup)) return "the backup is broken";
+  const bool mayGoOn = !died && action.onFault == Action::OnFault::mayGoOn;
+  if (!mayGoOn && !same(now, old, combinationList) && !same(now, fresh, listBackup)) {
+    return "the list has changed before its backup was there";
+  }
+  const bool moves = !same(old, fresh, randomColumns) && !same(old, fresh, combinationList);
+  if (died && moves && !same(now, old, randomColumns) && !same(now, fresh, combinationList)) {
+    return "the columns are in neither list";
+  }
+  const Bytes* text = find(now, textFile);
+  const Bytes* newText = find(fresh, textFile);
+  if (text != nullptr && !same(now, old, textFile) && !(newText && begins(*newText, *text))) {
+    return "the text is neither old nor new nor a beginning of it";
+  }
+  return {};
+}
+
+std::string stumbles(const Action& action, const Folder& now) {
+  const Folder cleared = withoutLeftOvers(now);
+  if (cleared == now) return {};
+  const Folder result = resultOf(action, now);
+  if (result == resultOf(action, cleared)) return {};
+  for (const auto& [name, bytes] : result) {
+    if (!isLasting(name)) return name + " stays behind";
+  }
+  return "what was left over changes the next run";
+}
+
+}  // namespace karvenis
