@@ -143,13 +143,18 @@ void refuseAllButRegular(const Descriptor& descriptor, Fault fault, const std::s
   if (!S_ISREG(status.st_mode)) fail(fault, name, EINVAL);
 }
 
-/// The file that a link of this name stands for; the name itself where it is no link.
-std::string behindLinks(const std::string& name) {
-  struct stat status {};
-  if (::lstat(name.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return name;
+/// The whole path of what a name stands for; the name itself where that cannot be told.
+std::string wholePath(const std::string& name) {
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(name.c_str(), nullptr),
                                                          &std::free);
   return path ? path.get() : name;
+}
+
+/// The file that a link of this name stands for; the name itself where it is no link.
+std::string behindLinks(const std::string& name) {
+  struct stat status {};
+  const bool link = ::lstat(name.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+  return link ? wholePath(name) : name;
 }
 
 std::string folderOf(const std::string& path) {
@@ -267,6 +272,6 @@ void SystemFiles::rename(const std::string& from, const std::string& to) {
   if (!syncFolder() || (target != to && !syncFolder(folderOf(target)))) fail(Fault::rename, from);
 }
 
-std::string SystemFiles::currentFolder() { return behindLinks("."); }
+std::string SystemFiles::currentFolder() { return wholePath("."); }
 
 }  // namespace karvenis

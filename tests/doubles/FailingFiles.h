@@ -68,6 +68,7 @@ class FailingFiles final : public Files {
   void rename(const std::string& from, const std::string& to) override {
     pass(*plan_, Fault::rename, from, [&] { inner_.rename(from, to); });
   }
+  std::string currentFolder() override { return inner_.currentFolder(); }
 
  private:
   /// Does `whole`, or what of it happens still.
