@@ -89,10 +89,10 @@ class Screen:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line(
             lambda pipe: ["dbus-daemon", "--session", "--nofork", f"--print-address={pipe}"])
         self._start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
-        self._start(["openbox", "--sm-disable"])
+        managed = os.path.join(self.home, "managed")
+        self._start(["openbox", "--sm-disable", "--startup", f"touch {managed}"])
         self.bus = wait_for(self._reading_bus, "the bus for assistive technology")
-        wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
-                 "the window manager")
+        wait_for(lambda: os.path.exists(managed), "the window manager")
 
     def _start(self, command, **options):
         process = start(command, env=self.environment, stdout=self._log, stderr=self._log,
