@@ -45,7 +45,8 @@ class Tour:
         self.program.keys(key)
         return self.window(title)
 
-    def back_to_main(self, title=STANDARD_TITLE):
+    def back_to(self, title=STANDARD_TITLE):
+        """Closes the active window; the one of this title takes its place."""
         self.program.keys("Escape")
         self.window(title)
 
@@ -65,8 +66,11 @@ class Tour:
         self.choose_bankos()
         self.load_both()
         self.draw_and_keep(main)
-        self.type_coupon()
-        self.make_list(main)
+        self.list_kept()
+        self.generate()
+        self.filter_and_write()
+        self.draw_from_list(main)
+        self.type_coupon(main)
         self.end(main)
 
     def choose_bag(self):
@@ -78,7 +82,7 @@ class Tour:
         self.picture("bag", f"F5: {len(BAG)} balls are marked for the bag.")
         self.program.keys("F1", "F3")
         self.agree("kayıtlamak istiyormusunuz", "kayıtlandı")
-        self.back_to_main()
+        self.back_to()
 
     def choose_bankos(self):
         window = self.key("F7", "Banko")
@@ -89,7 +93,7 @@ class Tour:
         self.picture("bankos", "F7: two bankos, which every column will hold.")
         self.program.keys("F3")
         self.agree("kayıtlamak istiyormusunuz", "kayıtlandı")
-        self.back_to_main()
+        self.back_to()
 
     def load_both(self):
         self.program.keys("F6")
@@ -116,22 +120,60 @@ class Tour:
             self.program.titled(f" KARVENIS.RND Kayıt No= {count}")
             self.picture("kept", f"F1: column {count} is kept.")
 
-    def type_coupon(self):
-        self.program.keys("F9")
-        title = "KARVENIS 2005 - Sekiz Rastgele Kolon"
-        window = self.window(title)
+    def list_kept(self):
+        window = self.key("F2", " Rastgele Kolon Listesi - Sayfa 1  [ F10= Yardım ]")
+        self.program.until(lambda: len(window.find("list").children) == 2, "the two columns")
+        self.picture("kept-columns", "F2: the columns that were kept.")
+        self.program.keys("F1")
+        self.agree("Kombinasyon Listesi'ne eklemek istiyormusunuz",
+                   "Kombinasyon Listesi'ne eklendi.")
+        self.back_to()
+
+    def generate(self):
+        window = self.key("F11", "6/49 Rastgele Kolon Üreteci")
+        self.program.click(window.find("text"))
+        self.program.keys("ctrl+a", "Delete")
+        self.program.type("60")
+        self.picture("generator", "F11: sixty columns more for the combination list.")
+        self.program.keys("F1")
+        self.agree(" 60 kolon 'KARVENIS.LST' dosyasına eklendi.")
+        self.window(STANDARD_TITLE)
+
+    def filter_and_write(self):
+        page = " Kombinasyon Listesi - Sayfa 1  [ F10= Yardım ]"
+        self.key("F12", page)
+        self.picture("combination-list", "F12: the combination list.")
+        self.program.keys("F5")
+        box = self.program.box("Kolon SİLME")
+        self.program.type("5,12")
+        self.picture("filter", "F5: columns with the numbers 5 or 12 shall go.")
+        box.press("Return")
+        self.program.box(STANDARD_TITLE)
+        self.picture("filter-question", "It asks first.")
+        self.agree("'5,12' numaralı topların yer aldığı kolonları silmek istiyormusunuz?")
+        self.program.titled(r" Kombinasyon Listesi - Sayfa \d+  \[ F10= Yardım \]")
+        self.picture("filtered", "The page starts at the second column that is left.")
+        self.key("F1", "Kombinasyon Listesi")
+        self.picture("listing", "F1: a range of the list, as text or on paper.")
+        self.program.keys("F1")
+        self.agree("KARVENIS.TXT dosyasına yazdırmak istiyormusunuz", '"KARVENIS.TXT" dosyasına')
+        self.back_to(page)  # coming back to the list shows its first page
+        self.back_to()
+
+    def draw_from_list(self, main):
+        self.program.click(main.find("radio button", "Listeden Çek"))
+        self.program.click(main.find("push button", "Kolon"))
+        self.program.titled(r" KARVENIS\.LST  Kayıt = \d+ \[ \d+ \]")
+        self.picture("from-list", "\"Listeden Çek\": a column is drawn from the list.")
+
+    def type_coupon(self, main):
+        title = main.name
+        coupon = "KARVENIS 2005 - Sekiz Rastgele Kolon"
+        window = self.key("F9", coupon)
         self.program.until(lambda: not window.find("label", "F10 = Yardım").has("showing"),
                            "the coupon of eight columns")
         self.picture("coupon", "F9: eight columns at once.")
-        self.back_to_main(" KARVENIS.RND Kayıt No= 2")
-
-    def make_list(self, main):
-        self.program.keys("F3")
-        self.agree("KARVENIS.LST olarak değiştirmek istiyormusunuz", " 2 kolon")
-        self.program.click(main.find("radio button", "Listeden Çek"))
-        self.program.click(main.find("push button", "Kolon"))
-        self.program.titled(r" KARVENIS\.LST  Kayıt = \d+ \[ 2 \]")
-        self.picture("from-list", "F3 made the columns the combination list; one is drawn from it.")
+        self.back_to(title)
 
     def end(self, main):
         self.program.click(main.find("push button", "Çıkış"))
@@ -147,7 +189,7 @@ def describe(folder):
             content = file.read()
         print(f"\n{name}, {len(content)} bytes")
         if name.endswith(".TXT"):
-            print(content.decode("latin-1").replace("\r\n", "\n"), end="")
+            print(content.decode("ascii", "replace").replace("\r\n", "\n"), end="")
             continue
         shown = content[:160]
         for start in range(0, len(shown), 16):
