@@ -6,8 +6,8 @@
 #include "bag/BagActions.h"
 #include "bag/BagFile.h"
 #include "bag/BankoActions.h"
+#include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
-#include "comblist/ListDeletion.h"
 #include "comblist/RandomList.h"
 #include "doubles/Columns.h"
 #include "doubles/RecordingSurface.h"
@@ -87,8 +87,15 @@ void deleteKept(Surroundings& around, TitleBar&) {
 }
 
 void deleteListed(Surroundings& around, TitleBar&) {
-  if (!holdsColumns(around.files, combinationList)) return;
-  deleteListColumn(around.state, around.files, 1, columnCount(around.files, combinationList));
+  static_cast<YieldingBoxes&>(around.boxes).typed = "1";
+  ListPage page;
+  DeleteColumn(around, page);
+}
+
+void showListed(Surroundings& around, TitleBar& title) {
+  ListPage page;
+  RecordingSurface surface;
+  ShowPage(around, page, surface, title);
 }
 
 void loadBagWindow(Surroundings& around, TitleBar&) {
@@ -182,6 +189,9 @@ std::vector<Action> listActions() {
       {"delete the only kept column", full(1), deleteKept, mayGoOn},
       {"delete a listed column", full(), deleteListed},
       {"delete the only listed column", full(1, 1), deleteListed},
+      {"copy the list to the kept columns", full(), [](auto& a, auto&) { CopyToRandomColumns(a); }},
+      {"delete the list", full(), [](auto& a, auto&) { DeleteList(a); }},
+      {"show the list", full(), showListed},
       {"generate a longer list", full(), generate<newList, longList + 50>},
       {"generate a shorter list", full(), generate<newList, 40>},
       {"generate the first list", without(full(), combinationList), generate<newList, 4100>},
