@@ -66,6 +66,5 @@ int main(int argc, char** argv) {
   forms.add("frmComLst", [&] { return new frmComLst(around, forms); });
   forms.add("frmCLPrint", [&] { return new frmCLPrint(around, forms); });
 
-  forms.show("frmLoto");
-  return QApplication::exec();
+  return forms.run();
 }

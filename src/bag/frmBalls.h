@@ -34,10 +34,15 @@ class frmBalls final : public Form, private BallButtons {
 
   void cmdBall_Click(int Index);
   void Command1_Click();
+  void Command2_Click();
   void Command3_Click();
   void Command4_Click();
   void mnuHepsi_Click();
   void mnuHicbiri_Click();
+  void mnuUygula_Click();
+  void mnuYukle_Click();
+  void mnuKayitla_Click();
+  void mnuKapat_Click();
   void mnuFunctionKeys_Click();
   void mnuNasil_Click();
 

@@ -33,9 +33,14 @@ class frmBanko final : public Form, private BankoBoxes {
   void Text1_Change(int Index);
   void Text1_Enter(int Index);
   void Command1_Click();
+  void Command2_Click();
   void Command3_Click();
   void Command4_Click();
   void mnuSil_Click();
+  void mnuUygula_Click();
+  void mnuYukle_Click();
+  void mnuKayitla_Click();
+  void mnuKapat_Click();
   void mnuFunctionKeys_Click();
   void mnuBankoNedir_Click();
 

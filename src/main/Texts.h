@@ -36,7 +36,6 @@ inline const std::string about =
     "\r"
     "Tam formüllü kombinasyon listeleri için, bu programın yanında, yapımcının formül programını "
     "kullanmanızı öneririz.\r"
-    "\r"
     "Dosyaların durduğu klasör: ";
 
 }  // namespace karvenis

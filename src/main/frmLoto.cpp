@@ -39,7 +39,7 @@ void frmLoto::Form_KeyDown(int KeyCode, int Shift) {
 }
 
 void frmLoto::Form_KeyPress(int KeyAscii) {
-  if (KeyAscii == keyEscape && !keyRepeats()) around_.windows.end();
+  if (KeyAscii == keyEscape) around_.windows.end();
 }
 
 void frmLoto::Form_DblClick() { around_.windows.end(); }
@@ -92,7 +92,7 @@ void frmLoto::Picture0_Click() {
 }
 
 void frmLoto::Label1_MouseMove(int Index) {
-  QLabel* number = Label1[static_cast<std::size_t>(Index)];
+  QLabel* number = Label1.at(static_cast<std::size_t>(Index));
   number->setToolTip(number->text());
 }
 
@@ -110,8 +110,13 @@ void frmLoto::mnuSaveRndColumn_Click() { SaveRndColumn(around_, *this, Check1->i
 void frmLoto::mnuShowRndList_Click() { ShowRndList(around_, *this); }
 void frmLoto::mnuChangeRndFile_Click() { ChangeRndFile(around_, *this); }
 void frmLoto::mnuDeleteRndFile_Click() { DeleteRndFile(around_, *this); }
+void frmLoto::mnuShowBag_Click() { around_.windows.show("frmBalls"); }
 void frmLoto::mnuLoadBag_Click() { askAndLoadBag(around_); }
+void frmLoto::mnuShowBanko_Click() { around_.windows.show("frmBanko"); }
 void frmLoto::mnuLoadBanko_Click() { askAndLoadBanko(around_); }
+void frmLoto::mnuShow8Columns_Click() { around_.windows.show("frmList"); }
+void frmLoto::mnuCreateRndCList_Click() { around_.windows.show("frmRnd"); }
+void frmLoto::mnuShowClist_Click() { around_.windows.show("frmComLst"); }
 void frmLoto::mnuFKeys_Click() { around_.boxes.message(keyList, keyListTitle); }
 
 void frmLoto::mnuAbout_Click() {
@@ -120,24 +125,25 @@ void frmLoto::mnuAbout_Click() {
 }
 
 void frmLoto::showImage(int index, bool visible) {
-  Image1[static_cast<std::size_t>(index)]->setVisible(visible);
+  Picture* image = Image1.at(static_cast<std::size_t>(index));
+  if (image != nullptr) image->setVisible(visible);
 }
 
 void frmLoto::showLabel(int index, bool visible) {
-  Label1[static_cast<std::size_t>(index)]->setVisible(visible);
+  Label1.at(static_cast<std::size_t>(index))->setVisible(visible);
 }
 
 void frmLoto::setLabel(int index, const std::string& caption) {
-  Label1[static_cast<std::size_t>(index)]->setText(toQt(caption));
+  Label1.at(static_cast<std::size_t>(index))->setText(toQt(caption));
   nameLabel(index);
 }
 
 std::string frmLoto::label(int index) const {
-  return fromQt(Label1[static_cast<std::size_t>(index)]->text());
+  return fromQt(Label1.at(static_cast<std::size_t>(index))->text());
 }
 
 void frmLoto::enableTimer(int timer, bool enabled) {
-  QTimer* ballTimer = Timer[static_cast<std::size_t>(timer)];
+  QTimer* ballTimer = Timer.at(static_cast<std::size_t>(timer));
   if (enabled) {
     ballTimer->start();
   } else {

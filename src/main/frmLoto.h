@@ -39,7 +39,6 @@ class frmLoto final : public Form, private BallStage {
   void buildMenus();
   QAction* function(int number, QMenu* head, const char* entry, QStringView text,
                     std::function<void()> procedure);
-  void launcher(int number, QMenu* head, const char* entry, QStringView text, const char* form);
   void buildBanner();
   void buildStage();
   void buildBall(int k);
@@ -62,8 +61,13 @@ class frmLoto final : public Form, private BallStage {
   void mnuShowRndList_Click();
   void mnuChangeRndFile_Click();
   void mnuDeleteRndFile_Click();
+  void mnuShowBag_Click();
   void mnuLoadBag_Click();
+  void mnuShowBanko_Click();
   void mnuLoadBanko_Click();
+  void mnuShow8Columns_Click();
+  void mnuCreateRndCList_Click();
+  void mnuShowClist_Click();
   void mnuFKeys_Click();
   void mnuAbout_Click();
 

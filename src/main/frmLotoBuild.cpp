@@ -93,19 +93,29 @@ void frmLoto::buildMenus() {
            [this] { mnuDeleteRndFile_Click(); });
 
   QMenu* bag = menuHead("mnuBag", QStringLiteral("Torba"));
-  launcher(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", "frmBalls");
+  function(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] {
+    mnuShowBag_Click();
+  })->setEnabled(forms().knows("frmBalls"));
   function(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
            [this] { mnuLoadBag_Click(); });
 
   QMenu* banko = menuHead("mnuBanko", QStringLiteral("Banko"));
-  launcher(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", "frmBanko");
+  function(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] {
+    mnuShowBanko_Click();
+  })->setEnabled(forms().knows("frmBanko"));
   function(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
            [this] { mnuLoadBanko_Click(); });
 
   QMenu* list = menuHead("mnuListe", QStringLiteral("Liste"));
-  launcher(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)", "frmList");
-  launcher(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)", "frmRnd");
-  launcher(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)", "frmComLst");
+  function(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)", [this] {
+    mnuShow8Columns_Click();
+  })->setEnabled(forms().knows("frmList"));
+  function(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)", [this] {
+    mnuCreateRndCList_Click();
+  })->setEnabled(forms().knows("frmRnd"));
+  function(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)", [this] {
+    mnuShowClist_Click();
+  })->setEnabled(forms().knows("frmComLst"));
 
   QMenu* help = menuHead("mnuHelp", QStringLiteral("Yardım"));
   function(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
@@ -118,13 +128,6 @@ QAction* frmLoto::function(int number, QMenu* head, const char* entry, QStringVi
   QAction* action = menuEntry(head, entry, text.toString(), std::move(procedure));
   entries_[static_cast<std::size_t>(number - 1)] = action;
   return action;
-}
-
-void frmLoto::launcher(int number, QMenu* head, const char* entry, QStringView text,
-                       const char* form) {
-  function(number, head, entry, text, [this, form] {
-    around_.windows.show(form);
-  })->setEnabled(forms().knows(form));
 }
 
 void frmLoto::buildBanner() {
@@ -232,7 +235,7 @@ QWidget* frmLoto::buildChoices() {
   Option2 = control<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("Listeden Çek"));
   Check1 = control<QCheckBox>(QStringLiteral("Check1"), QStringLiteral("Numara Sırası"));
   Option1->setChecked(true);
-  on(Check1, &QCheckBox::clicked, [this] { Check1_Click(); });
+  on(Check1, &QCheckBox::toggled, [this] { Check1_Click(); });
   column->addWidget(Option1);
   column->addWidget(Option2);
   column->addWidget(Check1);

@@ -55,7 +55,8 @@ void ChangeRndFile(Surroundings& around, TitleBar& title) {
   Files& files = around.files;
   if (!files.exists(randomColumns)) return;
   std::int32_t count = 0;
-  ignoringFaults([&] { count = columnCount(files, randomColumns); });
+  // Columns that cannot be counted are not deleted for an empty file.
+  if (!ignoringFaults([&] { count = columnCount(files, randomColumns); })) return;
   if (count > 0) {
     around.boxes.beep();
     if (!around.boxes.ask(

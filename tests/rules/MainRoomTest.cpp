@@ -7,6 +7,7 @@
 #include "doubles/Doubles.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
+#include "platform/SystemChance.h"
 
 namespace karvenis {
 namespace {
@@ -61,6 +62,23 @@ TEST(SettingsTest, WritingKeepsALongerFilesTail) {
   files.folder["KV2005.CFG"] = hex("01 02 03 04 05 06 07 08 09 0A");
   writePlace(files, {900, 600});
   EXPECT_EQ(files.bytes("KV2005.CFG"), hex("00 00 61 44 00 00 16 44 09 0A"));
+}
+
+TEST(SystemChanceTest, TwoSeedingsOfOneMomentGiveTwoSequences) {
+  SystemChance chance;
+  const auto sequence = [&] {
+    chance.seed(1'000'000);
+    std::vector<float> numbers;
+    for (int i = 0; i < 8; ++i) numbers.push_back(chance.next());
+    return numbers;
+  };
+  const auto first = sequence();
+  EXPECT_NE(first, sequence());
+  for (const float number : first) {
+    EXPECT_GE(number, 0.0F);
+    EXPECT_LT(number, 1.0F);
+    EXPECT_EQ(number * (1 << 24), std::floor(number * (1 << 24))) << "24 bits";
+  }
 }
 
 TEST(OffersColumn, CountsFirstAndThenAsksWhetherTheDrawEnds) {

@@ -139,6 +139,49 @@ TEST_F(FormsTest, TheEnterThatMovesTheFocusDoesNotPressTheButton) {
   EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 2);
 }
 
+TEST_F(FormsTest, AHeldSpaceOrEnterPressesTheFocusedButtonOnce) {
+  Noting* a = show("frmA");
+  a->Command1->setFocus();
+  for (const auto key : {Qt::Key_Space, Qt::Key_Return}) {
+    taken();
+    hold(a, key, 4);
+    EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 1) << key;
+  }
+}
+
+TEST_F(FormsTest, AHeldEscIsOneEsc) {
+  Noting* a = show("frmA");
+  taken();
+  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+  QCoreApplication::sendEvent(a->windowHandle(), &repeat);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(FormsTest, AFaultWhileAWindowLoadsShowsNoWindowAndIsTheStatus) {
+  struct Broken : Form {
+    explicit Broken(Forms& all) : Form(all, "frmBroken") {}
+    void Form_Load() override { throw RunTimeError(Fault::open, "KV2005.CFG", "Erişim izni yok."); }
+  };
+  Forms own{world.boxes};
+  own.add("frmBroken", [&own] { return new Broken(own); });
+  world.boxes.expectMessage("'KV2005.CFG' dosyası açılamadı.\rNeden: Erişim izni yok.", "! HATA !",
+                            Icon::critical);
+  EXPECT_EQ(own.run(), 1);
+  for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(FormsTest, ADoubleClickBegunElsewhereIsNone) {
+  Noting* a = show("frmA");
+  click(a, {150, 100});
+  QEvent away(QEvent::WindowDeactivate);
+  QCoreApplication::sendEvent(a, &away);
+  taken();
+  QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(150, 100), QPointF(150, 100),
+                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(a, &second);
+  EXPECT_EQ(std::ranges::count(log, "frmA DblClick"), 0);
+}
+
 TEST_F(FormsTest, CtrlAndAltGiveNoCharacter) {
   Noting* a = show("frmA");
   taken();

@@ -168,6 +168,79 @@ TEST_F(FrmLoto, ANumberTellsItselfUnderThePointer) {
   }
 }
 
+TEST_F(FrmLoto, TheCheckMayBeSetByWhateverMeans) {
+  world.state.Drawn = column(9, 8, 7, 3, 2, 1);
+  control<QCheckBox>(loto, "Check1")->toggle();
+  EXPECT_EQ(shownColumn(), (Shown{"1", "2", "3", "7", "8", "9"}));
+}
+
+TEST_F(FrmLoto, EveryPressOfKolonStampsTheMinuteAndTakesThePicture) {
+  world.state.Bag = {1, 5};
+  world.clock.minuteOfHour = 7;
+  const QImage before = loto->grab(QRect(2, loto->height() - 8, 8, 6)).toImage();
+  world.boxes.expectWarning(tooFewBalls, tooFewBallsTitle);
+  pressKolon();
+  EXPECT_NE(loto->grab(QRect(2, loto->height() - 8, 8, 6)).toImage(), before);
+  world.clock.now = "12:07:30";
+  EXPECT_TRUE(waitFor([this] { return control<QLabel>(loto, "Label3")->text() == "12:07:30"; }));
+  EXPECT_TRUE(hidden("Picture0")) << "the minute is the stamped one";
+}
+
+TEST_F(FrmLoto, OtherKeysDoNothing) {
+  control(loto, "Option1")->setFocus();
+  for (const auto key : {Qt::Key_A, Qt::Key_7, Qt::Key_Home, Qt::Key_Delete, Qt::Key_PageDown}) {
+    press(loto, key);
+  }
+  EXPECT_FALSE(forms.ending());
+  EXPECT_TRUE(world.files.folder.empty());
+}
+
+TEST_F(FrmLoto, KeepingAColumnDoesNotRefreshTheNumbers) {
+  world.files.folder["KARVENIS.LST"] = columnBytes({{1, column(9, 8, 7, 3, 2, 1)}});
+  click(control(loto, "Option2"));
+  world.boxes.expectBeep(2);
+  pressKolon();
+  press(loto, Qt::Key_F1);
+  EXPECT_EQ(shownColumn(), (Shown{"9", "8", "7", "3", "2", "1"}));
+  EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 7, 8, 9));
+}
+
+TEST_F(FrmLoto, BallsOfADamagedRecordAreShownAsTheyStand) {
+  world.files.folder["KARVENIS.LST"] = columnBytes({{1, column(-32768, 0, 50, 32767, -1, 7)}});
+  click(control(loto, "Option2"));
+  world.boxes.expectBeep();
+  pressKolon();
+  EXPECT_EQ(shownColumn(), (Shown{"-32768", "0", "50", "32767", "-1", "7"}));
+}
+
+TEST_F(FrmLoto, AFileOfBagAndBankosIsNotReadAtStart) {
+  forms.find("frmLoto")->unload();
+  settle();
+  world.files.folder["KARVENIS.DAT"] = words({2, 5, 9});
+  loto = open("frmLoto");
+  EXPECT_EQ(world.state.Bag[0], 0);
+  EXPECT_EQ(world.state.Banko[0], 0);
+}
+
+TEST_F(FrmLoto, APlaceOnNoScreenBecomesTheNearestOne) {
+  for (const char* bytes : {"00 24 74 C9 00 24 74 C9", "00 24 74 49 00 24 74 49"}) {
+    forms.find("frmLoto")->unload();
+    settle();
+    world.files.folder["KV2005.CFG"] = hex(bytes);  // a million twips off
+    loto = open("frmLoto");
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    EXPECT_TRUE(screen.intersects(QRect(loto->pos(), QSize(loto->width(), 20)))) << bytes;
+  }
+}
+
+TEST_F(FrmLoto, APlaceThatShowsALittleIsKeptExactly) {
+  forms.find("frmLoto")->unload();
+  settle();
+  world.files.folder["KV2005.CFG"] = hex("00 00 A0 41 00 00 16 C6");  // 20 twips down, 9600 left
+  loto = open("frmLoto");
+  EXPECT_EQ(loto->pos(), QPoint(-640, 1));
+}
+
 TEST_F(FrmLoto, EscEndsWithoutWriting) {
   press(loto, Qt::Key_Escape);
   EXPECT_TRUE(forms.ending());

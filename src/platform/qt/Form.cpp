@@ -19,6 +19,7 @@ namespace {
 constexpr qint64 captionInterval = 15;
 
 bool isFunctionKey(int code) { return code >= keyF1 && code <= keyF12; }
+bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != nullptr; }
 
 }  // namespace
 
@@ -99,6 +100,7 @@ void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
 bool Form::event(QEvent* event) {
   const bool handled = QWidget::event(event);
   if (event->type() == QEvent::WindowActivate && isVisible()) forms_.became(*this);
+  if (event->type() == QEvent::WindowDeactivate) pressWasFree_ = pressBeforeWasFree_ = false;
   return handled;
 }
 
@@ -115,8 +117,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
       return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
-      repeats_.released(*static_cast<QKeyEvent*>(event));
-      return false;
+      return pressesFocused(keyCodeOf(*static_cast<QKeyEvent*>(event)));
     case QEvent::MouseButtonPress:
       notePress(*static_cast<QMouseEvent*>(event));
       [[fallthrough]];
@@ -130,26 +131,39 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
 
 /// Returns whether the key has been used up here, so that the focused control does not see it.
 bool Form::handleKey(const QKeyEvent& key) {
-  if (QApplication::activePopupWidget() != nullptr) return false;
+  const bool inMenus = QApplication::activePopupWidget() != nullptr ||
+                       qobject_cast<QMenuBar*>(focusWidget()) != nullptr;
+  if (inMenus) return false;
   if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
     return true;
   const int code = keyCodeOf(key);
-  keyRepeats_ = repeats_.isRepeat(key);
-  if (isFunctionKey(code) && keyRepeats_) return true;
+  keyRepeats_ = forms_.heldKeys().repeats();
+  const bool once = isFunctionKey(code) || code == keyEscape;
+  if (once && keyRepeats_) return true;
 
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();
   run([&] { Form_KeyDown(code, shift); });
   const bool character = (code == keyEnter || code == keyEscape) && (shift & ~shiftKey) == 0;
   if (character && !closing_) run([&] { Form_KeyPress(code); });
-  if (code == keyEnter && !closing_) pressFocused(focused);
-  return closing_ || isFunctionKey(code) || code == keyEscape;
+  if (closing_ || once) return true;
+  return pressFocused(code, focused) || (code == keyEnter && !takesText(focused));
 }
 
-/// Enter presses the button that had the focus when the key came.
-void Form::pressFocused(QWidget* focused) {
-  auto* button = qobject_cast<QPushButton*>(focused);
-  if (button != nullptr && !keyRepeats_ && button == focusWidget()) button->click();
+/// Enter presses the button that has the focus and the space bar ticks an option too, however the
+/// desktop has it; the toolkit's own way would press again and again while the key is held.
+bool Form::pressesFocused(int code) const {
+  const QWidget* focused = focusWidget();
+  return (code == keyEnter && qobject_cast<const QPushButton*>(focused) != nullptr) ||
+         (code == keySpace && qobject_cast<const QAbstractButton*>(focused) != nullptr);
+}
+
+/// Presses the button that had the focus when the key came; a button that the key itself moved the
+/// focus to is not pressed. Returns whether the key was one that presses.
+bool Form::pressFocused(int code, QWidget* focused) {
+  if (focused != focusWidget() || !pressesFocused(code)) return false;
+  if (!keyRepeats_) qobject_cast<QAbstractButton*>(focused)->click();
+  return true;
 }
 
 void Form::closeEvent(QCloseEvent* event) {

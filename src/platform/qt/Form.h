@@ -10,7 +10,6 @@
 
 #include "platform/Keys.h"
 #include "platform/TitleBar.h"
-#include "platform/qt/KeyCodes.h"
 
 class QKeyEvent;
 class QLineEdit;
@@ -64,8 +63,6 @@ class Form : public QWidget, public TitleBar {
   /// The user closes the window by its frame.
   virtual void closeRequested() { unload(); }
 
-  /// Whether the key being handled is a repeat of one that is held.
-  bool keyRepeats() const { return keyRepeats_; }
   Forms& forms() const { return forms_; }
 
   /// Connects a control's signal with an event procedure.
@@ -103,7 +100,8 @@ class Form : public QWidget, public TitleBar {
  private:
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
-  void pressFocused(QWidget* focused);
+  bool pressesFocused(int code) const;
+  bool pressFocused(int code, QWidget* focused);
   bool isFree(const QPoint& place) const;
 
   Forms& forms_;
@@ -114,7 +112,6 @@ class Form : public QWidget, public TitleBar {
   QSize lastSize_;
   int running_ = 0;
   bool closing_ = false;
-  KeyRepeats repeats_;
   bool keyRepeats_ = false;
   bool clickArmed_ = false;
   bool pressWasFree_ = false;        // the last press was on the window's own surface

@@ -61,7 +61,7 @@ Form* Forms::open(std::string_view form) {
     if (active_) placeBeside(*window, *active_);
     window->Form_Load();
   });
-  return window->isClosing() ? nullptr : window;
+  return window->isClosing() || ending_ ? nullptr : window;
 }
 
 void Forms::present(Form& form) {
@@ -90,12 +90,18 @@ void Forms::end() {
   QCoreApplication::exit(0);
 }
 
+int Forms::run() {
+  show(mainForm_);
+  return ending_ ? status_ : QApplication::exec();
+}
+
 void Forms::fault(const std::exception& error) {
   if (ending_) return;
   ending_ = true;
   boxes_.pointer(Pointer::normal);
+  status_ = 1;
   boxes_.message(words(error), errorTitle, Icon::critical);
-  QCoreApplication::exit(1);
+  QCoreApplication::exit(status_);
 }
 
 void Forms::showCaptions() {

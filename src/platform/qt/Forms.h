@@ -10,6 +10,7 @@
 
 #include "platform/Boxes.h"
 #include "platform/Windows.h"
+#include "platform/qt/HeldKeys.h"
 
 namespace karvenis {
 
@@ -33,6 +34,9 @@ class Forms final : public Windows {
 
   void show(std::string_view form) override;
   void end() override;
+  /// Shows the main window and serves the user until the program ends; its exit status, which is 1
+  /// after a fault, also one at the start.
+  int run();
   /// Whether the program is about to end.
   bool ending() const { return ending_; }
 
@@ -50,6 +54,7 @@ class Forms final : public Windows {
   /// not become commands after it.
   void dropInput();
   bool droppingInput() const { return *dropping_; }
+  const HeldKeys& heldKeys() const { return heldKeys_; }
 
  private:
   Form* open(std::string_view form);
@@ -60,7 +65,9 @@ class Forms final : public Windows {
   std::string mainForm_;
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
+  HeldKeys heldKeys_;
   bool ending_ = false;
+  int status_ = 0;
   std::shared_ptr<bool> dropping_ = std::make_shared<bool>(false);  // outlives us in its timers
 };
 

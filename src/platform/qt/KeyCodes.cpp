@@ -1,6 +1,5 @@
 #include "platform/qt/KeyCodes.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include "platform/Keys.h"
@@ -47,18 +46,6 @@ int shiftOf(const QKeyEvent& key) {
   return (held.testFlag(Qt::ShiftModifier) ? shiftKey : 0) |
          (held.testFlag(Qt::ControlModifier) ? ctrlKey : 0) |
          (held.testFlag(Qt::AltModifier) ? altKey : 0);
-}
-
-void KeyRepeats::released(const QKeyEvent& key) {
-  releasedKey_ = key.key();
-  releasedAt_ = key.timestamp();
-}
-
-bool KeyRepeats::isRepeat(const QKeyEvent& press) const {
-  if (press.isAutoRepeat()) return true;
-  // Elsewhere the moment is that of the event's making, and no repeat is told by it.
-  if (QGuiApplication::platformName() != QLatin1String("xcb")) return false;
-  return press.key() == releasedKey_ && press.timestamp() == releasedAt_;
 }
 
 }  // namespace karvenis

@@ -9,16 +9,10 @@
 namespace karvenis {
 namespace {
 
-/// So much of a title bar must be seen to take hold of it.
-constexpr int gripWidth = 40;
-constexpr int gripHeight = 8;
-
-bool titleSeen(const QRect& title) {
+bool isOnScreen(const QRect& area) {
   const auto screens = QGuiApplication::screens();
-  return std::ranges::any_of(screens, [&](const QScreen* screen) {
-    const QRect seen = screen->availableGeometry().intersected(title);
-    return seen.width() >= gripWidth && seen.height() >= gripHeight;
-  });
+  return std::ranges::any_of(
+      screens, [&](const QScreen* screen) { return screen->geometry().intersects(area); });
 }
 
 /// The place nearest to `frame` that lies wholly on a screen.
@@ -43,16 +37,17 @@ QPoint nearestPlace(const QRect& frame) {
 }  // namespace
 
 void moveFrame(QWidget& window, QPointF place) {
+  constexpr int titleHeight = 24;
   constexpr double farthest = 1'000'000;  // beyond any screen, and safe to compute with
   const QPoint wanted = QPointF(std::clamp(place.x(), -farthest, farthest),
                                 std::clamp(place.y(), -farthest, farthest))
                             .toPoint();
-  // Sized first: a resize after the move would make the toolkit take the place for the client area's.
+  // Sized first: a resize after the move would make the toolkit take the place for the client
+  // area's.
   window.adjustSize();
   const QRect frame(wanted, window.size());
-  const QRect title(frame.topLeft(), QSize(frame.width(), 24));
-  window.adjustSize();  // a change of size after the move would place the contents, not the frame
-  window.move(titleSeen(title) ? wanted : nearestPlace(frame));
+  const QRect title(frame.topLeft(), QSize(frame.width(), titleHeight));
+  window.move(isOnScreen(title) ? wanted : nearestPlace(frame));
 }
 
 }  // namespace karvenis
