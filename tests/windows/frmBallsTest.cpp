@@ -289,13 +289,14 @@ TEST_F(FrmBalls, OtherKeysDoNothing) {
 }
 
 TEST_F(FrmBalls, ClosesWithoutApplying) {
-  for (const int way : {0, 1, 2, 3}) {
+  for (const int way : {0, 1, 2, 3, 4}) {
     start();
     mark({5});
     if (way == 0) press(balls, Qt::Key_Escape);
     if (way == 1) click(control(balls, "Command2"));
     if (way == 2) trigger(balls, "mnuKapat");
     if (way == 3) balls->close();
+    if (way == 4) press(balls, Qt::Key_Escape, Qt::ShiftModifier);
     settle();
     EXPECT_EQ(forms.find("frmBalls"), nullptr);
     EXPECT_EQ(bagOf(world.state), Set{});

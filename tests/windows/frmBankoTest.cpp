@@ -329,7 +329,7 @@ TEST_F(FrmBanko, OtherKeysDoNothing) {
 }
 
 TEST_F(FrmBanko, ClosesWithoutApplying) {
-  for (const int way : {0, 1, 2, 3}) {
+  for (const int way : {0, 1, 2, 3, 4}) {
     start();
     press(banko, Qt::Key_F5);
     typeInto(0, "7");
@@ -337,6 +337,7 @@ TEST_F(FrmBanko, ClosesWithoutApplying) {
     if (way == 1) click(control(banko, "Command2"));
     if (way == 2) trigger(banko, "mnuKapat");
     if (way == 3) banko->close();
+    if (way == 4) press(banko, Qt::Key_Escape, Qt::ShiftModifier);
     settle();
     EXPECT_EQ(forms.find("frmBanko"), nullptr);
     EXPECT_EQ(bankoOf(world.state), Set{});
