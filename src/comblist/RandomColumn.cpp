@@ -28,8 +28,8 @@ RandomColumn::RandomColumn(const SharedState& state) {
 }
 
 const karvenis::Column& RandomColumn::draw(Chance& chance) {
-  Pool = full_;
-  std::copy_n(bankos_.begin(), firstDrawn_, Column.begin());
+  std::copy(full_.begin(), full_.end(), Pool.begin());
+  Column = bankos_;
   for (std::size_t position = firstDrawn_; position <= ballsInColumn; ++position) {
     const std::int32_t drawn = chance.index(Pool[0]);
     Column[position] = Pool[static_cast<std::size_t>(drawn)];
@@ -43,9 +43,11 @@ const karvenis::Column& RandomColumn::draw(Chance& chance) {
 /// pool shrinks by two. An exhausted pool only loses its stale first entry.
 void RandomColumn::take(std::int32_t drawn) {
   const std::int16_t count = Pool[0];
-  const auto place = Pool.begin() + drawn;
+  std::int16_t* const place = &Pool[static_cast<std::size_t>(drawn)];
   if (drawn < count) {
-    std::copy(place + 1, Pool.begin() + count + 1, place);
+    std::array<std::int16_t, ballsInAll - 1> behind;  // whatever the count: one size is faster
+    std::copy_n(place + 1, behind.size(), behind.begin());
+    std::copy_n(behind.begin(), behind.size(), place);
     Pool[0] = static_cast<std::int16_t>(count - 1);
   } else {
     *place = 0;

@@ -32,7 +32,8 @@ class RandomColumn {
   using Table = std::array<std::int16_t, ballsInAll + 1>;
 
   Table full_{};  // the pool that every column starts with
-  Table Pool{};   // element 0: how many entries can be drawn; above them stand stale ones
+  // Element 0: how many entries can be drawn. Stale ones stand above them, and room to move from.
+  std::array<std::int16_t, 2 * ballsInAll> Pool{};
   karvenis::Column bankos_{};
   karvenis::Column Column{};
   std::size_t firstDrawn_ = 1;  // the position behind the bankos
