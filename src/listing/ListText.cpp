@@ -1,5 +1,6 @@
 #include "listing/ListText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -7,29 +8,46 @@
 
 namespace karvenis {
 
-void appendPadded(std::string& text, std::int64_t number, std::size_t digits) {
-  std::array<char, 24> shown{};
-  const char* end = std::to_chars(shown.data(), shown.data() + shown.size(), number).ptr;
-  const auto length = static_cast<std::size_t>(end - shown.data());
-  if (length < digits) text.append(digits - length, '0');
-  text.append(shown.data(), length);
+namespace {
+
+/// More than the longest line of a damaged record: a label of 10 digits, balls and a sum of 6
+/// characters each.
+constexpr std::size_t lineRoom = 128;
+constexpr std::size_t numberRoom = 11;
+
+// These write at `at`, where there is room, and return the place behind what they wrote.
+
+char* put(char* at, std::string_view text) { return std::ranges::copy(text, at).out; }
+
+/// `number` without blanks, filled up with zeros on the left to `digits` characters.
+char* putPadded(char* at, std::int32_t number, std::size_t digits) {
+  char* end = std::to_chars(at, at + numberRoom, number).ptr;
+  const auto length = static_cast<std::size_t>(end - at);
+  if (length >= digits) return end;
+  std::copy_backward(at, end, at + digits);
+  std::fill_n(at, digits - length, '0');
+  return at + digits;
 }
+
+}  // namespace
 
 void appendColumnLine(std::string& text, std::int32_t number, std::size_t digits,
                       const Column& balls) {
   const std::int16_t sum = columnSum(balls);
-  text += "Kolon ";
-  appendPadded(text, number, digits);
-  text += " - ";
+  std::array<char, lineRoom> line;
+  char* end = put(line.data(), "Kolon ");
+  end = putPadded(end, number, digits);
+  end = put(end, " - ");
   for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    if (k > 1) text += ", ";
-    appendPadded(text, balls[k], 2);
+    if (k > 1) end = put(end, ", ");
+    end = putPadded(end, balls[k], 2);
   }
-  text += "  [";
+  end = put(end, "  [");
   const bool threeCharacters = sum >= 100 || sum <= -10;
-  if (!threeCharacters) text += '0';
-  appendPadded(text, sum);
-  text += ']';
+  if (!threeCharacters) end = put(end, "0");
+  end = putPadded(end, sum, 1);
+  end = put(end, "]");
+  text.append(line.data(), end);
 }
 
 std::string totalLine(std::int32_t columns) {

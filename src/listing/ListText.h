@@ -20,9 +20,6 @@ void appendColumnLine(std::string& text, std::int32_t number, std::size_t digits
 /// The last line: how many columns were listed.
 std::string totalLine(std::int32_t columns);
 
-/// Appends `number` without blanks, filled up with zeros on the left to `digits` characters.
-void appendPadded(std::string& text, std::int64_t number, std::size_t digits = 1);
-
 /// Decimal digits of a number above 0.
 std::size_t digitCount(std::int32_t number);
 

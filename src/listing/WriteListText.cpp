@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "core/CaptionLine.h"
 #include "core/Numbers.h"
 #include "listing/ListText.h"
 #include "listing/Listing.h"
@@ -42,20 +43,16 @@ class TextFile {
 /// Shows a byte's number behind a fixed text in a title.
 class Progress {
  public:
-  Progress(TitleBar& title, const char* text) : title_(title), caption_(text) {
-    caption_ += ' ';  // the place of the number's sign
-    textLength_ = caption_.size();
-  }
+  Progress(TitleBar& title, std::string_view text) : title_(title), text_(text) {}
   void show(std::uint64_t byte) {
-    caption_.resize(textLength_);
-    appendPadded(caption_, static_cast<std::int64_t>(byte));
-    title_.setCaption(caption_);
+    caption_.start(text_).addWithBlank(static_cast<std::int64_t>(byte));
+    title_.setCaption(caption_.text());
   }
 
  private:
   TitleBar& title_;
-  std::string caption_;
-  std::size_t textLength_;
+  std::string_view text_;
+  CaptionLine caption_;
 };
 
 /// Puts `text` one character at a time and shows the number of each.
