@@ -50,6 +50,8 @@ class Program:
                              stderr=self._words, env={**screen.environment, **(environment or {})})
 
     def close(self):
+        if self._words.closed:
+            return
         stop(self.process)
         self._words.close()
         if self.temporary:
