@@ -19,7 +19,7 @@ constexpr char keys[] =
     "\r"
     "F10= Fonksiyon Tuşları (Yardım)\r"
     "\r"
-    "Not: Tam formüllerden oluşan listeler için KARVENIS'in kardeş programını öneririz.\r"
+    "Not: Tam formüllü listeler için kardeş programımızı öneririz.\r"
     "\r"
     "HOME= İlk Sayfa\r"
     "END= Son Sayfa\r"

@@ -7,6 +7,11 @@
 #include "platform/qt/Surface.h"
 
 namespace karvenis {
+namespace {
+
+constexpr int titleWidth = 480;  // the frame shows the whole title of the last page then
+
+}  // namespace
 
 frmComLst::frmComLst(Surroundings& around, Forms& forms)
     : Form(forms, "frmComLst"), around_(around), surface_(new Surface(this)) {
@@ -14,7 +19,8 @@ frmComLst::frmComLst(Surroundings& around, Forms& forms)
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(surface_);
-  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_)));
+  const QSize rows = surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_));
+  surface_->setMinimumSize(rows.expandedTo({titleWidth, 0}));
 }
 
 void frmComLst::Form_Activate() {

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int margin = 18;
 constexpr int spacing = 12;
+constexpr int titleWidth = 380;  // the frame shows the whole title then
 
 }  // namespace
 
@@ -30,6 +31,7 @@ frmRnd::frmRnd(Surroundings& around, Forms& forms)
   whole->addLayout(buildOptions());
   Line1 = control<QFrame>(QStringLiteral("Line1"));
   Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+  Line1->setMinimumWidth(titleWidth - 2 * margin);
   whole->addWidget(Line1);
   Label2 = control<QLabel>(QStringLiteral("Label2"),
                            QStringLiteral("KARVENIS.LST dosyasına kayıtlanacak."));

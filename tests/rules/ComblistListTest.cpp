@@ -180,7 +180,7 @@ TEST(ShowListKeys, NamesEveryKeyAndTheCompanionProgram) {
       "F7= Kombinasyon listesini istenmeyen ikililer girişine göre ele\r"
       "F8= Kombinasyon listesini istenen ikililer girişine göre ele\r"
       "\rF10= Fonksiyon Tuşları (Yardım)\r\r"
-      "Not: Tam formüllerden oluşan listeler için KARVENIS'in kardeş programını öneririz.\r\r"
+      "Not: Tam formüllü listeler için kardeş programımızı öneririz.\r\r"
       "HOME= İlk Sayfa\rEND= Son Sayfa\rPAGEDOWN= Sonraki Sayfa\rPAGEUP= Önceki Sayfa\r\r"
       "ESC= Kapat",
       " Kombinasyon Listesi FONKSİYON TUŞLARI");
