@@ -108,7 +108,9 @@ class PrintQueue:
         return done.stdout + done.stderr
 
     def _run(self, *command):
-        subprocess.run(command, env={**os.environ, **self.environment, "LC_ALL": "C"},
+        search = os.environ.get("PATH", "") + ":/usr/sbin"  # where a user's PATH does not lead
+        subprocess.run(command,
+                       env={**os.environ, **self.environment, "PATH": search, "LC_ALL": "C"},
                        stdin=subprocess.DEVNULL, capture_output=True, check=True, timeout=30)
 
     def refuse(self):

@@ -116,7 +116,7 @@ class Program:
 
         def look():
             found[:] = [node for node in self.boxes() if title in (None, node.name)]
-            return found and self.active_title() == found[0].name
+            return found and self.active_title() == found[0].name and found[0].has("active")
         self.until(look, f"the box «{title}»; open are {self.titles()}")
         return Box(self, found[0])
 
@@ -135,8 +135,9 @@ class Program:
         return found.group(1) if found else None
 
     def activated(self, title):
-        """Waits until the window of this title has the keyboard."""
-        self.until(lambda: self.active_title() == title,
+        """Waits until the window of this title has the keyboard, and knows it."""
+        self.until(lambda: self.active_title() == title
+                   and any(node.name == title and node.has("active") for node in self.windows()),
                    f"«{title}» to be active; active is «{self.active_title()}»")
 
     def titled(self, pattern):
