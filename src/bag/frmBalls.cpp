@@ -39,17 +39,17 @@ frmBalls::frmBalls(Surroundings& around, Forms& forms) : Form(forms, "frmBalls")
 
 void frmBalls::buildMenus() {
   QMenu* choice = menuHead("mnuSecim", QStringLiteral("Seçim"));
-  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { Command1_Click(); });
+  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { mnuUygula_Click(); });
   choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
   menuEntry(choice, "mnuHepsi", QStringLiteral("Hepsini Seç"), [this] { mnuHepsi_Click(); });
   menuEntry(choice, "mnuHicbiri", QStringLiteral("Hiçbirini Seçme"),
             [this] { mnuHicbiri_Click(); });
   choice->addSeparator()->setObjectName(QStringLiteral("mnuL2"));
-  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { unload(); });
+  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { mnuKapat_Click(); });
 
   QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
-  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { Command3_Click(); });
-  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { Command4_Click(); });
+  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { mnuYukle_Click(); });
+  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { mnuKayitla_Click(); });
 
   QMenu* help = menuHead("mnuYardim", QStringLiteral("Yardım"));
   menuEntry(help, "mnuFunctionKeys", QStringLiteral("Fonksiyon Tuşları"),
@@ -98,7 +98,7 @@ QWidget* frmBalls::buildCommands() {
   Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
   Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
   Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
-  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { unload(); });
+  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { Command2_Click(); });
   for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
   Label2 = control<QLabel>(QStringLiteral("Label2"), QStringLiteral("F10= Yardım"));
   Label2->setToolTip(QStringLiteral("KARVENIS 2005"));
@@ -139,10 +139,16 @@ void frmBalls::cmdBall_Click(int Index) {
 }
 
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
+void frmBalls::Command2_Click() { unload(); }
 void frmBalls::Command3_Click() { loadBag(around_, *this); }
 void frmBalls::Command4_Click() { saveBag(around_, *this); }
 void frmBalls::mnuHepsi_Click() { markAll(true); }
 void frmBalls::mnuHicbiri_Click() { markAll(false); }
+
+void frmBalls::mnuUygula_Click() { Command1_Click(); }
+void frmBalls::mnuYukle_Click() { Command3_Click(); }
+void frmBalls::mnuKayitla_Click() { Command4_Click(); }
+void frmBalls::mnuKapat_Click() { unload(); }
 
 void frmBalls::mnuFunctionKeys_Click() {
   around_.boxes.beep();

@@ -33,14 +33,14 @@ frmBanko::frmBanko(Surroundings& around, Forms& forms) : Form(forms, "frmBanko")
 
 void frmBanko::buildMenus() {
   QMenu* choice = menuHead("mnuSecim", QStringLiteral("Seçim"));
-  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { Command1_Click(); });
+  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { mnuUygula_Click(); });
   menuEntry(choice, "mnuSil", QStringLiteral("Seçimi Sil"), [this] { mnuSil_Click(); });
   choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
-  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { unload(); });
+  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { mnuKapat_Click(); });
 
   QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
-  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { Command3_Click(); });
-  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { Command4_Click(); });
+  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { mnuYukle_Click(); });
+  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { mnuKayitla_Click(); });
 
   QMenu* help = menuHead("mnuYardim", QStringLiteral("Yardım"));
   menuEntry(help, "mnuFunctionKeys", QStringLiteral("Fonksiyon Tuşları"),
@@ -110,7 +110,7 @@ QWidget* frmBanko::buildCommands() {
   Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
   Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
   Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
-  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { unload(); });
+  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { Command2_Click(); });
   for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
   column->addLayout(row);
   auto* foot = new QHBoxLayout;
@@ -175,9 +175,15 @@ void frmBanko::Text1_Enter(int Index) {
 }
 
 void frmBanko::Command1_Click() { applyBanko(around_, *this); }
+void frmBanko::Command2_Click() { unload(); }
 void frmBanko::Command3_Click() { loadBanko(around_, *this); }
 void frmBanko::Command4_Click() { saveBanko(around_, *this); }
 void frmBanko::mnuSil_Click() { clearBanko(around_.state); }
+
+void frmBanko::mnuUygula_Click() { Command1_Click(); }
+void frmBanko::mnuYukle_Click() { Command3_Click(); }
+void frmBanko::mnuKayitla_Click() { Command4_Click(); }
+void frmBanko::mnuKapat_Click() { unload(); }
 
 void frmBanko::mnuFunctionKeys_Click() {
   around_.boxes.beep();
