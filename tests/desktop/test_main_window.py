@@ -60,6 +60,38 @@ class Looks(DesktopCase):
         self.expect_box(KEY_LIST, STANDARD_TITLE + "  [26.9.2005]")
         self.assertTrue(program.runs())
 
+    def choose(self, head, entry):
+        """Chooses a menu entry with the mouse."""
+        bar = self.main.find("menu bar")
+        (opened,) = [node for node in bar.children if node.name == head]
+        self.program.click(opened)
+        (chosen,) = [node for node in opened.walk() if node.name == entry]
+        self.program.until(lambda: chosen.has("showing"), f"the menu «{head}»")
+        self.program.click(chosen)
+
+    def test_the_about_box_names_the_folder(self):
+        program = self.start()
+        self.choose("Yardım", "Program hakkında")
+        box = program.box()
+        self.assertTrue(box.text.endswith(program.folder), box.text)
+        box.press("Return")
+
+    def test_menu_entries_do_what_their_keys_do(self):
+        program = self.start({"KARVENIS.RND": record((1, 2, 3, 4, 5, 6))})
+        for head, entry, title in (
+                ("Torba", "Torbayı Göster (F5)", "6/49 Top Seçme Tablosu"),
+                ("Banko", "Bankoyu Göster (F7)", "Banko"),
+                ("Liste", "Yeni kombinasyon listesi oluştur (F11)",
+                 "6/49 Rastgele Kolon Üreteci"),
+                ("Dosya", "KARVENIS.RND dosyasını göster (F2)",
+                 " Rastgele Kolon Listesi - Sayfa 1  [ F10= Yardım ]")):
+            with self.subTest(entry):
+                self.choose(head, entry)
+                program.activated(title)
+                program.keys("Escape")
+                program.gone(title)
+                program.activated(STANDARD_TITLE)
+
     def test_keys_with_a_modifier_do_nothing(self):
         program = self.start()
         for modifier in ("shift", "ctrl", "alt"):
