@@ -4,6 +4,9 @@ target_compile_options(karvenis_strict INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wduplicated-cond -Werror
   -Wno-restrict)  # GCC 12 warns of std::string's own operator+ in optimised builds
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(karvenis_strict INTERFACE -Wno-unknown-warning-option)
+endif()
 if(KARVENIS_SANITIZE)
   add_compile_options(-fsanitize=${KARVENIS_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)

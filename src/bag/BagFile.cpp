@@ -48,8 +48,8 @@ void removeBankos(SharedState& state) {
   const auto isBanko = [&](std::int16_t ball) {
     return std::ranges::find(banko, ball) != banko.end();
   };
-  const auto removed = std::ranges::remove_if(bag, isBanko);
-  state.Bag[0] = static_cast<std::int16_t>(removed.begin() - bag.begin());
+  const auto end = std::remove_if(bag.begin(), bag.end(), isBanko);
+  state.Bag[0] = static_cast<std::int16_t>(end - bag.begin());
 }
 
 void LoadBagFromFile(Surroundings& around) {

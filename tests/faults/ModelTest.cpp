@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+#include "comblist/CombinationList.h"
+#include "comblist/Filters.h"
+#include "comblist/RandomList.h"
+#include "core/Draw.h"
+#include "doubles/Doubles.h"
+#include "doubles/PlainWorld.h"
+#include "faults/DiskFolder.h"
+#include "listing/Listing.h"
+#include "main/NewColumn.h"
+#include "randomlist/ColumnDeletion.h"
+#include "randomlist/RandomColumnFile.h"
+#include "randomlist/RandomColumnList.h"
+
+namespace karvenis {
+namespace {
+
+using Columns = std::vector<ColumnRecord>;
+
+/// What the files ought to hold, kept in the plainest way.
+struct Model {
+  std::optional<Columns> kept, list, backup;
+
+  void backUp() {
+    if (list) backup = list;
+  }
+};
+
+bool holds(const ColumnRecord& record, std::int16_t ball) {
+  return std::find(record.Balls.begin() + 1, record.Balls.end(), ball) != record.Balls.end();
+}
+
+std::optional<Columns> columnsIn(const MemoryFiles& files, const char* name) {
+  const auto found = files.folder.find(name);
+  if (found == files.folder.end()) return std::nullopt;
+  return columnsOf(found->second);
+}
+
+/// Random actions on the rules and, beside each, what it means in the model.
+class Walk {
+ public:
+  explicit Walk(unsigned seed) : random_(seed) {}
+
+  void step() {
+    static constexpr void (Walk::*moves[])() = {
+        &Walk::save,         &Walk::save,       &Walk::save,    &Walk::deleteKept,
+        &Walk::append,       &Walk::saveAs,     &Walk::rename,  &Walk::deleteKeptFile,
+        &Walk::deleteListed, &Walk::deleteList, &Walk::copy,    &Walk::generate,
+        &Walk::addRandom,    &Walk::unwanted,   &Walk::wanted,  &Walk::unwantedPair,
+        &Walk::wantedPairs,  &Walk::writeText,  &Walk::pickOne,
+    };
+    world_.state.FileNo.reset();
+    (this->*moves[below(std::size(moves))])();
+  }
+  /// What differs between the files and the model; empty where nothing does.
+  std::string difference() const {
+    if (columnsIn(world_.files, randomColumns) != model_.kept) return "kept columns";
+    if (columnsIn(world_.files, combinationList) != model_.list) return "list";
+    if (columnsIn(world_.files, listBackup) != model_.backup) return "backup";
+    for (const char* scratch : {"KARVENIS.YND", "KARVENIS.YLS", "KARVENIS.TMP"}) {
+      if (world_.files.folder.contains(scratch)) return scratch;
+    }
+    return {};
+  }
+  const std::string& last() const { return last_; }
+
+ private:
+  std::size_t below(std::size_t count) { return random_() % count; }
+  std::int16_t ball() { return static_cast<std::int16_t>(1 + below(49)); }
+  void move(const char* name) { last_ = name; }
+  void says(bool yes) { world_.boxes.says = yes; }
+  static bool any(const std::optional<Columns>& columns) { return columns && !columns->empty(); }
+
+  void save() {
+    move("save");
+    for (auto& drawn : world_.state.Drawn) drawn = ball();
+    SaveRndColumn(world_.around, world_.title, false);
+    if (!model_.kept) model_.kept.emplace();
+    if (model_.kept->size() >= recordLimit) return;
+    std::sort(world_.state.Drawn.begin() + 1, world_.state.Drawn.end());
+    Column saved = world_.state.Drawn;
+    saved[0] = 0;
+    model_.kept->push_back({0, saved});
+  }
+  void deleteKept() {
+    move("delete a kept column");
+    ColumnDeletion deletion(world_.around);
+    if (!deletion.load()) return;
+    const std::size_t count = model_.kept->size();
+    const std::size_t number = below(count + 2);
+    deletion.remove(static_cast<std::int32_t>(number));
+    if (number < 1 || number > count) return;
+    model_.kept->erase(model_.kept->begin() + static_cast<std::ptrdiff_t>(number - 1));
+    if (count == 1) model_.kept.reset();
+  }
+  void append() {
+    move("append");
+    says(below(4) != 0);
+    ListPage page;
+    AppendToCombinationList(world_.around, page);
+    if (!world_.boxes.says || !any(model_.kept)) return;
+    if (!model_.list) model_.list.emplace();
+    model_.list->insert(model_.list->end(), model_.kept->begin(), model_.kept->end());
+  }
+  void saveAs() {
+    move("save as");
+    if (!model_.kept) return;
+    says(below(4) != 0);
+    SaveAsCombinationList(world_.around);
+    if (!world_.boxes.says) return;
+    model_.backUp();
+    model_.list = model_.kept;
+  }
+  void rename() {
+    move("rename");
+    if (below(8) != 0) return;
+    says(below(2) != 0);
+    ChangeRndFile(world_.around, world_.title);
+    if (!model_.kept || !world_.boxes.says) return;
+    model_.backUp();
+    model_.list = std::exchange(model_.kept, std::nullopt);
+  }
+  void deleteKeptFile() {
+    move("delete the kept columns");
+    if (below(8) != 0) return;
+    says(below(2) != 0);
+    below(2) != 0 ? DeleteRndFile(world_.around, world_.title) : DeleteRndList(world_.around);
+    if (world_.boxes.says) model_.kept.reset();
+  }
+  void deleteListed() {
+    move("delete a listed column");
+    const std::size_t count = model_.list ? model_.list->size() : 0;
+    const std::size_t number = below(count + 2);
+    world_.boxes.typed = std::to_string(number);
+    ListPage page;
+    DeleteColumn(world_.around, page);
+    if (number < 1 || number > count) return;
+    model_.backUp();
+    model_.list->erase(model_.list->begin() + static_cast<std::ptrdiff_t>(number - 1));
+    if (count == 1) model_.list.reset();
+  }
+  void deleteList() {
+    move("delete the list");
+    if (below(8) != 0) return;
+    says(below(2) != 0);
+    DeleteList(world_.around);
+    if (world_.boxes.says) model_.list.reset();
+  }
+  void copy() {
+    move("copy to the kept columns");
+    says(below(4) != 0);
+    CopyToRandomColumns(world_.around);
+    if (any(model_.list) && (world_.boxes.says || !model_.kept)) model_.kept = model_.list;
+  }
+  void generate() {
+    move("generate");
+    makeColumns(RandomList::Mode::newList);
+  }
+  void addRandom() {
+    move("generate more");
+    makeColumns(RandomList::Mode::append);
+  }
+  /// The balls are chance's: the model takes them over where they can be ones, and knows the rest.
+  void makeColumns(RandomList::Mode mode) {
+    const std::size_t wanted = below(40);
+    const std::size_t start =
+        mode == RandomList::Mode::append && model_.list ? model_.list->size() : 0;
+    says(below(4) != 0);
+    RandomList random(world_.around, world_.title);
+    const auto outcome = random.start(mode, std::to_string(wanted));
+    const bool asked = mode == RandomList::Mode::newList && any(model_.list);
+    const bool done = wanted > 0 && (!asked || world_.boxes.says) && start + wanted <= recordLimit;
+    EXPECT_EQ(outcome == RandomList::Outcome::done, done);
+    if (!done) return;
+    if (mode == RandomList::Mode::newList) model_.backUp();
+    if (!model_.list) model_.list.emplace();
+    const auto now = columnsIn(world_.files, combinationList);
+    model_.list->resize(std::max(model_.list->size(), start + wanted));
+    for (std::size_t i = start; i < start + wanted && now && i < now->size(); ++i) {
+      const Column& drawn = (*now)[i].Balls;
+      EXPECT_TRUE(std::is_sorted(drawn.begin() + 1, drawn.end()));
+      (*model_.list)[i] = {static_cast<std::int32_t>(i + 1), drawn};
+    }
+  }
+  void thinOut(Filter filter, const std::string& typed,
+               const std::function<bool(const ColumnRecord&)>& keeps) {
+    world_.boxes.typed = typed;
+    says(below(6) != 0);
+    filterList(filter, world_.around, world_.title);
+    if (!any(model_.list) || !world_.boxes.says) return;
+    model_.backUp();
+    std::erase_if(*model_.list, [&](const ColumnRecord& record) { return !keeps(record); });
+    for (ColumnRecord& record : *model_.list) record.Word = 417;
+    if (model_.list->empty()) model_.list.reset();
+  }
+  void unwanted() {
+    move("delete unwanted numbers");
+    const std::int16_t a = ball(), b = ball();
+    thinOut(Filter::FilterUnwantedNumbers, std::to_string(a) + ", " + std::to_string(b),
+            [=](const ColumnRecord& r) { return !holds(r, a) && !holds(r, b); });
+  }
+  void wanted() {
+    move("keep wanted numbers");
+    std::string typed;
+    std::vector<std::int16_t> balls;
+    for (int i = 0; i < 15; ++i) {
+      balls.push_back(ball());
+      typed += std::to_string(balls.back()) + (i < 14 ? "," : "");
+    }
+    thinOut(Filter::FilterWantedNumbers, typed, [=](ColumnRecord r) {
+      r.Balls[3] = 0;  // the third one is never looked up
+      return std::ranges::any_of(balls, [&](std::int16_t wished) { return holds(r, wished); });
+    });
+  }
+  void unwantedPair() {
+    move("delete an unwanted pair");
+    const std::int16_t a = ball();
+    const auto b = static_cast<std::int16_t>(a % 49 + 1);
+    thinOut(Filter::FilterUnwantedPair, std::to_string(a) + "-" + std::to_string(b),
+            [=](const ColumnRecord& r) {
+              return std::count_if(r.Balls.begin() + 1, r.Balls.end(),
+                                   [=](std::int16_t x) { return x == a || x == b; }) < 2;
+            });
+  }
+  void wantedPairs() {
+    move("keep wanted pairs");
+    std::string typed;
+    std::vector<std::pair<std::int16_t, std::int16_t>> pairs;
+    for (int i = 0; i < 60; ++i) {
+      const std::int16_t a = ball();
+      const auto b = static_cast<std::int16_t>(a % 49 + 1);
+      pairs.emplace_back(a, b);
+      typed += std::to_string(a) + "-" + std::to_string(b) + (i < 59 ? "," : "");
+    }
+    thinOut(Filter::FilterWantedPairs, typed, [=](const ColumnRecord& r) {
+      return std::ranges::any_of(
+          pairs, [&](const auto& pair) { return holds(r, pair.first) && holds(r, pair.second); });
+    });
+  }
+  void writeText() {
+    move("write a text");
+    says(true);
+    listRandomColumns(world_.around, world_.title, Output::text);
+    const std::string text = world_.files.text("KARVENIS.TXT");
+    if (any(model_.kept)) {
+      EXPECT_NE(text.find("< Toplam " + std::to_string(model_.kept->size()) + " kolon. >"),
+                std::string::npos);
+    }
+  }
+  void pickOne() {
+    move("pick from the list");
+    const auto pick = PickFromList(world_.around);
+    EXPECT_EQ(pick.has_value(), any(model_.list));
+    if (pick) {
+      EXPECT_EQ(world_.state.Drawn,
+                (*model_.list)[static_cast<std::size_t>(pick->record - 1)].Balls);
+    }
+  }
+
+  std::mt19937 random_;
+  PlainWorld world_;
+  Model model_;
+  std::string last_;
+};
+
+/// KARVENIS_ROUNDS=100000 is the long form.
+TEST(Model, RandomActionsDoWhatTheModelDoes) {
+  Walk walk(2005);
+  for (int i = 0; i < rounds(3000); ++i) {
+    walk.step();
+    ASSERT_EQ(walk.difference(), "") << "step " << i << ": " << walk.last();
+    ASSERT_FALSE(HasFailure()) << "step " << i << ": " << walk.last();
+  }
+}
+
+}  // namespace
+}  // namespace karvenis

@@ -1,0 +1,7 @@
+// The input of the filter on F7: any text leaves the list as it was or thins it out.
+#include "fuzz/Filtering.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  karvenis::filterWith(karvenis::Filter::FilterUnwantedPair, karvenis::textOf(data, size));
+  return 0;
+}

@@ -1,0 +1,17 @@
+// The settings file: any bytes give a finite place or none.
+#include "main/Settings.h"
+
+#include <cmath>
+
+#include "fuzz/Fuzz.h"
+
+using namespace karvenis;
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  PlainWorld world;
+  world.files.folder[settingsFile] = bytesOf(data, size);
+  const auto place = readPlace(world.files);
+  require(!place || (std::isfinite(place->top) && std::isfinite(place->left)));
+  require(world.files.bytes(settingsFile) == bytesOf(data, size));
+  return 0;
+}
