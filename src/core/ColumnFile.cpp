@@ -1,5 +1,8 @@
 #include "core/ColumnFile.h"
 
+#include <memory>
+#include <vector>
+
 namespace karvenis {
 
 void ColumnFile::get(std::int64_t number) {
@@ -33,12 +36,24 @@ void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& fr
   }
 }
 
+void startScratch(Files& files, const std::string& scratch) {
+  if (files.exists(scratch)) files.discard(scratch);
+  files.open(scratch)->close();
+}
+
 void copyListTo(Files& files, const std::string& scratch) {
-  if (files.exists(combinationList)) {
-    files.copy(combinationList, scratch);
-  } else if (files.exists(scratch)) {
-    files.remove(scratch);
+  startScratch(files, scratch);
+  if (!files.exists(combinationList)) return;
+  const std::unique_ptr<File> from = files.open(combinationList);
+  const std::unique_ptr<File> to = files.open(scratch);
+  std::vector<std::byte> block(std::size_t{1} << 16);
+  std::uint64_t offset = 0;
+  while (const std::size_t got = from->read(offset, block)) {
+    to->write(offset, std::span(block).first(got));
+    offset += got;
   }
+  from->close();
+  to->close();
 }
 
 void backUpList(Files& files) {

@@ -45,8 +45,12 @@ bool holdsColumns(Files& files, const std::string& name);
 /// `to`, words included. Both must share one buffer; neither is closed.
 void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from, ColumnFile& to);
 
-/// Starts `scratch` as a copy of the combination list; where there is no list, as no file. What an
-/// interrupted run left in it is gone then.
+/// Starts an empty scratch file; what an interrupted run left in it is gone then. Neither it nor
+/// its name is waited for on disk: both are when it takes its target's place.
+void startScratch(Files& files, const std::string& scratch);
+
+/// Starts a scratch file as a copy of the combination list; where there is no list, as an empty
+/// one.
 void copyListTo(Files& files, const std::string& scratch);
 
 /// Copies the combination list, where there is one, over its backup.

@@ -80,7 +80,7 @@ void putColumns(SharedState& state, TextFile& file, Progress& progress, ListRang
 }  // namespace
 
 void WriteListText(Surroundings& around, TitleBar& title, const Listing& listing, ListRange range) {
-  if (around.files.exists(textFile)) around.files.remove(textFile);
+  if (around.files.exists(textFile)) around.files.discard(textFile);
   TextFile file(around.files);
   std::string head = std::string("< KARVENIS 2005 Randomizer >") + lineEnd;
   head += listing.heading + singleBytes(around.clock.date()) + listing.headingEnd + lineEnd;

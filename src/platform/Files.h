@@ -43,6 +43,9 @@ class Files {
   virtual void copy(const std::string& from, const std::string& to) = 0;
   /// Throws (remove), also when there is no such file.
   virtual void remove(const std::string& name) = 0;
+  /// The same for a file that nobody misses: the disk is not waited for, so that a power failure
+  /// may bring it back.
+  virtual void discard(const std::string& name) { remove(name); }
   /// Gives `from` the name `to` in one step, replacing an old `to`; on return it is on disk. Throws
   /// (rename).
   virtual void rename(const std::string& from, const std::string& to) = 0;

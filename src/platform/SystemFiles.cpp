@@ -256,8 +256,12 @@ void SystemFiles::copy(const std::string& from, const std::string& to) {
   replacement.takePlace(status.st_mode);
 }
 
-/// Does not wait for the disk: behind a power failure the file may be back, whole.
 void SystemFiles::remove(const std::string& name) {
+  discard(name);
+  if (!syncFolder()) fail(Fault::remove, name);
+}
+
+void SystemFiles::discard(const std::string& name) {
   if (::unlink(name.c_str()) != 0) fail(Fault::remove, name);
 }
 

@@ -12,6 +12,7 @@ class SystemFiles final : public Files {
   std::uint64_t length(const std::string& name) override;
   void copy(const std::string& from, const std::string& to) override;
   void remove(const std::string& name) override;
+  void discard(const std::string& name) override;
   void rename(const std::string& from, const std::string& to) override;
   std::string currentFolder() override;
 };

@@ -49,7 +49,7 @@ bool ColumnDeletion::remove(std::int32_t DelNo) {
 
 /// Returns with the scratch file on disk.
 void ColumnDeletion::copyWithout(std::int32_t DelNo) {
-  if (around_.files.exists(scratchFile)) around_.files.remove(scratchFile);
+  startScratch(around_.files, scratchFile);
   ColumnFile RndFileNo(around_.files, randomColumns, around_.state.Record);
   ColumnFile YndFileNo(around_.files, scratchFile, around_.state.Record);
   copyColumnsWithout(DelNo, RndCount, RndFileNo, YndFileNo);
