@@ -52,6 +52,7 @@ int main(int argc, char** argv) {
   QtPrinter printer;
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
+  boxes.owner = [&forms] { return forms.active(); };
   boxes.beforeBox = [&forms] { forms.showCaptions(); };
   chance.seedFrom(clock);
 

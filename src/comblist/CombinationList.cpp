@@ -32,17 +32,14 @@ constexpr char keys[] =
 
 void ShowPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
   if (!around.files.exists(combinationList)) return;
-  std::optional<ColumnFile>& list = around.state.FileNo;
-  list.emplace(around.files, combinationList, around.state.Record);
-  page.RecordCount = list->count();
+  SharedState& state = around.state;
+  page.fit(state.FileNo.emplace(around.files, combinationList, state.Record).count());
   const bool empty = page.RecordCount < 1;
   if (!empty) {
-    page.fit(page.RecordCount);
     title.setCaption(pageTitle("Kombinasyon Listesi", page.PageNo));
-    drawPage(page, around.state, surface);
+    drawPage(page, state, surface);
   }
-  list->close();
-  list.reset();
+  state.closeFile();
   if (empty) around.boxes.warn("Kombinasyon listesi dosyası 'KARVENIS.LST' boş!");
 }
 

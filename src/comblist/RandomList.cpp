@@ -100,8 +100,7 @@ void RandomList::write(const Column& drawn, std::int64_t number) {
 }
 
 void RandomList::finish(std::int32_t written, const char* words) {
-  around_.state.FileNo->close();
-  around_.state.FileNo.reset();
+  around_.state.closeFile();
   around_.files.rename(scratchFile, combinationList);
   around_.boxes.beep();
   around_.boxes.message(withBlank(written) + words);

@@ -55,6 +55,7 @@ bool frmComLst::runCommand(int KeyCode, int Shift) {
       return CopyToRandomColumns(around_);
     case keyF3:
       DeleteColumn(around_, page_);
+      forms().dropInput();
       return true;
     case keyF4:
       // With Alt it is the window system's own key for closing.

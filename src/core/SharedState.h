@@ -25,6 +25,13 @@ struct SharedState {
   ColumnRecord Record;
   /// The file number that every window opens its column file on; empty while none is open.
   std::optional<ColumnFile> FileNo;
+  /// Returns with the file of FileNo, where one is open, on disk and closed. Throws
+  /// RunTimeError(write).
+  void closeFile() {
+    if (!FileNo) return;
+    FileNo->close();
+    FileNo.reset();
+  }
 
   /// The balls in the bag, and the bankos: elements 1..count, never past the array's end.
   std::span<const std::int16_t> balls() const { return chosen(Bag); }

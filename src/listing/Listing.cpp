@@ -56,8 +56,7 @@ void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Ou
   } else {
     printTrapped(around, listing, range);
   }
-  state.FileNo->close();
-  state.FileNo.reset();
+  state.closeFile();
 }
 
 }  // namespace

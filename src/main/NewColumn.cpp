@@ -14,8 +14,7 @@ void takeRecord(Surroundings& around, std::int32_t number) {
     state.FileNo->get(number);
     state.Drawn = state.Record.Balls;
   }
-  state.FileNo->close();
-  state.FileNo.reset();
+  state.closeFile();
 }
 
 }  // namespace

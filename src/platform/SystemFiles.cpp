@@ -176,6 +176,11 @@ Descriptor openAlone(const std::string& name) {
   return created;
 }
 
+/// A file that may not be written is not replaced either, though its folder would allow it.
+void refuseProtected(Fault fault, const std::string& name) {
+  if (::access(name.c_str(), F_OK) == 0 && ::access(name.c_str(), W_OK) != 0) fail(fault, name);
+}
+
 /// A copy grows under a name of its own beside its target and takes the target's place when it is
 /// whole and on disk. Where that does not come to pass, nothing of it stays behind; what a killed
 /// process leaves, the next copy to that target clears away.
@@ -243,7 +248,9 @@ void SystemFiles::copy(const std::string& from, const std::string& to) {
   struct stat status {};
   if (::fstat(source.get(), &status) != 0) fail(Fault::copy, from);
   struct stat target {};
-  if (::stat(to.c_str(), &target) == 0 && !S_ISREG(target.st_mode)) fail(Fault::copy, to, EINVAL);
+  const bool replaces = ::stat(to.c_str(), &target) == 0;
+  if (replaces && !S_ISREG(target.st_mode)) fail(Fault::copy, to, EINVAL);
+  refuseProtected(Fault::copy, to);
 
   Replacement replacement(to);
   std::vector<std::byte> block(std::size_t{1} << 18);
@@ -253,7 +260,7 @@ void SystemFiles::copy(const std::string& from, const std::string& to) {
     writeAll(replacement.descriptor(), offset, std::span(block).first(got), to);
     offset += got;
   }
-  replacement.takePlace(status.st_mode);
+  replacement.takePlace(replaces ? target.st_mode : status.st_mode | S_IWUSR);
 }
 
 void SystemFiles::remove(const std::string& name) {
@@ -267,6 +274,7 @@ void SystemFiles::discard(const std::string& name) {
 
 void SystemFiles::rename(const std::string& from, const std::string& to) {
   const std::string target = behindLinks(to);
+  refuseProtected(Fault::rename, to);
   if (::rename(from.c_str(), target.c_str()) != 0) {
     if (errno != EXDEV) fail(Fault::rename, from);
     copy(from, to);  // the link leads to another disk

@@ -18,8 +18,7 @@ void writeDrawn(SharedState& state, Files& files, std::int32_t number) {
   ColumnFile& file = state.FileNo.emplace(files, randomColumns, state.Record);
   state.Record = {.Word = 0, .Balls = state.Drawn};
   file.put(number);
-  file.close();
-  state.FileNo.reset();
+  state.closeFile();
 }
 
 }  // namespace

@@ -37,8 +37,7 @@ void appendAll(Surroundings& around, ListPage& page) {
     state.FileNo->put(page.PageStart + AppendIndex);
   }
   AppendFileNo.close();
-  state.FileNo->close();
-  state.FileNo.reset();
+  state.closeFile();
 }
 
 }  // namespace
@@ -49,8 +48,7 @@ void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, Tit
   page.fit(state.FileNo->count());
   title.setCaption(pageTitle("Rastgele Kolon Listesi", page.PageNo));
   drawPage(page, state, surface);
-  state.FileNo->close();
-  state.FileNo.reset();
+  state.closeFile();
 }
 
 void AppendToCombinationList(Surroundings& around, ListPage& page) {

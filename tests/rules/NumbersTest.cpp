@@ -54,6 +54,12 @@ TEST(TypedNumber, ThousandsOfDigitsAreMerelyTooLarge) {
   EXPECT_EQ(typedNumber32("-" + std::string(5000, '9')), std::numeric_limits<std::int32_t>::min());
 }
 
+TEST(TypedNumber, ThousandsOfZerosBehindThePointAreNothing) {
+  EXPECT_EQ(typedNumber32("0." + std::string(5000, '0') + "1"), 0);
+  EXPECT_EQ(typedNumber32("-." + std::string(5000, '0') + "1"), 0);
+  EXPECT_EQ(typedNumber32("7." + std::string(5000, '0') + "1"), 7);
+}
+
 TEST(TypedNumber, SixteenBitsStopAtTheirOwnBounds) {
   EXPECT_EQ(typedNumber16("32767"), 32767);
   EXPECT_EQ(typedNumber16("32768"), 32767);

@@ -5,6 +5,7 @@
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -173,6 +174,45 @@ TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsLongAsItWas) {
   std::ignore = std::signal(SIGXFSZ, before);
   EXPECT_EQ(fault, Fault::write);
   EXPECT_EQ(get("F").size(), 100U);
+}
+
+/// Root may write everything, so what a protected file means is seen as somebody else.
+template <typename Action>
+int asNobody(Action action) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const bool dropped = ::geteuid() != 0 || ::seteuid(65534) == 0;
+    ::_exit(dropped && action() ? 0 : 1);
+  }
+  int status = -1;
+  ::waitpid(child, &status, 0);
+  return status;
+}
+
+TEST_F(InAFolder, AProtectedFileOpensForReadingAndIsNeitherWrittenNorReplaced) {
+  put("FROM", "new");
+  put("TO", "old");
+  ASSERT_EQ(::chmod("TO", 0444), 0);
+  ASSERT_EQ(::chmod("FROM", 0666), 0);
+  ASSERT_EQ(::chmod(".", 0777), 0);
+  EXPECT_EQ(asNobody([&] {
+              const auto file = files.open("TO");
+              std::array<std::byte, 3> bytes{};
+              return file->read(0, bytes) == 3 &&
+                     faultOf([&] { file->write(0, bytes); }) == Fault::write &&
+                     faultOf([&] { files.copy("FROM", "TO"); }) == Fault::copy &&
+                     faultOf([&] { files.rename("FROM", "TO"); }) == Fault::rename;
+            }),
+            0);
+  EXPECT_EQ(get("TO"), "old");
+  EXPECT_EQ(get("FROM"), "new");
+}
+
+TEST_F(InAFolder, ACopyCanBeWrittenThoughItsSourceCannot) {
+  put("FROM", "new");
+  ASSERT_EQ(::chmod("FROM", 0444), 0);
+  files.copy("FROM", "TO");
+  EXPECT_NE(fs::status("TO").permissions() & fs::perms::owner_write, fs::perms::none);
 }
 
 TEST_F(InAFolder, RenameReplacesItsTarget) {

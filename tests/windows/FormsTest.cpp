@@ -98,6 +98,28 @@ TEST_F(FormsTest, ClosingAnOrphanActivatesTheMainWindow) {
   EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmA Form_Activate"}));
 }
 
+TEST_F(FormsTest, ClosingActivatesTheOpenerThoughTheUserWorksInItAlready) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  show("frmA");
+  taken();
+  b->unload();
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+  EXPECT_EQ(forms.active(), a);
+}
+
+TEST_F(FormsTest, AKeyHeldSinceAnotherWindowReachesNobody) {
+  Noting* a = show("frmA");
+  QTest::keyPress(a->windowHandle(), Qt::Key_Down);
+  Noting* b = show("frmB");
+  taken();
+  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QString(), true);
+  QCoreApplication::sendEvent(b->windowHandle(), &repeat);
+  EXPECT_TRUE(log.empty());
+  hold(b, Qt::Key_Down, 2);
+  EXPECT_EQ(log.size(), 3U);
+}
+
 TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {
   Noting* a = show("frmA");
   taken();

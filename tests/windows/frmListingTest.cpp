@@ -1,10 +1,12 @@
 #include "listing/frmListing.h"
 
+#include <QLabel>
 #include <QRadioButton>
 
 #include "doubles/Columns.h"
 #include "listing/frmCLPrint.h"
 #include "listing/frmRLPrint.h"
+#include "randomlist/frmRndLst.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {
@@ -57,6 +59,40 @@ TEST_F(Listings, StartWithTheTextFile) {
   EXPECT_EQ(command(), "Yaz");
   EXPECT_EQ(text("Text1")->text(), "1");
   EXPECT_EQ(text("Text2")->text(), "3");
+}
+
+TEST_F(Listings, SayWhatTheyAskFor) {
+  openCL(3);
+  const std::vector<std::pair<const char*, const char*>> captions = {
+      {"Label1", "Başlangıç :"}, {"Label2", "Bitiş :"}, {"Label3", "Çıktı:"}};
+  for (const auto& [name, caption] : captions) {
+    EXPECT_EQ(fromQt(control<QLabel>(dialog, QLatin1String(name))->text()), caption);
+  }
+  const std::vector<std::pair<const char*, const char*>> buttons = {
+      {"Option1", "Text Dosyası"}, {"Option2", "Printer"}, {"Command2", "Kapat"}};
+  for (const auto& [name, caption] : buttons) {
+    EXPECT_EQ(fromQt(control<QAbstractButton>(dialog, QLatin1String(name))->text()), caption);
+  }
+}
+
+// The list behind was made larger while the closing box of the text was open; its redraw took the
+// shared file number, which the listing then closed a second time.
+TEST_F(Listings, OutliveARedrawOfTheListBehindTheirBox) {
+  add<frmRndLst>("frmRndLst");
+  world.files.folder["KARVENIS.RND"] = countedColumns(1);
+  Form* list = open("frmRndLst");
+  openRL(1);
+  world.boxes.whileOpen = [&] { list->resize(list->size() + QSize(10, 10)); };
+  expectWritten(textQuestionR, standardTitle);
+  pressCommand();
+  world.printer.refuses = true;
+  click(control(dialog, "Option2"), {8, 8});
+  world.boxes.expectBeep()
+      .expectQuestion(printQuestionR, true)
+      .expectBeep()
+      .expectMessage("Printer hazır değil !", "! HATA !");
+  pressCommand();
+  world.boxes.whileOpen = nullptr;
 }
 
 TEST_F(Listings, TheOptionsNameTheCommand) {

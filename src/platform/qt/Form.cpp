@@ -47,6 +47,7 @@ void Form::unload() {
 }
 
 void Form::run(const std::function<void()>& procedure) {
+  if (forms_.ending()) return;
   ++running_;
   try {
     procedure();

@@ -79,7 +79,7 @@ void Forms::became(Form& form) {
 
 void Forms::closed(Form& form) {
   if (ending_) return;
-  if (active_ == &form) active_ = nullptr;
+  active_ = nullptr;  // so that the next one is activated, also where it already had the focus
   Form* next = form.opener();
   if (next == nullptr || next->isClosing()) next = find(mainForm_);
   if (next != nullptr && next != &form) present(*next);

@@ -32,6 +32,9 @@ class Forms final : public Windows {
   /// The open window of that name, or null.
   Form* find(std::string_view form) const;
 
+  /// The window the user works in; null before the first and while one takes another's place.
+  Form* active() const { return active_; }
+
   void show(std::string_view form) override;
   void end() override;
   /// Shows the main window and serves the user until the program ends; its exit status, which is 1

@@ -4,16 +4,6 @@
 #include <QKeyEvent>
 
 namespace karvenis {
-namespace {
-
-/// The keys that answer a box.
-bool answers(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space ||
-         key == Qt::Key_Escape;
-}
-
-}  // namespace
-
 HeldKeys::HeldKeys() { qApp->installEventFilter(this); }
 
 /// Keys come by the native windows first.
@@ -26,7 +16,8 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
   } else if (event->type() == QEvent::KeyPress) {
     const auto& press = *static_cast<QKeyEvent*>(event);
     repeats_ = isRepeat(press);
-    return repeats_ && answers(press.key()) && QApplication::activeModalWidget() != nullptr;
+    if (!repeats_) pressedIn_ = watched;
+    return watched != pressedIn_;
   }
   return false;
 }

@@ -35,21 +35,22 @@ void fill(QMessageBox& box, const std::string& text, const std::string& title, I
 
 }  // namespace
 
-void QtBoxes::prepare() const {
+/// Returns the window that the box belongs to.
+QWidget* QtBoxes::prepare() const {
   if (beforeBox) beforeBox();
+  QWidget* window = owner ? owner() : nullptr;
+  return window != nullptr ? window : QApplication::activeWindow();
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  prepare();
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(prepare());
   fill(box, text, title, icon);
   box.setDefaultButton(box.addButton(QStringLiteral("Tamam"), QMessageBox::AcceptRole));
   box.exec();
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
-  prepare();
-  QMessageBox box(QApplication::activeWindow());
+  QMessageBox box(prepare());
   fill(box, text, title, Icon::question);
   QPushButton* yes = box.addButton(QStringLiteral("Evet"), QMessageBox::YesRole);
   QPushButton* no = box.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole);
@@ -61,8 +62,7 @@ bool QtBoxes::ask(const std::string& text, const std::string& title) {
 
 std::string QtBoxes::input(const std::string& prompt, const std::string& title,
                            const std::string& preset) {
-  prepare();
-  QInputDialog box(QApplication::activeWindow());
+  QInputDialog box(prepare());
   box.setWindowTitle(toQt(title));
   box.setLabelText(toQtLines(prompt));
   box.setTextValue(toQt(preset));

@@ -4,6 +4,8 @@
 
 #include "platform/Boxes.h"
 
+class QWidget;
+
 namespace karvenis {
 
 /// Boxes on the screen: application-modal, plain text, Turkish buttons whatever the system's
@@ -12,6 +14,8 @@ class QtBoxes final : public Boxes {
  public:
   /// Runs before a box opens.
   std::function<void()> beforeBox;
+  /// The window that a box belongs to; null: the one that has the focus.
+  std::function<QWidget*()> owner;
 
   void message(const std::string& text, const std::string& title, Icon icon) override;
   bool ask(const std::string& text, const std::string& title) override;
@@ -21,7 +25,7 @@ class QtBoxes final : public Boxes {
   void pointer(Pointer shape) override;
 
  private:
-  void prepare() const;
+  QWidget* prepare() const;
 };
 
 }  // namespace karvenis
