@@ -21,7 +21,7 @@ import sys
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-BUILD = ROOT / "build/debug"
+BUILD = ROOT / os.environ.get("KARVENIS_BUILD", "build/debug")
 SWAPS = [
     (r"(?<![<>=!+\-*/&|])<=(?!>)", "<"), (r"(?<![<>=!+\-*/&|])>=", ">"),
     (r"(?<= )<(?= )", "<="), (r"(?<= )>(?= )", ">="),

@@ -27,6 +27,10 @@ std::string systemWords(int error) {
       return "Dosya bulunamadı.";
     case EBADF:
       return "Dosya salt okunur.";
+    case EAGAIN:
+      return "Dosya başka bir programda kullanılıyor.";
+    case ELOOP:
+      return "Bağlantı kendine dönüyor.";
     default:
       return std::system_category().message(error);
   }

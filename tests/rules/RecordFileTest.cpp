@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
 #include "core/ColumnFile.h"
@@ -97,6 +98,19 @@ TEST(ColumnSum, OverflowsAsAFault) {
   EXPECT_EQ(columnSum(column(32767, -1, 1, 0, 0, 0)), 32767);
   EXPECT_THROW(columnSum(column(32767, 1, -1, 0, 0, 0)), RunTimeError);
   EXPECT_THROW(columnSum(column(-32768, -1, 0, 0, 0, 0)), RunTimeError);
+}
+
+TEST(RecordFile, ARecordNumberBelowOneIsAFaultThatTellsIt) {
+  MemoryFiles files;
+  RecordFile file(files, "F", 2);
+  std::array<std::byte, 2> record{};
+  try {
+    file.read(0, record);
+    ADD_FAILURE() << "no fault";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.fault(), Fault::read);
+    EXPECT_EQ(error.reason(), "kayıt no 0");
+  }
 }
 
 }  // namespace

@@ -1,0 +1,48 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "platform/RunTimeError.h"
+#include "platform/SystemWords.h"
+
+namespace karvenis {
+namespace {
+
+struct Told {
+  Fault fault;
+  const char* text;
+};
+
+class ClosingBox : public testing::TestWithParam<Told> {};
+
+TEST_P(ClosingBox, TellsWhichFileWhatFailedAndWhy) {
+  EXPECT_EQ(describe(RunTimeError(GetParam().fault, "X", "y")), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, ClosingBox,
+                         testing::Values(Told{Fault::open, "'X' dosyası açılamadı.\rNeden: y"},
+                                         Told{Fault::read, "'X' dosyası okunamadı.\rNeden: y"},
+                                         Told{Fault::write, "'X' dosyasına yazılamadı.\rNeden: y"},
+                                         Told{Fault::copy, "'X' dosyası kopyalanamadı.\rNeden: y"},
+                                         Told{Fault::remove, "'X' dosyası silinemedi.\rNeden: y"},
+                                         Told{Fault::rename,
+                                              "'X' dosyasının adı değiştirilemedi.\rNeden: y"},
+                                         Told{Fault::overflow, "'X' sayısı taştı.\rNeden: y"},
+                                         Told{Fault::printer, "Printer hatası: 'X'\rNeden: y"}));
+
+TEST(SystemWords, AreTurkishForTheErrorsThatAUserCanMeet) {
+  const std::pair<int, const char*> rows[] = {
+      {EACCES, "Erişim izni yok."},          {EPERM, "Erişim izni yok."},
+      {EROFS, "Dosya sistemi salt okunur."}, {ENOSPC, "Diskte yer kalmadı."},
+      {EDQUOT, "Diskte yer kalmadı."},       {EFBIG, "Dosya çok büyük."},
+      {EIO, "Giriş/çıkış hatası."},          {EISDIR, "Bu adda bir klasör var."},
+      {EINVAL, "Olağan bir dosya değil."},   {ENOENT, "Dosya bulunamadı."},
+      {EBADF, "Dosya salt okunur."},         {EAGAIN, "Dosya başka bir programda kullanılıyor."},
+      {ELOOP, "Bağlantı kendine dönüyor."},
+  };
+  for (const auto& [error, words] : rows) EXPECT_EQ(systemWords(error), words);
+  EXPECT_FALSE(systemWords(ETXTBSY).empty());
+}
+
+}  // namespace
+}  // namespace karvenis
