@@ -178,7 +178,8 @@ Descriptor openAlone(const std::string& name) {
 
 /// A file that may not be written is not replaced either, though its folder would allow it.
 void refuseProtected(Fault fault, const std::string& name) {
-  if (::access(name.c_str(), F_OK) == 0 && ::access(name.c_str(), W_OK) != 0) fail(fault, name);
+  const bool writable = ::faccessat(AT_FDCWD, name.c_str(), W_OK, AT_EACCESS) == 0;
+  if (!writable && errno != ENOENT) fail(fault, name);
 }
 
 /// A copy grows under a name of its own beside its target and takes the target's place when it is

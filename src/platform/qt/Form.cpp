@@ -141,6 +141,7 @@ bool Form::handleKey(const QKeyEvent& key) {
   keyRepeats_ = forms_.heldKeys().repeats();
   const bool once = isFunctionKey(code) || code == keyEscape;
   if (once && keyRepeats_) return true;
+  if (code == keyEscape && forms_.isLosing(*this)) return true;  // meant for the new window
 
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();

@@ -19,7 +19,7 @@ std::string words(const std::exception& error) {
 /// A new window stands a little to the right of its opener's corner and below its title.
 void placeBeside(Form& window, const Form& opener) {
   constexpr QPoint step(36, 56);
-  moveFrame(window, opener.pos() + step);
+  moveOntoScreen(window, opener.pos() + step);
 }
 
 }  // namespace
@@ -68,6 +68,7 @@ void Forms::present(Form& form) {
   form.show();
   form.raise();
   form.activateWindow();
+  sincePresented_.start();
   became(form);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <exception>
 #include <functional>
@@ -46,6 +47,10 @@ class Forms final : public Windows {
   /// `form` is the window the user works in now; runs its Form_Activate where it was another
   /// before.
   void became(Form& form);
+  /// Whether another window is about to take the place of `form`: a fast key may still reach it.
+  bool isLosing(const Form& form) const {
+    return active_ != &form && sincePresented_.isValid() && sincePresented_.elapsed() < 500;
+  }
   /// `form` has closed: the window that opened it, else the main window, takes its place.
   void closed(Form& form);
   /// Ends the program with one box that says what failed, status 1.
@@ -68,6 +73,7 @@ class Forms final : public Windows {
   std::string mainForm_;
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
+  QElapsedTimer sincePresented_;
   HeldKeys heldKeys_;
   bool ending_ = false;
   int status_ = 0;

@@ -25,12 +25,17 @@ QMessageBox::Icon shown(Icon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// A box can be closed and moved, and nothing else.
+constexpr Qt::WindowFlags boxFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+
 void fill(QMessageBox& box, const std::string& text, const std::string& title, Icon icon) {
   box.setWindowTitle(toQt(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(toQtLines(text));
   box.setIcon(shown(icon));
   box.setWindowModality(Qt::ApplicationModal);
+  box.setWindowFlags(boxFlags);
 }
 
 }  // namespace
@@ -69,11 +74,13 @@ std::string QtBoxes::input(const std::string& prompt, const std::string& title,
   box.setOkButtonText(QStringLiteral("Tamam"));
   box.setCancelButtonText(QStringLiteral("İptal"));
   box.setWindowModality(Qt::ApplicationModal);
-  box.setMinimumWidth(420);
   if (auto* label = box.findChild<QLabel*>()) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    label->setMinimumWidth(420);
   }
+  for (QPushButton* button : box.findChildren<QPushButton*>()) button->setIcon(QIcon());
+  box.setWindowFlags(boxFlags);
   return box.exec() == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
 }
 

@@ -9,6 +9,9 @@
 namespace karvenis {
 namespace {
 
+/// About as high as window managers make a title, in pixels.
+constexpr int titleHeight = 24;
+
 bool isOnScreen(const QRect& area) {
   const auto screens = QGuiApplication::screens();
   return std::ranges::any_of(
@@ -36,8 +39,12 @@ QPoint nearestPlace(const QRect& frame) {
 
 }  // namespace
 
+void moveOntoScreen(QWidget& window, QPoint place) {
+  window.adjustSize();
+  window.move(nearestPlace({place, window.size() + QSize(0, titleHeight)}));
+}
+
 void moveFrame(QWidget& window, QPointF place) {
-  constexpr int titleHeight = 24;
   constexpr double farthest = 1'000'000;  // beyond any screen, and safe to compute with
   const QPoint wanted = QPointF(std::clamp(place.x(), -farthest, farthest),
                                 std::clamp(place.y(), -farthest, farthest))

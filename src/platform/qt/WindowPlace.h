@@ -10,4 +10,7 @@ namespace karvenis {
 /// no screen, the window goes to the nearest one.
 void moveFrame(QWidget& window, QPointF place);
 
+/// Moves `window` as near to `place` as it lies wholly on a screen there.
+void moveOntoScreen(QWidget& window, QPoint place);
+
 }  // namespace karvenis
