@@ -90,7 +90,7 @@ TEST_F(FormsTest, ClosingAnOrphanActivatesTheMainWindow) {
   show("frmA");
   Noting* b = show("frmB");
   Noting* c = show("frmC");
-  press(b, Qt::Key_Escape);
+  b->unload();
   settle();
   show("frmC");
   taken();
@@ -106,6 +106,17 @@ TEST_F(FormsTest, ClosingActivatesTheOpenerThoughTheUserWorksInItAlready) {
   b->unload();
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
   EXPECT_EQ(forms.active(), a);
+}
+
+TEST_F(FormsTest, AFastEscMeantForTheNewWindowDoesNotCloseTheOldOne) {
+  Noting* a = show("frmA");
+  show("frmB");
+  taken();
+  press(a, Qt::Key_Escape);
+  EXPECT_TRUE(log.empty());
+  EXPECT_TRUE(waitFor([&] { return !forms.isLosing(*a); }));
+  press(a, Qt::Key_Escape);
+  EXPECT_EQ(std::ranges::count(log, "frmA KeyDown 27/0"), 1);
 }
 
 TEST_F(FormsTest, AKeyHeldSinceAnotherWindowReachesNobody) {
