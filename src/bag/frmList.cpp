@@ -19,7 +19,7 @@ constexpr int margin = 12;
 
 frmList::frmList(Surroundings& around, Forms& forms)
     : Form(forms, "frmList"), page_(makePage(this)), coupon_(around, *page_, *this) {
-  setCaption("KARVENIS 2005 - Sekiz Rastgele Kolon");
+  setCaption("Sekiz Rastgele Kolon");
   setPalette(page_->palette());
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, 0, margin, margin);

@@ -9,7 +9,7 @@ from desktop_case import STANDARD_TITLE, DesktopCase
 
 BAG = "6/49 Top Seçme Tablosu"
 BANKO = "Banko"
-COUPON = "KARVENIS 2005 - Sekiz Rastgele Kolon"
+COUPON = "Sekiz Rastgele Kolon"
 SAVED = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı..."
 
 

@@ -15,7 +15,7 @@ class ReadingAids(DesktopCase):
         lst = " Kombinasyon Listesi - Sayfa 1  [ F10= Yardım ]"
         yield self.main
         for key, title in (("F5", "6/49 Top Seçme Tablosu"), ("F7", "Banko"),
-                           ("F9", "KARVENIS 2005 - Sekiz Rastgele Kolon"),
+                           ("F9", "Sekiz Rastgele Kolon"),
                            ("F2", rnd), ("F11", "6/49 Rastgele Kolon Üreteci"), ("F12", lst)):
             yield self.open(key, title)
             self.program.keys("Escape")

@@ -168,7 +168,7 @@ class Tour:
 
     def type_coupon(self, main):
         title = main.name
-        coupon = "KARVENIS 2005 - Sekiz Rastgele Kolon"
+        coupon = "Sekiz Rastgele Kolon"
         window = self.key("F9", coupon)
         self.program.until(lambda: not window.find("label", "F10 = Yardım").has("showing"),
                            "the coupon of eight columns")
