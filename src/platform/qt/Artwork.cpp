@@ -1,5 +1,6 @@
 #include "platform/qt/Artwork.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -16,6 +17,13 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
   QPixmap& drawing = drawn_[key];
   if (!drawing.isNull() || pixels.isEmpty()) return drawing;
 
+  // What the first painted window shows is in the program ready-made for screens of one pixel each.
+  if (element.isEmpty() && drawing.load(QStringLiteral(":/ready/%1-%2x%3.png")
+                                            .arg(QFileInfo(file).baseName())
+                                            .arg(pixels.width())
+                                            .arg(pixels.height()))) {
+    return drawing;
+  }
   drawing = QPixmap(pixels);
   drawing.fill(Qt::transparent);
   QPainter painter(&drawing);
