@@ -11,7 +11,7 @@
 
 #include "QuietWorld.h"
 #include "comblist/Filters.h"
-#include "comblist/RandomColumn.h"
+#include "comblist/GeneratorDraw.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ using namespace karvenis;
 void makeList(QuietWorld& world, std::int32_t count) {
   std::filesystem::remove(combinationList);
   ColumnFile list(world.files, combinationList, world.state.Record);
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   for (std::int32_t n = 1; n <= count; ++n) {
     world.state.Record = {.Word = n, .Balls = random.draw(world.chance)};
     list.put(n);

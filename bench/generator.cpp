@@ -14,7 +14,7 @@
 #include <random>
 
 #include "QuietWorld.h"
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 
 namespace {
 
@@ -23,8 +23,8 @@ using namespace karvenis;
 constexpr int columns = 32767;
 
 void generate(QuietWorld& world) {
-  RandomList list(world.around, world.title);
-  list.start(RandomList::Mode::newList, std::to_string(columns));
+  Generator list(world.around, world.title);
+  list.start(Generator::Mode::newList, std::to_string(columns));
 }
 
 /// Waits until what the descriptor stands for is on disk.

@@ -16,7 +16,7 @@ void takeMarked(SharedState& state, const BallButtons& buttons) {
 
 void markBag(const SharedState& state, BallButtons& buttons) {
   for (const std::int16_t ball : state.balls()) {
-    if (ball >= 1 && ball <= ballsInAll) buttons.setMarked(ball, true);
+    if (isBall(ball)) buttons.setMarked(ball, true);
   }
 }
 

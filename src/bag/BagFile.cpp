@@ -23,7 +23,7 @@ void BagFile::readBag(SharedState& state, std::int16_t count) {
   state.Bag[0] = count;
   for (std::int16_t i = 1; i <= count; ++i) {
     const std::int16_t ball = get(bagCountRecord + i);
-    if (ball < 1 || ball > ballsInAll) {
+    if (!isBall(ball)) {
       state.Bag[0] = static_cast<std::int16_t>(i - 1);
       return;
     }

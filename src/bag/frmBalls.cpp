@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "bag/Texts.h"
-#include "bag/frmBallsCell.h"
 #include "core/Numbers.h"
+#include "platform/qt/BallCell.h"
 #include "platform/qt/Text.h"
 
 namespace karvenis {

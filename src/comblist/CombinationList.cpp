@@ -49,7 +49,7 @@ bool findList(Surroundings& around) {
   return false;
 }
 
-void ListCombinations(Surroundings& around) {
+void OpenListing(Surroundings& around) {
   around.boxes.beep();
   if (holdsColumns(around.files, combinationList)) around.windows.show("frmCLPrint");
 }

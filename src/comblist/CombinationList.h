@@ -17,7 +17,7 @@ void ShowPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleB
 bool findList(Surroundings& around);
 
 /// Opens the dialog that writes or prints the list, where there is a whole record.
-void ListCombinations(Surroundings& around);
+void OpenListing(Surroundings& around);
 
 /// Copies the list over the random column file; where that exists, after a question. False where
 /// the user said No.

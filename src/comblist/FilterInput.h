@@ -28,9 +28,6 @@ struct FilterMarks {
   /// Marks `ball`; false, and nothing marked, where it is no ball.
   bool mark(std::int16_t ball);
   bool markPair(std::int16_t a, std::int16_t b);
-
- private:
-  static bool isBall(std::int16_t ball) { return ball >= 1 && ball <= ballsInAll; }
 };
 
 /// The readers of what was typed. Each marks what it finds and returns the marked numbers as the

@@ -164,8 +164,8 @@ class Rewrite {
   }
 
   void copyKept() {
-    if (files_.exists(filterScratch)) files_.remove(filterScratch);
-    ColumnFile TmpFileNo(files_, filterScratch, state_.Record);
+    if (files_.exists(tmpScratch)) files_.remove(tmpScratch);
+    ColumnFile TmpFileNo(files_, tmpScratch, state_.Record);
     std::int32_t WrittenCount = 0;
     for (std::int64_t number = 1; number <= ListCount; ++number) {
       list()->get(number);
@@ -182,11 +182,11 @@ class Rewrite {
   /// Both ways leave the list with its old or its new bytes at every moment.
   void replaceList() {
     if (kind_.lastStep == LastStep::rename) {
-      files_.rename(filterScratch, combinationList);
+      files_.rename(tmpScratch, combinationList);
       return;
     }
-    files_.copy(filterScratch, combinationList);
-    files_.remove(filterScratch);
+    files_.copy(tmpScratch, combinationList);
+    files_.remove(tmpScratch);
   }
 
   void closeList() {

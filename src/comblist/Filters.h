@@ -10,9 +10,6 @@ namespace karvenis {
 /// The list window's title where no page is shown.
 inline constexpr char listTitle[] = " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]";
 
-/// The scratch file of the filters; it exists only while the kept records are copied.
-inline constexpr char filterScratch[] = "KARVENIS.TMP";
-
 /// The four filters of the combination list, F5 to F8.
 enum class Filter : std::uint8_t {
   FilterUnwantedNumbers,  ///< deletes the columns that hold any of some numbers

@@ -11,12 +11,12 @@ void deleteListColumn(SharedState& state, Files& files, std::int32_t number, std
     return;
   }
   ColumnFile& list = state.FileNo.emplace(files, combinationList, state.Record);
-  ColumnFile YlsFileNo(files, listScratch, state.Record);
+  ColumnFile YlsFileNo(files, ylsScratch, state.Record);
   copyColumnsWithout(number, count, list, YlsFileNo);
   list.close();
   state.FileNo.reset();
   YlsFileNo.close();
-  files.rename(listScratch, combinationList);  // one step: nothing of the scratch file stays behind
+  files.rename(ylsScratch, combinationList);  // one step: nothing of the scratch file stays behind
 }
 
 }  // namespace karvenis

@@ -7,10 +7,6 @@
 
 namespace karvenis {
 
-/// The scratch file of deleteListColumn. One that an interrupted run left behind is written over
-/// and not cut off first.
-inline constexpr char listScratch[] = "KARVENIS.YLS";
-
 /// Takes record `number` (1..count) out of the combination list of `count` records. The list as it
 /// was goes to its backup; the other records keep their words and their order. A list whose only
 /// record goes is deleted. Throws RunTimeError; the list then holds its old bytes still.

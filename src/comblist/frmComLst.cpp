@@ -49,7 +49,7 @@ void frmComLst::Form_KeyDown(int KeyCode, int Shift) {
 bool frmComLst::runCommand(int KeyCode, int Shift) {
   switch (KeyCode) {
     case keyF1:
-      ListCombinations(around_);
+      OpenListing(around_);
       return true;
     case keyF2:
       return CopyToRandomColumns(around_);

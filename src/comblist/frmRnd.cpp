@@ -109,14 +109,14 @@ void frmRnd::Option1_Click() { Text1->setText(toQt(list_.countForNewList(fromQt(
 void frmRnd::Option2_Click() { Text1->setText(toQt(list_.countForAppend())); }
 
 void frmRnd::Command1_Click() {
-  const auto mode = Option1->isChecked() ? RandomList::Mode::newList : RandomList::Mode::append;
+  const auto mode = Option1->isChecked() ? Generator::Mode::newList : Generator::Mode::append;
   switch (list_.start(mode, fromQt(Text1->text()))) {
-    case RandomList::Outcome::refused:
+    case Generator::Outcome::refused:
       Text1->setFocus(Qt::TabFocusReason);
       return;
-    case RandomList::Outcome::kept:
+    case Generator::Outcome::kept:
       return;
-    case RandomList::Outcome::done:
+    case Generator::Outcome::done:
       forms().dropInput();
       return unload();
   }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 #include "core/Surroundings.h"
 #include "platform/qt/Form.h"
 
@@ -42,7 +42,7 @@ class frmRnd final : public Form {
   QFrame* Line1 = nullptr;          // between the choices and the note
   QLabel* Label2 = nullptr;         // the file that the columns go to
   Boxes& boxes_;
-  RandomList list_;
+  Generator list_;
 };
 
 }  // namespace karvenis

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 
 #include "core/ColumnRecord.h"
@@ -12,6 +11,13 @@ namespace karvenis {
 inline constexpr char randomColumns[] = "KARVENIS.RND";    ///< the columns the user kept
 inline constexpr char combinationList[] = "KARVENIS.LST";  ///< the combination list
 inline constexpr char listBackup[] = "KARVENIS.OLD";  ///< the combination list before its change
+
+/// Their scratch files; each exists only while a command works on a list and takes its place then.
+inline constexpr char tmpScratch[] = "KARVENIS.TMP";  ///< of the generator and the filters
+inline constexpr char yndScratch[] = "KARVENIS.YND";  ///< of the kept columns' append and deletion
+/// Of the combination list's deletion. One that an interrupted run left behind is written over and
+/// not cut off first.
+inline constexpr char ylsScratch[] = "KARVENIS.YLS";
 
 /// An open column file. Records pass through the column record buffer it was made with.
 class ColumnFile {

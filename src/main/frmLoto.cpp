@@ -11,6 +11,7 @@
 #include "main/NewColumn.h"
 #include "main/Settings.h"
 #include "main/Texts.h"
+#include "platform/Twips.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Picture.h"
 #include "platform/qt/Text.h"
@@ -20,11 +21,6 @@
 // The window's event procedures. How it is built stands in frmLotoBuild.cpp.
 
 namespace karvenis {
-namespace {
-
-constexpr double twipsPerPixel = 15;
-
-}  // namespace
 
 void frmLoto::Form_Load() {
   const auto place = readPlace(around_.files);

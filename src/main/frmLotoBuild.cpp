@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "main/frmLoto.h"
+#include "platform/Twips.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Picture.h"
@@ -30,7 +31,6 @@ constexpr int restTop = 84;
 constexpr int plateTop = 210;
 constexpr int tickOfBalls = 20;   // milliseconds
 constexpr int tickOfClock = 100;  // milliseconds
-constexpr double twipsPerPixel = 15;
 
 /// The one button that everything is about.
 constexpr char drawButtonSheet[] = R"(

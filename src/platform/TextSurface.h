@@ -5,7 +5,7 @@
 namespace karvenis {
 
 /// The colours of the standard 16-colour palette that the program prints with.
-enum class QBColor : unsigned char { blue = 1, red = 4, lightBlue = 9, lightRed = 12, white = 15 };
+enum class QBColor : unsigned char { blue = 1, red = 4, lightBlue = 9, lightRed = 12 };
 
 /// A window's own surface that text is printed on. Positions are twips (1/1440 inch) from its upper
 /// left corner.

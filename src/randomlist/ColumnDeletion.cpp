@@ -8,8 +8,6 @@
 namespace karvenis {
 namespace {
 
-constexpr char scratchFile[] = "KARVENIS.YND";
-
 std::uint64_t lengthOrNone(Files& files) {
   return files.exists(randomColumns) ? files.length(randomColumns) : 0;
 }
@@ -18,7 +16,7 @@ std::uint64_t lengthOrNone(Files& files) {
 
 bool ColumnDeletion::load() {
   ignoringFaults([&] {
-    if (around_.files.exists(scratchFile)) around_.files.remove(scratchFile);
+    if (around_.files.exists(yndScratch)) around_.files.remove(yndScratch);
   });
   ignoringFaults([&] { count(); });
   if (RndCount > 0) around_.boxes.beep();
@@ -42,16 +40,16 @@ bool ColumnDeletion::remove(std::int32_t DelNo) {
     around_.files.remove(randomColumns);
   } else {
     copyWithout(DelNo);
-    around_.files.rename(scratchFile, randomColumns);
+    around_.files.rename(yndScratch, randomColumns);
   }
   return true;
 }
 
 /// Returns with the scratch file on disk.
 void ColumnDeletion::copyWithout(std::int32_t DelNo) {
-  startScratch(around_.files, scratchFile);
+  startScratch(around_.files, yndScratch);
   ColumnFile RndFileNo(around_.files, randomColumns, around_.state.Record);
-  ColumnFile YndFileNo(around_.files, scratchFile, around_.state.Record);
+  ColumnFile YndFileNo(around_.files, yndScratch, around_.state.Record);
   copyColumnsWithout(DelNo, RndCount, RndFileNo, YndFileNo);
   RndFileNo.close();
   YndFileNo.close();

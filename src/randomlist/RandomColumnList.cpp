@@ -6,9 +6,6 @@
 namespace karvenis {
 namespace {
 
-/// The list grows in a scratch file, so that it holds its old or its new bytes whatever happens.
-constexpr char scratchFile[] = "KARVENIS.YND";
-
 constexpr char keys[] =
     "F1= Rastgele Kolon Listesi'ni Kombinasyon Listesi'ne (KARVENIS.LST'ye) ekle\r"
     "F2= Rastgele Kolon Listesi'ni Kombinasyon Listesi (KARVENIS.LST) olarak kayıtla\r"
@@ -58,12 +55,13 @@ void AppendToCombinationList(Surroundings& around, ListPage& page) {
                         "istiyormusunuz ?")) {
     return;
   }
-  copyListTo(around.files, scratchFile);
+  // The list grows in a scratch file, so that it holds its old or its new bytes whatever happens.
+  copyListTo(around.files, yndScratch);
   SharedState& state = around.state;
-  state.FileNo.emplace(around.files, scratchFile, state.Record);
+  state.FileNo.emplace(around.files, yndScratch, state.Record);
   page.PageStart = state.FileNo->count();
   appendAll(around, page);
-  around.files.rename(scratchFile, combinationList);
+  around.files.rename(yndScratch, combinationList);
   around.boxes.beep();
   around.boxes.message("Rastgele Kolon Listesi Kombinasyon Listesi'ne eklendi.");
 }

@@ -8,7 +8,7 @@
 #include "bag/BankoActions.h"
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 #include "doubles/Columns.h"
 #include "doubles/RecordingSurface.h"
 #include "doubles/YieldingBoxes.h"
@@ -119,9 +119,9 @@ void saveBankoWindow(Surroundings& around, TitleBar&) {
   saveBanko(around, inputs);
 }
 
-template <RandomList::Mode mode, int count>
+template <Generator::Mode mode, int count>
 void generate(Surroundings& around, TitleBar& title) {
-  RandomList(around, title).start(mode, std::to_string(count));
+  Generator(around, title).start(mode, std::to_string(count));
 }
 
 void writeCombinations(Surroundings& around, TitleBar& title) {
@@ -145,8 +145,8 @@ constexpr char everyColumn[] = "1";
 constexpr char aPair[] = "1-7";
 constexpr char somePairs[] = "1-7,2-8";
 
-constexpr auto newList = RandomList::Mode::newList;
-constexpr auto append = RandomList::Mode::append;
+constexpr auto newList = Generator::Mode::newList;
+constexpr auto append = Generator::Mode::append;
 
 std::vector<Action> savingActions() {
   using enum Action::OnFault;

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* names[] = {"KARVENIS.RND", "KARVENIS.LST", "KARVENIS.OLD",
                                  "KARVENIS.DAT", "KV2005.CFG",   "KARVENIS.TXT",
-                                 "KARVENIS.YND", "KARVENIS.YLS", "KARVENIS.TMP"};
+                                 yndScratch,     ylsScratch,     tmpScratch};
 
 /// A user who owns nothing here, where the tests run as one who may do everything.
 class AsNobody {

@@ -5,7 +5,7 @@
 
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 #include "core/Draw.h"
 #include "doubles/Doubles.h"
 #include "doubles/PlainWorld.h"
@@ -158,25 +158,25 @@ class Walk {
   }
   void generate() {
     move("generate");
-    makeColumns(RandomList::Mode::newList);
+    makeColumns(Generator::Mode::newList);
   }
   void addRandom() {
     move("generate more");
-    makeColumns(RandomList::Mode::append);
+    makeColumns(Generator::Mode::append);
   }
   /// The balls are chance's: the model takes them over where they can be ones, and knows the rest.
-  void makeColumns(RandomList::Mode mode) {
+  void makeColumns(Generator::Mode mode) {
     const std::size_t wanted = below(40);
     const std::size_t start =
-        mode == RandomList::Mode::append && model_.list ? model_.list->size() : 0;
+        mode == Generator::Mode::append && model_.list ? model_.list->size() : 0;
     says(below(4) != 0);
-    RandomList random(world_.around, world_.title);
+    Generator random(world_.around, world_.title);
     const auto outcome = random.start(mode, std::to_string(wanted));
-    const bool asked = mode == RandomList::Mode::newList && any(model_.list);
+    const bool asked = mode == Generator::Mode::newList && any(model_.list);
     const bool done = wanted > 0 && (!asked || world_.boxes.says) && start + wanted <= recordLimit;
-    EXPECT_EQ(outcome == RandomList::Outcome::done, done);
+    EXPECT_EQ(outcome == Generator::Outcome::done, done);
     if (!done) return;
-    if (mode == RandomList::Mode::newList) model_.backUp();
+    if (mode == Generator::Mode::newList) model_.backUp();
     if (!model_.list) model_.list.emplace();
     const auto now = columnsIn(world_.files, combinationList);
     model_.list->resize(std::max(model_.list->size(), start + wanted));

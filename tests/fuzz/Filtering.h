@@ -28,7 +28,7 @@ inline void filterWith(Filter filter, const std::string& typed) {
   world.boxes.typed = typed;
   const bool done = filterList(filter, world.around, world.title);
   require(done == !world.boxes.question.empty());
-  require(!world.files.exists(filterScratch));
+  require(!world.files.exists(tmpScratch));
   require(done == world.files.exists(listBackup));
   if (done) {
     require(world.files.bytes(listBackup) == list);

@@ -39,7 +39,7 @@ TEST_P(DeleteListColumn, LeavesTheOthersWithTheirWordsAndTheOldListInTheBackup) 
   deleteListColumn(world.state, world.files, number, count);
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(without(listOf(count), number)));
   EXPECT_EQ(world.files.bytes(listBackup), before);
-  EXPECT_FALSE(world.files.exists(listScratch));
+  EXPECT_FALSE(world.files.exists(ylsScratch));
   EXPECT_FALSE(world.state.FileNo.has_value());
 }
 
@@ -54,23 +54,23 @@ INSTANTIATE_TEST_SUITE_P(Places, DeleteListColumn,
 TEST(DeleteListColumn, DeletesAListOfOneWithItsBackupTakenAndNoScratchFile) {
   World world;
   world.files.folder[combinationList] = columnBytes(listOf(1));
-  world.files.folder[listScratch] = hex("AA");
+  world.files.folder[ylsScratch] = hex("AA");
   deleteListColumn(world.state, world.files, 1, 1);
   EXPECT_FALSE(world.files.exists(combinationList));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(listOf(1)));
-  EXPECT_EQ(world.files.bytes(listScratch), hex("AA")) << "the scratch file is not touched";
+  EXPECT_EQ(world.files.bytes(ylsScratch), hex("AA")) << "the scratch file is not touched";
 }
 
 TEST(DeleteListColumn, KeepsTheTailOfALeftOverScratchFile) {
   World world;
   world.files.folder[combinationList] = columnBytes(listOf(3));
-  world.files.folder[listScratch] = columnBytes(listOf(4));
+  world.files.folder[ylsScratch] = columnBytes(listOf(4));
   deleteListColumn(world.state, world.files, 2, 3);
   auto expected = without(listOf(3), 2);
   expected.push_back(listOf(4)[2]);
   expected.push_back(listOf(4)[3]);
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(expected));
-  EXPECT_FALSE(world.files.exists(listScratch));
+  EXPECT_FALSE(world.files.exists(ylsScratch));
 }
 
 TEST(DeleteListColumn, FillsARaggedLastRecordWithZeros) {

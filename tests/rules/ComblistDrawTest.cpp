@@ -5,7 +5,7 @@
 #include <random>
 #include <set>
 
-#include "comblist/RandomColumn.h"
+#include "comblist/GeneratorDraw.h"
 #include "doubles/Doubles.h"
 #include "doubles/Sets.h"
 
@@ -145,7 +145,7 @@ class RandomSets {
   std::mt19937 generator_{649};
 };
 
-TEST(RandomColumn, GivesNumberByNumberWhatTheWrittenRuleGives) {
+TEST(GeneratorDraw, GivesNumberByNumberWhatTheWrittenRuleGives) {
   SharedState state;
   RandomSets sets;
   EdgyChance chance(7);
@@ -153,7 +153,7 @@ TEST(RandomColumn, GivesNumberByNumberWhatTheWrittenRuleGives) {
   int compared = 0;
   while (compared < 1'000'000) {
     sets.choose(state);
-    RandomColumn random(state);
+    GeneratorDraw random(state);
     WrittenRule rule;
     for (int more = sets.upTo(60); more >= 0; --more, ++compared) {
       const Column drawn = random.draw(chance);
@@ -165,22 +165,22 @@ TEST(RandomColumn, GivesNumberByNumberWhatTheWrittenRuleGives) {
   RecordProperty("columns", compared);
 }
 
-Column drawn(World& world) { return RandomColumn(world.state).draw(world.chance); }
+Column drawn(World& world) { return GeneratorDraw(world.state).draw(world.chance); }
 
 /// The scripted number that picks entry `j` of a pool of `count`.
 float picks(int j, int count) { return (static_cast<float>(j) - 0.5F) / static_cast<float>(count); }
 
-TEST(RandomColumn, LeavesTheBagAsItIs) {
+TEST(GeneratorDraw, LeavesTheBagAsItIs) {
   World world;
   drawn(world);
   EXPECT_EQ(world.state.Bag[0], 0);
 }
 
-TEST(RandomColumn, HoldsEveryBankoAmongBallsOfTheBagAscending) {
+TEST(GeneratorDraw, HoldsEveryBankoAmongBallsOfTheBagAscending) {
   World world;
   setBag(world.state, {1, 2, 3, 4, 30, 31, 32, 33, 34, 35, 36, 49});
   setBanko(world.state, {40, 5});
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
     ASSERT_TRUE(std::is_sorted(column.begin() + 1, column.end()));
@@ -190,40 +190,40 @@ TEST(RandomColumn, HoldsEveryBankoAmongBallsOfTheBagAscending) {
   }
 }
 
-TEST(RandomColumn, ABankoInTheBagIsHarmless) {
+TEST(GeneratorDraw, ABankoInTheBagIsHarmless) {
   World world;
   setBag(world.state, {7, 1, 2, 3, 4, 5, 6, 8, 9, 10, 11, 12, 13});
   setBanko(world.state, {7});
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
     ASSERT_EQ(std::count(column.begin() + 1, column.end(), 7), 1);
   }
 }
 
-TEST(RandomColumn, DrawingTheLastBallTakesTheNextLowerOneOutOfTheColumn) {
+TEST(GeneratorDraw, DrawingTheLastBallTakesTheNextLowerOneOutOfTheColumn) {
   World world;
   world.chance.script = {largest, largest, largest, largest, largest, largest};
   EXPECT_EQ(drawn(world), column(39, 41, 43, 45, 47, 49));
 }
 
-TEST(RandomColumn, DrawingAnyOtherBallTakesOnlyThatOne) {
+TEST(GeneratorDraw, DrawingAnyOtherBallTakesOnlyThatOne) {
   World world;
   world.chance.script = {picks(48, 49), picks(47, 48), picks(46, 47),
                          picks(45, 46), picks(44, 45), picks(43, 44)};
   EXPECT_EQ(drawn(world), column(43, 44, 45, 46, 47, 48));
 }
 
-TEST(RandomColumn, ThePoolIsWholeAgainForTheNextColumn) {
+TEST(GeneratorDraw, ThePoolIsWholeAgainForTheNextColumn) {
   World world;
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   for (int i = 0; i < 3; ++i) {
     world.chance.script = {largest, largest, largest, largest, largest, largest};
     EXPECT_EQ(random.draw(world.chance), column(39, 41, 43, 45, 47, 49));
   }
 }
 
-TEST(RandomColumn, TheIndexStaysInsidePoolsWhoseSizeIsAPowerOfTwo) {
+TEST(GeneratorDraw, TheIndexStaysInsidePoolsWhoseSizeIsAPowerOfTwo) {
   for (const std::size_t size : {1U, 2U, 4U, 8U, 16U, 32U}) {
     World world;
     Set balls = allBalls();
@@ -235,7 +235,7 @@ TEST(RandomColumn, TheIndexStaysInsidePoolsWhoseSizeIsAPowerOfTwo) {
   }
 }
 
-TEST(RandomColumn, APoolOfOneEndsEmptyAndThenGivesZeros) {
+TEST(GeneratorDraw, APoolOfOneEndsEmptyAndThenGivesZeros) {
   World world;
   setBag(world.state, {6});
   setBanko(world.state, {1, 2, 3});
@@ -243,7 +243,7 @@ TEST(RandomColumn, APoolOfOneEndsEmptyAndThenGivesZeros) {
   EXPECT_EQ(drawn(world), column(1, 2, 3, 6, 0, 0));
 }
 
-TEST(RandomColumn, AnExhaustedPoolStillGivesItsStaleFirstEntryOnce) {
+TEST(GeneratorDraw, AnExhaustedPoolStillGivesItsStaleFirstEntryOnce) {
   World world;
   setBag(world.state, {10, 20});
   setBanko(world.state, {1, 2, 3});
@@ -251,14 +251,14 @@ TEST(RandomColumn, AnExhaustedPoolStillGivesItsStaleFirstEntryOnce) {
   EXPECT_EQ(drawn(world), column(1, 2, 3, 10, 20, 0));
 }
 
-TEST(RandomColumn, RepeatedNumbersLeaveTheLastPositionsAsTheyWereDrawn) {
+TEST(GeneratorDraw, RepeatedNumbersLeaveTheLastPositionsAsTheyWereDrawn) {
   World world;
   setBag(world.state, {30});
   setBanko(world.state, {9, 9, 9, 9, 9});
   EXPECT_EQ(drawn(world), column(9, 30, 9, 9, 9, 30));
 }
 
-TEST(RandomColumn, BankosThatAreNoBallsTouchNoTable) {
+TEST(GeneratorDraw, BankosThatAreNoBallsTouchNoTable) {
   World world;
   setBag(world.state, {10, 11, 12, 13});
   setBanko(world.state, {32767, -32768, 50, 0});
@@ -266,10 +266,10 @@ TEST(RandomColumn, BankosThatAreNoBallsTouchNoTable) {
   EXPECT_EQ(drawn(world), column(10, 11, 50, 0, 10, 11));
 }
 
-TEST(RandomColumn, BagNumbersThatAreNoBallsAreNeverDrawn) {
+TEST(GeneratorDraw, BagNumbersThatAreNoBallsAreNeverDrawn) {
   World world;
   setBag(world.state, {-5, 0, 50, 32767, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
     ASSERT_GE(*std::min_element(column.begin() + 1, column.end()), 1);
@@ -277,7 +277,7 @@ TEST(RandomColumn, BagNumbersThatAreNoBallsAreNeverDrawn) {
   }
 }
 
-TEST(RandomColumn, CountsBeyondTheTablesAreTakenAsFull) {
+TEST(GeneratorDraw, CountsBeyondTheTablesAreTakenAsFull) {
   World world;
   setBag(world.state, allBalls());
   world.state.Bag[0] = 32767;
@@ -292,7 +292,7 @@ double spoiltShare(std::size_t balls) {
   Set bag = allBalls();
   bag.resize(balls);
   setBag(world.state, bag);
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   constexpr int columns = 50'000;
   int spoilt = 0;
   for (int i = 0; i < columns; ++i) {
@@ -303,7 +303,7 @@ double spoiltShare(std::size_t balls) {
   return static_cast<double>(spoilt) / columns;
 }
 
-TEST(RandomColumn, SixBallsAreOftenTooFewAndElevenAlwaysEnough) {
+TEST(GeneratorDraw, SixBallsAreOftenTooFewAndElevenAlwaysEnough) {
   EXPECT_NEAR(spoiltShare(6), 2.0 / 3, 0.05);
   EXPECT_GT(spoiltShare(9), 0);
   EXPECT_EQ(spoiltShare(11), 0);
@@ -323,10 +323,10 @@ double chanceOf(int size, int place, int draws) {
   return sum;
 }
 
-TEST(RandomColumn, BallsComeAsOftenOverAMillionColumnsAsTheRuleMakesThem) {
+TEST(GeneratorDraw, BallsComeAsOftenOverAMillionColumnsAsTheRuleMakesThem) {
   constexpr double columns = 1'000'000;
   World world;
-  RandomColumn random(world.state);
+  GeneratorDraw random(world.state);
   std::array<int, 50> came{};
   for (int i = 0; i < static_cast<int>(columns); ++i) {
     const Column& column = random.draw(world.chance);

@@ -269,7 +269,7 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   World world;
   putList(world, fourColumns());
   world.files.folder[listBackup] = hex("0A");
-  world.files.folder[filterScratch] = columnBytes(Records(9));
+  world.files.folder[tmpScratch] = columnBytes(Records(9));
   expectInput(world, passes.filter, passes.typed);
   world.boxes.expectQuestion(passes.question, true);
   EXPECT_TRUE(filterList(passes.filter, world.around, world.title));
@@ -277,7 +277,7 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   const Records all = fourColumns();
   EXPECT_EQ(list(world), columnBytes({record(417, all[0].Balls), record(417, all[3].Balls)}));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(all));
-  EXPECT_FALSE(world.files.exists(filterScratch));
+  EXPECT_FALSE(world.files.exists(tmpScratch));
   EXPECT_FALSE(world.state.FileNo.has_value());
   const std::string second = passes.secondPass;
   EXPECT_EQ(
@@ -327,13 +327,13 @@ TEST(FilterRewrite, EveryRecordIsMarkedEvenWhereNothingIsDeleted) {
 TEST(FilterRewrite, AListOfWhichNothingIsKeptIsDeletedWithoutASecondPass) {
   World world;
   putList(world, fourColumns());
-  world.files.folder[filterScratch] = hex("0B");
+  world.files.folder[tmpScratch] = hex("0B");
   expectInput(world, FilterWantedNumbers, "49");
   world.boxes.expectQuestion(WANTED_ONE("49"), true);
   EXPECT_TRUE(filterList(FilterWantedNumbers, world.around, world.title));
   EXPECT_FALSE(world.files.exists(combinationList));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
-  EXPECT_EQ(world.files.bytes(filterScratch), hex("0B")) << "the scratch file is not touched";
+  EXPECT_EQ(world.files.bytes(tmpScratch), hex("0B")) << "the scratch file is not touched";
   EXPECT_EQ(world.title.captions.size(), 5U);
   EXPECT_EQ(world.title.captions.back(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
 }

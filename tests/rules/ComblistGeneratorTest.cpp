@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 #include "doubles/Sets.h"
@@ -9,8 +9,8 @@
 namespace karvenis {
 namespace {
 
-using Mode = RandomList::Mode;
-using Outcome = RandomList::Outcome;
+using Mode = Generator::Mode;
+using Outcome = Generator::Outcome;
 
 constexpr char outOfRange[] = "En az 1 ve en çok 32767 kolon kayıtlayabilirsiniz!";
 constexpr char attention[] = "! DİKKAT !";
@@ -52,7 +52,7 @@ TEST_P(CountBox, OffersWhatFitsTheList) {
   if (offer.bytes >= 0) {
     world.files.folder[combinationList].resize(static_cast<std::size_t>(offer.bytes));
   }
-  const RandomList random(world.around, world.title);
+  const Generator random(world.around, world.title);
   EXPECT_EQ(random.canAppend(), offer.canAppend);
   EXPECT_EQ(random.countForAppend(), offer.forAppend);
   EXPECT_EQ(random.countForNewList(offer.text), offer.forNewList);
@@ -89,7 +89,7 @@ TEST_P(RefusedCount, IsToldAndWritesNothing) {
   World world;
   if (refusal.existing > 0) putList(world, refusal.existing);
   const auto before = world.files.folder;
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   if (*refusal.message == '\0') {
     world.boxes.expectBeep();
   } else {
@@ -125,7 +125,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(GenerateNewList, WritesTheColumnsNumberedAndTellsHowMany) {
   World world;
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   std::string captionDuringBox;
   world.boxes.whileOpen = [&] { captionDuringBox = world.title.captions.back(); };
   world.boxes.expectBeep().expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
@@ -145,7 +145,7 @@ TEST(GenerateNewList, WritesTheColumnsNumberedAndTellsHowMany) {
 TEST(GenerateNewList, LeavesTheTailOfALongerOldList) {
   World world;
   putList(world, 100);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectQuestion(replaceQuestion, true)
       .expectBeep()
       .expectMessage(" 10 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
@@ -162,7 +162,7 @@ TEST(GenerateNewList, NoLeavesTheListAsItIs) {
   World world;
   putList(world, 2);
   const auto before = world.files.folder;
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectQuestion(replaceQuestion, false);
   EXPECT_EQ(random.start(Mode::newList, "10"), Outcome::kept);
   EXPECT_EQ(world.files.folder, before);
@@ -172,7 +172,7 @@ TEST(GenerateNewList, NoLeavesTheListAsItIs) {
 TEST(GenerateNewList, AnEmptyListIsBackedUpWithoutAQuestion) {
   World world;
   putList(world, 0);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   random.start(Mode::newList, "1");
   EXPECT_TRUE(world.files.exists(listBackup));
@@ -181,7 +181,7 @@ TEST(GenerateNewList, AnEmptyListIsBackedUpWithoutAQuestion) {
 
 TEST(GenerateNewList, FillsTheListToTheLimit) {
   World world;
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 32767 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   random.start(Mode::newList, " 32767 kolon");
   ASSERT_EQ(list(world).size(), 32767U);
@@ -196,7 +196,7 @@ struct Typed {
 TEST(GenerateNewList, RoundsTheCountHalfToEvenAndSkipsBlanks) {
   for (const auto& [text, columns] : {Typed{"2.5", 2}, {"3.5", 4}, {"1 2", 12}, {"+3x", 3}}) {
     World world;
-    RandomList random(world.around, world.title);
+    Generator random(world.around, world.title);
     world.boxes.expectBeep().expectMessage(" " + std::to_string(columns) +
                                            " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
     random.start(Mode::newList, text);
@@ -206,7 +206,7 @@ TEST(GenerateNewList, RoundsTheCountHalfToEvenAndSkipsBlanks) {
 
 TEST(GenerateNewList, DrawsFromTheBagAndTheBankosOfTheMoment) {
   World world;
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   setBag(world.state, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
   setBanko(world.state, {49});
   world.boxes.expectBeep().expectMessage(" 200 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
@@ -220,7 +220,7 @@ TEST(GenerateNewList, DrawsFromTheBagAndTheBankosOfTheMoment) {
 TEST(AppendToList, WritesBehindTheListAndTakesNoBackup) {
   World world;
   putList(world, 500);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 2 kolon 'KARVENIS.LST' dosyasına eklendi.");
   EXPECT_EQ(random.start(Mode::append, "2"), Outcome::done);
   const auto records = list(world);
@@ -237,7 +237,7 @@ TEST(AppendToList, WritesBehindTheListAndTakesNoBackup) {
 TEST(AppendToList, FillsTheListToTheLimit) {
   World world;
   putList(world, 32766);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına eklendi.");
   EXPECT_EQ(random.start(Mode::append, "1"), Outcome::done);
   EXPECT_EQ(list(world).size(), 32767U);
@@ -246,7 +246,7 @@ TEST(AppendToList, FillsTheListToTheLimit) {
 TEST(AppendToList, StartsBehindAListThatGrewMeanwhile) {
   World world;
   putList(world, 10);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   putList(world, 20);
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
   random.start(Mode::append, "5");
@@ -257,7 +257,7 @@ TEST(AppendToList, StartsBehindAListThatGrewMeanwhile) {
 TEST(AppendToList, MakesAListThatVanishedMeanwhile) {
   World world;
   putList(world, 10);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   world.files.folder.clear();
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
   random.start(Mode::append, "5");
@@ -267,7 +267,7 @@ TEST(AppendToList, MakesAListThatVanishedMeanwhile) {
 /// Appends `wanted` columns to a list that has grown to `grown` records; whether that overflowed.
 bool overflows(World& world, int grown, const char* wanted) {
   putList(world, 10);
-  RandomList random(world.around, world.title);
+  Generator random(world.around, world.title);
   putList(world, grown);
   try {
     random.start(Mode::append, wanted);
@@ -300,7 +300,7 @@ TEST(GenerateNewList, ARefusalAtAnyStepLeavesTheOldListInTheBackupOrInPlace) {
     RefusingFiles files(world.files);
     Surroundings around{world.state, boxes,         world.clock,  world.chance,
                         files,       world.printer, world.windows};
-    RandomList random(around, world.title);
+    Generator random(around, world.title);
     files.calls = 0;
     files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
     try {

@@ -96,15 +96,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 // --- F1, F2, F4, F10
 
-TEST(ListCombinations, OpensTheDialogOnlyOverAWholeRecord) {
+TEST(OpenListing, OpensTheDialogOnlyOverAWholeRecord) {
   World world;
   world.boxes.expectBeep(3);
-  ListCombinations(world.around);
+  OpenListing(world.around);
   world.files.folder[combinationList].resize(15);
-  ListCombinations(world.around);
+  OpenListing(world.around);
   EXPECT_TRUE(world.windows.shown.empty());
   world.files.folder[combinationList].resize(16);
-  ListCombinations(world.around);
+  OpenListing(world.around);
   EXPECT_EQ(world.windows.shown, std::vector<std::string>{"frmCLPrint"});
 }
 

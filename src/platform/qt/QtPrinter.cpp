@@ -10,12 +10,12 @@
 #include <utility>
 
 #include "platform/RunTimeError.h"
+#include "platform/Twips.h"
 #include "platform/qt/Text.h"
 
 namespace karvenis {
 namespace {
 
-constexpr double twipsPerInch = 1440;
 /// What a page keeps clear above and below where the printer itself would keep less, in twips.
 constexpr double leastMargin = 500;
 

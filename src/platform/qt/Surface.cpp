@@ -7,13 +7,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/Twips.h"
 #include "platform/qt/SurfaceAccessible.h"
 #include "platform/qt/Text.h"
 
 namespace karvenis {
 namespace {
 
-constexpr double twipsPerPixel = 15;
 constexpr double textPixels = 13;  // 9.75 points
 
 /// How much larger than designed everything is printed: as the user's own font asks, never smaller.
@@ -29,8 +29,6 @@ QColor shown(QBColor colour) {
       return {0, 0, 255};
     case QBColor::lightRed:
       return {255, 0, 0};
-    case QBColor::white:
-      return Qt::white;
   }
   return Qt::black;
 }

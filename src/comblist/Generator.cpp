@@ -1,4 +1,4 @@
-#include "comblist/RandomList.h"
+#include "comblist/Generator.h"
 
 #include "core/Checked.h"
 #include "core/ColumnFile.h"
@@ -11,24 +11,20 @@ namespace {
 constexpr std::int32_t leastSensibleCount = 8;
 constexpr char attentionTitle[] = "! DİKKAT !";
 
-/// The columns are written to a copy of the list, which takes the list's place when it is whole, so
-/// that the list holds its old or its new bytes whatever happens.
-constexpr char scratchFile[] = "KARVENIS.TMP";
-
 }  // namespace
 
-RandomList::RandomList(Surroundings& around, TitleBar& title) : around_(around), title_(title) {
+Generator::Generator(Surroundings& around, TitleBar& title) : around_(around), title_(title) {
   if (around.files.exists(combinationList)) {
     ExistingCount = columnCount(around.files, combinationList);
   }
 }
 
-std::string RandomList::countForNewList(const std::string& text) const {
+std::string Generator::countForNewList(const std::string& text) const {
   if (ExistingCount > 0) return std::to_string(ExistingCount);
   return leadingNumber(text) < leastSensibleCount ? std::to_string(recordLimit) : text;
 }
 
-RandomList::Outcome RandomList::start(Mode mode, std::string_view text) {
+Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   WantedCount = typedNumber32(text);
   if (refuses(mode)) return Outcome::refused;
   if (mode == Mode::newList && ExistingCount > 0 &&
@@ -36,13 +32,13 @@ RandomList::Outcome RandomList::start(Mode mode, std::string_view text) {
     return Outcome::kept;
   }
   around_.chance.seedFrom(around_.clock);
-  RandomColumn draw(around_.state);
+  GeneratorDraw draw(around_.state);
   mode == Mode::newList ? GenerateNewList(draw) : AppendToList(draw);
   return Outcome::done;
 }
 
 /// Whether the wanted count cannot be; the user has heard it then.
-bool RandomList::refuses(Mode mode) {
+bool Generator::refuses(Mode mode) {
   if (mode == Mode::newList) {
     if (WantedCount >= 1 && WantedCount <= recordLimit) return false;
     around_.boxes.warn("En az 1 ve en çok 32767 kolon kayıtlayabilirsiniz!", attentionTitle);
@@ -60,7 +56,7 @@ bool RandomList::refuses(Mode mode) {
 }
 
 /// Writes records 1..WantedCount. Records of a longer old list stay behind them.
-void RandomList::GenerateNewList(RandomColumn& draw) {
+void Generator::GenerateNewList(GeneratorDraw& draw) {
   backUpList(around_.files);
   open();
   RecordNo = 0;
@@ -73,7 +69,7 @@ void RandomList::GenerateNewList(RandomColumn& draw) {
 }
 
 /// Writes WantedCount records behind those that the list has by now.
-void RandomList::AppendToList(RandomColumn& draw) {
+void Generator::AppendToList(GeneratorDraw& draw) {
   open();
   const std::int32_t Start = around_.state.FileNo->count();
   RecordNo = checked<std::int16_t>(Start);
@@ -87,21 +83,23 @@ void RandomList::AppendToList(RandomColumn& draw) {
   finish(RecordNo - Start, " kolon 'KARVENIS.LST' dosyasına eklendi.");
 }
 
-void RandomList::open() {
-  copyListTo(around_.files, scratchFile);
-  around_.state.FileNo.emplace(around_.files, scratchFile, around_.state.Record);
+/// The columns are written to a copy of the list, which takes the list's place when it is whole, so
+/// that the list holds its old or its new bytes whatever happens.
+void Generator::open() {
+  copyListTo(around_.files, tmpScratch);
+  around_.state.FileNo.emplace(around_.files, tmpScratch, around_.state.Record);
 }
 
 /// Writes `drawn` as record `number`, which is also its word.
-void RandomList::write(const Column& drawn, std::int64_t number) {
+void Generator::write(const Column& drawn, std::int64_t number) {
   RecordNo = checked<std::int16_t>(number);
   around_.state.Record = {.Word = RecordNo, .Balls = drawn};
   around_.state.FileNo->put(RecordNo);
 }
 
-void RandomList::finish(std::int32_t written, const char* words) {
+void Generator::finish(std::int32_t written, const char* words) {
   around_.state.closeFile();
-  around_.files.rename(scratchFile, combinationList);
+  around_.files.rename(tmpScratch, combinationList);
   around_.boxes.beep();
   around_.boxes.message(withBlank(written) + words);
   title_.setCaption(generatorTitle);

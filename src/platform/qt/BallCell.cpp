@@ -1,4 +1,4 @@
-#include "bag/frmBallsCell.h"
+#include "platform/qt/BallCell.h"
 
 #include <QKeyEvent>
 #include <QPainter>

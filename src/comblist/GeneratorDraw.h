@@ -15,11 +15,11 @@ namespace karvenis {
 /// One rule of its own: when the last ball of the pool is drawn, the pool loses its then last ball
 /// too, for the rest of that column. A small pool can so run out before the column is full; the
 /// column then holds a 0, or a ball twice.
-class RandomColumn {
+class GeneratorDraw {
  public:
   /// Takes the balls of the bag (all 49 where it is empty) that are no bankos, and the bankos.
   /// Numbers outside 1..49 enter no table.
-  explicit RandomColumn(const SharedState& state);
+  explicit GeneratorDraw(const SharedState& state);
 
   /// The next column: every banko and otherwise balls of the pool, ascending. Where numbers are
   /// missing, because they repeat or are no balls, the last positions stay as they were drawn.

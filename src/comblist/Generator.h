@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "comblist/RandomColumn.h"
+#include "comblist/GeneratorDraw.h"
 #include "core/CaptionLine.h"
 #include "core/Surroundings.h"
 #include "platform/TitleBar.h"
@@ -15,7 +15,7 @@ inline constexpr char generatorTitle[] = "6/49 Rastgele Kolon Üreteci";
 
 /// Writes a whole list of random columns into the combination list in one run: a new list, or
 /// columns behind the existing ones.
-class RandomList {
+class Generator {
  public:
   enum class Mode { newList, append };
   enum class Outcome {
@@ -26,7 +26,7 @@ class RandomList {
 
   /// `title` is the generator's window, which shows the number of the column being written. Counts
   /// the existing list.
-  RandomList(Surroundings& around, TitleBar& title);
+  Generator(Surroundings& around, TitleBar& title);
 
   /// Whether there is a list that columns can be added to.
   bool canAppend() const { return ExistingCount >= 1 && ExistingCount < recordLimit; }
@@ -41,8 +41,8 @@ class RandomList {
 
  private:
   bool refuses(Mode mode);
-  void GenerateNewList(RandomColumn& draw);
-  void AppendToList(RandomColumn& draw);
+  void GenerateNewList(GeneratorDraw& draw);
+  void AppendToList(GeneratorDraw& draw);
   void open();
   void write(const Column& drawn, std::int64_t number);
   void finish(std::int32_t written, const char* words);

@@ -1,16 +1,11 @@
-#include "comblist/RandomColumn.h"
+#include "comblist/GeneratorDraw.h"
 
 #include <algorithm>
 #include <bit>
 
 namespace karvenis {
-namespace {
 
-bool isBall(std::int16_t number) { return number >= 1 && number <= ballsInAll; }
-
-}  // namespace
-
-RandomColumn::RandomColumn(const SharedState& state) {
+GeneratorDraw::GeneratorDraw(const SharedState& state) {
   const auto mark = [this](std::int16_t ball, std::int16_t value) {
     if (isBall(ball)) full_[static_cast<std::size_t>(ball)] = value;
   };
@@ -27,7 +22,7 @@ RandomColumn::RandomColumn(const SharedState& state) {
   full_[0] = static_cast<std::int16_t>(end - full_.begin() - 1);
 }
 
-const karvenis::Column& RandomColumn::draw(Chance& chance) {
+const karvenis::Column& GeneratorDraw::draw(Chance& chance) {
   std::copy(full_.begin(), full_.end(), Pool.begin());
   Column = bankos_;
   for (std::size_t position = firstDrawn_; position <= ballsInColumn; ++position) {
@@ -41,7 +36,7 @@ const karvenis::Column& RandomColumn::draw(Chance& chance) {
 
 /// Takes entry `drawn` out of the pool. The entries behind it move up; where none is behind it, the
 /// pool shrinks by two. An exhausted pool only loses its stale first entry.
-void RandomColumn::take(std::int32_t drawn) {
+void GeneratorDraw::take(std::int32_t drawn) {
   const std::int16_t count = Pool[0];
   std::int16_t* const place = &Pool[static_cast<std::size_t>(drawn)];
   if (drawn < count) {
@@ -55,7 +50,7 @@ void RandomColumn::take(std::int32_t drawn) {
   }
 }
 
-void RandomColumn::sortByPresence() {
+void GeneratorDraw::sortByPresence() {
   std::uint64_t present = 0;
   for (std::size_t i = 1; i <= ballsInColumn; ++i) {
     if (isBall(Column[i])) present |= std::uint64_t{1} << static_cast<unsigned>(Column[i]);
