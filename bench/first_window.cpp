@@ -1,11 +1,7 @@
-// Shows a window and ends as soon as it has been painted: the program's main window ("karvenis") or
-// an empty one of the same size ("empty"). startup.py times both as whole processes.
+// Shows the program's main window and ends as soon as it has been painted; startup.py times this as
+// a whole process.
 
-#include <QApplication>
-#include <QMainWindow>
-#include <QTimer>
-#include <cstring>
-
+#include "EndAtFirstPaint.h"
 #include "core/Surroundings.h"
 #include "main/frmLoto.h"
 #include "platform/SystemChance.h"
@@ -16,31 +12,11 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtPrinter.h"
 
-namespace {
-
-/// Ends the program behind the first paint of the window it watches.
-class EndAtFirstPaint : public QObject {
- public:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Paint) {
-      watched->removeEventFilter(this);
-      QTimer::singleShot(0, qApp, &QApplication::quit);
-    }
-    return false;
-  }
-};
-
-int showEmpty(EndAtFirstPaint& end) {
-  QMainWindow window;
-  window.setFixedSize(760, 484);
-  window.installEventFilter(&end);
-  window.show();
-  return QApplication::exec();
-}
-
-int showMain(QApplication& application, EndAtFirstPaint& end) {
+int main(int argc, char** argv) {
   using namespace karvenis;
-  applyLook(application);
+  QApplication application(argc, argv);
+  EndAtFirstPaint end;
+  applyLook();
   SharedState state;
   QtBoxes boxes;
   QtClock clock;
@@ -56,13 +32,4 @@ int showMain(QApplication& application, EndAtFirstPaint& end) {
   });
   forms.show("frmLoto");
   return QApplication::exec();
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
-  EndAtFirstPaint end;
-  const bool empty = argc > 1 && std::strcmp(argv[1], "empty") == 0;
-  return empty ? showEmpty(end) : showMain(application, end);
 }

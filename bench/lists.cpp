@@ -157,7 +157,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  applyLook(application);
+  applyLook();
   QuietWorld world;
 
   report("page turn, 3 000 000 columns", pageTurn(world, 3'000'000, rounds));

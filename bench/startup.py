@@ -15,14 +15,14 @@ import tempfile
 import time
 
 
-def run(program, kind):
+def run(program):
     """Wall seconds and largest resident kilobytes of one whole process."""
     start = time.perf_counter()
-    child = subprocess.Popen([program, kind], stderr=subprocess.DEVNULL)
+    child = subprocess.Popen([program], stderr=subprocess.DEVNULL)
     _, status, usage = os.wait4(child.pid, 0)
     child.returncode = os.waitstatus_to_exitcode(status)
     if child.returncode != 0:
-        sys.exit(f"{program} {kind}: status {child.returncode}")
+        sys.exit(f"{program}: status {child.returncode}")
     return time.perf_counter() - start, usage.ru_maxrss
 
 
@@ -46,21 +46,21 @@ def cpu_seconds(pid):
 
 
 def main():
-    build = sys.argv[1]
+    build = os.path.abspath(sys.argv[1])
     pairs = int(sys.argv[2]) if len(sys.argv) > 2 else 20
-    program = os.path.join(build, "bench", "first_window")
-    for kind in ("empty", "karvenis"):
-        run(program, kind)
-    times = {"empty": [], "karvenis": []}
+    programs = {kind: os.path.join(build, "bench", kind) for kind in ("empty_window", "first_window")}
+    times = {kind: [] for kind in programs}
+    for program in programs.values():
+        run(program)
     for _ in range(pairs):
-        for kind, results in times.items():
-            results.append(run(program, kind))
+        for kind, program in programs.items():
+            times[kind].append(run(program))
     for name, part, unit, scale in (("wall", 0, "ms", 1000), ("resident", 1, "MiB", 1 / 1024)):
         medians = {k: statistics.median(r[part] for r in rs) * scale for k, rs in times.items()}
         ratio = statistics.median(
-            k[part] / e[part] for k, e in zip(times["karvenis"], times["empty"]))
-        print(f"{name}: empty {medians['empty']:.1f} {unit}, main window "
-              f"{medians['karvenis']:.1f} {unit}, ratio {ratio:.2f} (median of {pairs} pairs)")
+            k[part] / e[part] for k, e in zip(times["first_window"], times["empty_window"]))
+        print(f"{name}: empty {medians['empty_window']:.1f} {unit}, main window "
+              f"{medians['first_window']:.1f} {unit}, ratio {ratio:.3f} (median of {pairs} pairs)")
     print(f"idle: {100 * idle_share(os.path.join(build, 'karvenis')):.2f} % of one core")
 
 

@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("KARVENIS"));
   QApplication::setDesktopFileName(QStringLiteral("karvenis"));
-  applyLook(application);
+  applyLook();
   QTranslator turkish;
   speakTurkish(turkish);
 

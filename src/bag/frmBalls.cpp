@@ -19,11 +19,9 @@ constexpr int cellsInRow = 7;
 constexpr int margin = 16;
 constexpr char tag[] = "Tag";
 
-QColor brightWhite() { return Qt::white; }
-
 }  // namespace
 
-frmBalls::frmBalls(Surroundings& around, Forms& forms) : Form(forms, "frmBalls"), around_(around) {
+frmBalls::frmBalls(Surroundings& around, Forms& forms) : frmSelection(around, forms, "frmBalls") {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);
   whole->setSpacing(margin - 4);
@@ -32,28 +30,18 @@ frmBalls::frmBalls(Surroundings& around, Forms& forms) : Form(forms, "frmBalls")
   buildMenus();
   buildCells();
   whole->addWidget(Frame1);
-  whole->addWidget(buildCommands());
+  whole->addWidget(buildFoot());
   takeTabStop(1);
   cmdBall[1]->setFocus();
 }
 
 void frmBalls::buildMenus() {
-  QMenu* choice = menuHead("mnuSecim", QStringLiteral("Seçim"));
-  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { mnuUygula_Click(); });
+  QMenu* choice = buildChoiceMenu();
   choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
   menuEntry(choice, "mnuHepsi", QStringLiteral("Hepsini Seç"), [this] { mnuHepsi_Click(); });
   menuEntry(choice, "mnuHicbiri", QStringLiteral("Hiçbirini Seçme"),
             [this] { mnuHicbiri_Click(); });
-  choice->addSeparator()->setObjectName(QStringLiteral("mnuL2"));
-  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { mnuKapat_Click(); });
-
-  QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
-  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { mnuYukle_Click(); });
-  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { mnuKayitla_Click(); });
-
-  QMenu* help = menuHead("mnuYardim", QStringLiteral("Yardım"));
-  menuEntry(help, "mnuFunctionKeys", QStringLiteral("Fonksiyon Tuşları"),
-            [this] { mnuFunctionKeys_Click(); });
+  QMenu* help = buildOtherMenus(choice, "mnuL2");
   menuEntry(help, "mnuNasil", QStringLiteral("Bu Seçim Niçin ve Nasıl Uygulanır"),
             [this] { mnuNasil_Click(); });
 }
@@ -61,8 +49,7 @@ void frmBalls::buildMenus() {
 void frmBalls::buildCells() {
   Frame1 = control<QFrame>(QStringLiteral("Frame1"));
   Frame1->setAccessibleName(QStringLiteral("Toplar"));
-  Frame1->setStyleSheet(QStringLiteral(
-      "#Frame1 { background: #fffdf7; border: 1px solid #c9b48c; border-radius: 8px; }"));
+  Frame1->setFrameShape(QFrame::StyledPanel);
   auto* grid = new QGridLayout(Frame1);
   grid->setContentsMargins(10, 10, 10, 10);
   grid->setSpacing(2);
@@ -91,15 +78,11 @@ void frmBalls::buildCell(int index) {
   setMarked(index, false);
 }
 
-QWidget* frmBalls::buildCommands() {
+QWidget* frmBalls::buildFoot() {
   auto* holder = new QWidget(this);
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
-  Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
-  Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
-  Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
-  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { Command2_Click(); });
-  for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
+  buildCommands(row);
   Label2 = control<QLabel>(QStringLiteral("Label2"), QStringLiteral("F10= Yardım"));
   Label2->setToolTip(QStringLiteral("KARVENIS 2005"));
   row->addStretch();
@@ -109,23 +92,12 @@ QWidget* frmBalls::buildCommands() {
 
 void frmBalls::Form_Activate() { showBag(around_.state, *this); }
 
-void frmBalls::Form_KeyDown(int KeyCode, int Shift) {
-  if ((Shift & altKey) != 0) return;  // the desktop's own, such as Alt+F4
+void frmBalls::ownKey(int KeyCode) {
   switch (KeyCode) {
-    case keyEscape:
-      return unload();
-    case keyF1:
-      return Command1_Click();
-    case keyF2:
-      return Command3_Click();
-    case keyF3:
-      return Command4_Click();
     case keyF4:
       return mnuHepsi_Click();
     case keyF5:
       return mnuHicbiri_Click();
-    case keyF10:
-      return mnuFunctionKeys_Click();
     case keyF11:
       return mnuNasil_Click();
     default:
@@ -139,16 +111,10 @@ void frmBalls::cmdBall_Click(int Index) {
 }
 
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
-void frmBalls::Command2_Click() { unload(); }
 void frmBalls::Command3_Click() { loadBag(around_, *this); }
 void frmBalls::Command4_Click() { saveBag(around_, *this); }
 void frmBalls::mnuHepsi_Click() { markAll(true); }
 void frmBalls::mnuHicbiri_Click() { markAll(false); }
-
-void frmBalls::mnuUygula_Click() { Command1_Click(); }
-void frmBalls::mnuYukle_Click() { Command3_Click(); }
-void frmBalls::mnuKayitla_Click() { Command4_Click(); }
-void frmBalls::mnuKapat_Click() { unload(); }
 
 void frmBalls::mnuFunctionKeys_Click() {
   around_.boxes.beep();
@@ -169,7 +135,7 @@ void frmBalls::setMarked(int ball, bool marked) {
   number.setBold(marked);
   cell->setFont(number);
   QPalette colours = palette();
-  if (marked) colours.setColor(QPalette::Button, brightWhite());
+  if (marked) colours.setColor(QPalette::Button, Qt::white);
   cell->setPalette(colours);
   cell->setProperty(tag, marked ? QStringLiteral("1") : QStringLiteral("0"));
   const QString told = QStringLiteral("%1, %2").arg(ball).arg(marked ? QStringLiteral("işaretli")

@@ -19,7 +19,7 @@ constexpr int boxPixels = 20;
 
 }  // namespace
 
-frmBanko::frmBanko(Surroundings& around, Forms& forms) : Form(forms, "frmBanko"), around_(around) {
+frmBanko::frmBanko(Surroundings& around, Forms& forms) : frmSelection(around, forms, "frmBanko") {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);
   whole->setSpacing(margin - 2);
@@ -28,23 +28,13 @@ frmBanko::frmBanko(Surroundings& around, Forms& forms) : Form(forms, "frmBanko")
   buildMenus();
   whole->addWidget(buildOptions());
   whole->addWidget(buildBoxes());
-  whole->addWidget(buildCommands());
+  whole->addWidget(buildFoot());
 }
 
 void frmBanko::buildMenus() {
-  QMenu* choice = menuHead("mnuSecim", QStringLiteral("Seçim"));
-  menuEntry(choice, "mnuUygula", QStringLiteral("Seçimi Uygula"), [this] { mnuUygula_Click(); });
+  QMenu* choice = buildChoiceMenu();
   menuEntry(choice, "mnuSil", QStringLiteral("Seçimi Sil"), [this] { mnuSil_Click(); });
-  choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
-  menuEntry(choice, "mnuKapat", QStringLiteral("Kapat"), [this] { mnuKapat_Click(); });
-
-  QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
-  menuEntry(file, "mnuYukle", QStringLiteral("Dosyadan Yükle"), [this] { mnuYukle_Click(); });
-  menuEntry(file, "mnuKayitla", QStringLiteral("Dosyaya Kayıtla"), [this] { mnuKayitla_Click(); });
-
-  QMenu* help = menuHead("mnuYardim", QStringLiteral("Yardım"));
-  menuEntry(help, "mnuFunctionKeys", QStringLiteral("Fonksiyon Tuşları"),
-            [this] { mnuFunctionKeys_Click(); });
+  QMenu* help = buildOtherMenus(choice, "mnuL1");
   menuEntry(help, "mnuBankoNedir", QStringLiteral("Banko Nedir ve Niçin Kullanılır"),
             [this] { mnuBankoNedir_Click(); });
 }
@@ -101,17 +91,13 @@ QWidget* frmBanko::buildBoxes() {
   return holder;
 }
 
-QWidget* frmBanko::buildCommands() {
+QWidget* frmBanko::buildFoot() {
   auto* holder = new QWidget(this);
   auto* column = new QVBoxLayout(holder);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(margin - 4);
   auto* row = new QHBoxLayout;
-  Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
-  Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
-  Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
-  Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { Command2_Click(); });
-  for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
+  buildCommands(row);
   column->addLayout(row);
   auto* foot = new QHBoxLayout;
   Label3 = control<QLabel>(QStringLiteral("Label3"), QStringLiteral("KARVENIS 2005 Randomizer"));
@@ -125,25 +111,9 @@ QWidget* frmBanko::buildCommands() {
 
 void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
 
-void frmBanko::Form_KeyDown(int KeyCode, int Shift) {
-  if ((Shift & altKey) != 0) return;  // the desktop's own, such as Alt+F4
+void frmBanko::ownKey(int KeyCode) {
   if (KeyCode >= keyF4 && KeyCode <= keyF9) return chooseCount(KeyCode - keyF4);
-  switch (KeyCode) {
-    case keyEscape:
-      return unload();
-    case keyF1:
-      return Command1_Click();
-    case keyF2:
-      return Command3_Click();
-    case keyF3:
-      return Command4_Click();
-    case keyF10:
-      return mnuFunctionKeys_Click();
-    case keyF11:
-      return mnuBankoNedir_Click();
-    default:
-      return;
-  }
+  if (KeyCode == keyF11) mnuBankoNedir_Click();
 }
 
 void frmBanko::Option_Click(int count) {
@@ -175,15 +145,9 @@ void frmBanko::Text1_Enter(int Index) {
 }
 
 void frmBanko::Command1_Click() { applyBanko(around_, *this); }
-void frmBanko::Command2_Click() { unload(); }
 void frmBanko::Command3_Click() { loadBanko(around_, *this); }
 void frmBanko::Command4_Click() { saveBanko(around_, *this); }
 void frmBanko::mnuSil_Click() { clearBanko(around_.state); }
-
-void frmBanko::mnuUygula_Click() { Command1_Click(); }
-void frmBanko::mnuYukle_Click() { Command3_Click(); }
-void frmBanko::mnuKayitla_Click() { Command4_Click(); }
-void frmBanko::mnuKapat_Click() { unload(); }
 
 void frmBanko::mnuFunctionKeys_Click() {
   around_.boxes.beep();

@@ -42,7 +42,7 @@ class frmLoto final : public Form, private BallStage {
   void buildBanner();
   void buildStage();
   void buildBall(int k);
-  void buildLabel(int index, const QRect& place, int pixels, const char* sheet);
+  QLabel* buildLabel(int index, const QRect& place, int pixels, unsigned colour);
   void buildPanel();
   QWidget* buildChoices();
   QWidget* buildClock();

@@ -13,6 +13,7 @@
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Picture.h"
+#include "platform/qt/Style.h"
 
 // How the main window is built and painted. Lengths are device independent pixels.
 
@@ -32,15 +33,6 @@ constexpr int plateTop = 210;
 constexpr int tickOfBalls = 20;   // milliseconds
 constexpr int tickOfClock = 100;  // milliseconds
 
-/// The one button that everything is about.
-constexpr char drawButtonSheet[] = R"(
-QPushButton { font-size: 22px; font-weight: bold; color: white; border: 1px solid #123f44; border-radius: 8px;
-  background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #2f7d83, stop:1 #174a50); }
-QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #3a8d93, stop:1 #1f5a60); }
-QPushButton:pressed { background: #123f44; }
-QPushButton:focus { border: 3px solid #e8a92c; }
-)";
-
 /// Where ball `k` comes to rest.
 QRect restOf(int k) {
   const int cell = (stageSize.width() - 6 * cellWidth) / 2 + (k - 1) * cellWidth;
@@ -51,13 +43,27 @@ QRect restOf(int k) {
 constexpr std::array<QPoint, 4> stepOffsets = {QPoint(20, -80), QPoint(12, -58), QPoint(4, -28),
                                                QPoint(0, 0)};
 
-QLabel* dressed(QLabel* label, int pixels, const char* sheet) {
+/// The one button that everything is about.
+void dressMain(QPushButton* button) {
+  button->setProperty(Style::mainButton, true);
+  QFont large = button->font();
+  large.setPixelSize(24);
+  button->setFont(large);
+  QPalette colours = button->palette();
+  colours.setColor(QPalette::ButtonText, Qt::white);
+  button->setPalette(colours);
+}
+
+/// Dresses `label` in bold letters of one colour.
+QLabel* dressed(QLabel* label, int pixels, unsigned colour) {
   QFont bold = label->font();
   bold.setPixelSize(pixels);
   bold.setBold(true);
   label->setFont(bold);
+  QPalette colours = label->palette();
+  colours.setColor(QPalette::WindowText, QColor(colour));
+  label->setPalette(colours);
   label->setAlignment(Qt::AlignCenter);
-  label->setStyleSheet(QLatin1String(sheet));
   return label;
 }
 
@@ -180,19 +186,19 @@ void frmLoto::buildBall(int k) {
     Image1[static_cast<std::size_t>(index)] = image;
   }
   const QRect plate(QPoint(rest.center().x() - plateSize.width() / 2, plateTop), plateSize);
-  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -7), 30, "color: #2a2622;");
-  buildLabel(2 * k - 1, plate, 20,
-             "color: #1f5a60; background: #fffdf7; border: 1px solid #c9b48c; border-radius: 6px;");
+  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -7), 30, look::ink);
+  buildLabel(2 * k - 1, plate, 20, look::petrol)->setFrameShape(QFrame::StyledPanel);
 }
 
-void frmLoto::buildLabel(int index, const QRect& place, int pixels, const char* sheet) {
-  auto* number = dressed(new QLabel(stage_), pixels, sheet);
+QLabel* frmLoto::buildLabel(int index, const QRect& place, int pixels, unsigned colour) {
+  auto* number = dressed(new QLabel(stage_), pixels, colour);
   number->setObjectName(QStringLiteral("Label1_%1").arg(index));
   number->setGeometry(place);
   number->setMouseTracking(true);
   number->installEventFilter(this);
   Label1[static_cast<std::size_t>(index)] = number;
   nameLabel(index);
+  return number;
 }
 
 /// What a number label is called by those who have the window read to them.
@@ -209,16 +215,12 @@ void frmLoto::buildPanel() {
   row->setContentsMargins(margin, 0, margin, 0);
   row->setSpacing(margin);
   row->addWidget(buildChoices());
-  Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Kolon"));
-  Command1->setToolTip(QStringLiteral("Yeni Kolon"));
-  Command1->setStyleSheet(QLatin1String(drawButtonSheet));
+  Command1 = command("Command1", u"Kolon", u"Yeni Kolon", [this] { Command1_Click(); });
+  dressMain(Command1);
   Command1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  on(Command1, &QPushButton::clicked, [this] { Command1_Click(); });
   row->addWidget(Command1, 1);
   row->addWidget(buildClock());
-  Command2 = control<QPushButton>(QStringLiteral("Command2"), QStringLiteral("Çıkış"));
-  Command2->setToolTip(QStringLiteral("Kapat"));
-  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
+  Command2 = command("Command2", u"Çıkış", u"Kapat", [this] { Command2_Click(); });
   row->addWidget(Command2, 0, Qt::AlignBottom);
   static_cast<QVBoxLayout*>(layout())->addLayout(row);
 }
@@ -226,8 +228,7 @@ void frmLoto::buildPanel() {
 QWidget* frmLoto::buildChoices() {
   Frame1 = control<QFrame>(QStringLiteral("Frame1"));
   Frame1->setAccessibleName(QStringLiteral("Kolonun kaynağı ve sırası"));
-  Frame1->setStyleSheet(QStringLiteral(
-      "#Frame1 { background: #fffdf7; border: 1px solid #c9b48c; border-radius: 8px; }"));
+  Frame1->setFrameShape(QFrame::StyledPanel);
   auto* column = new QVBoxLayout(Frame1);
   column->setContentsMargins(14, 8, 14, 8);
   column->setSpacing(5);
@@ -254,8 +255,8 @@ QWidget* frmLoto::buildClock() {
   row->addWidget(Picture1);
   auto* column = new QVBoxLayout;
   column->setSpacing(2);
-  Label2 = dressed(new QLabel(plate), 14, "color: #5b5244;");
-  Label3 = dressed(new QLabel(plate), 20, "color: #1f5a60;");
+  Label2 = dressed(new QLabel(plate), 14, look::muted);
+  Label3 = dressed(new QLabel(plate), 20, look::petrol);
   Label2->setObjectName(QStringLiteral("Label2"));
   Label3->setObjectName(QStringLiteral("Label3"));
   Label3->setMinimumWidth(100);

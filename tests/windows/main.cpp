@@ -9,6 +9,6 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  karvenis::applyLook(application);
+  karvenis::applyLook();
   return RUN_ALL_TESTS();
 }

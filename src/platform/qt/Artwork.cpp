@@ -1,10 +1,24 @@
 #include "platform/qt/Artwork.h"
 
 #include <QFileInfo>
+#include <QImage>
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace karvenis {
+
+QPixmap readyMade(const QString& name, const QSize& size) {
+  const QResource resource(
+      QStringLiteral(":/ready/%1-%2x%3").arg(name).arg(size.width()).arg(size.height()));
+  if (!resource.isValid()) return {};
+  // The picture keeps the bytes instead of copying them.
+  auto* bytes = new QByteArray(resource.uncompressedData());
+  return QPixmap::fromImage(QImage(
+      reinterpret_cast<const uchar*>(bytes->constData()), size.width(), size.height(),
+      QImage::Format_ARGB32_Premultiplied,
+      [](void* kept) { delete static_cast<QByteArray*>(kept); }, bytes));
+}
 
 Artwork::Artwork() = default;
 Artwork::~Artwork() = default;
@@ -18,12 +32,8 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
   if (!drawing.isNull() || pixels.isEmpty()) return drawing;
 
   // What the first painted window shows is in the program ready-made for screens of one pixel each.
-  if (element.isEmpty() && drawing.load(QStringLiteral(":/ready/%1-%2x%3.png")
-                                            .arg(QFileInfo(file).baseName())
-                                            .arg(pixels.width())
-                                            .arg(pixels.height()))) {
-    return drawing;
-  }
+  if (element.isEmpty()) drawing = readyMade(QFileInfo(file).baseName(), pixels);
+  if (!drawing.isNull()) return drawing;
   drawing = QPixmap(pixels);
   drawing.fill(Qt::transparent);
   QPainter painter(&drawing);

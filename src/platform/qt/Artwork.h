@@ -9,6 +9,9 @@ class QSvgRenderer;
 
 namespace karvenis {
 
+/// A drawing in the pixels of `size`, made when the program was built; null where there is none.
+QPixmap readyMade(const QString& name, const QSize& size);
+
 /// The program's drawings, rendered once for each size and kept.
 class Artwork {
  public:

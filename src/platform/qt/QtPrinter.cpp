@@ -3,6 +3,7 @@
 #include <cups/cups.h>
 
 #include <QFontMetricsF>
+#include <QLibrary>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -33,9 +34,16 @@ QRectF printable(const QPrinter& printer) {
                        -std::max<double>(margins.bottom(), least));
 }
 
-/// The toolkit hands a finished document over without asking whether the queue took it.
+/// The toolkit hands a finished document over without asking whether the queue took it. It loads
+/// the print library itself when it first prints; linked to the program, that library and the
+/// twenty behind it would be loaded at every start.
 void refuseUnlessQueued() {
-  if (cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE) fail(cupsLastErrorString());
+  QLibrary cups(QStringLiteral("cups"), 2);
+  const auto lastError = reinterpret_cast<decltype(&cupsLastError)>(cups.resolve("cupsLastError"));
+  const auto words =
+      reinterpret_cast<decltype(&cupsLastErrorString)>(cups.resolve("cupsLastErrorString"));
+  if (lastError == nullptr || words == nullptr) fail(cups.errorString().toStdString());
+  if (lastError() > IPP_STATUS_OK_EVENTS_COMPLETE) fail(words());
 }
 
 }  // namespace

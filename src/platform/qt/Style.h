@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace karvenis {
+
+/// What the program's controls look like where the toolkit's plain style is not warm enough: raised
+/// buttons, panels, menu heads and a focus that shows.
+class Style final : public QProxyStyle {
+ public:
+  Style();
+
+  /// The property that tells the one button of a window that everything is about.
+  static constexpr char mainButton[] = "mainButton";
+
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                     const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
+
+}  // namespace karvenis
