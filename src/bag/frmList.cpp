@@ -44,10 +44,8 @@ frmList::frmList(Surroundings& around, Forms& forms)
 /// A page on which the widest coupon fits.
 Surface* frmList::makePage(QWidget* parent) {
   auto* page = new Surface(parent);
-  QFont large = page->font();
-  large.setPixelSize(textPixels);
-  page->setFont(large);
-  const QFontMetrics metrics(large);
+  page->setTextSize(textPixels);
+  const QFontMetrics metrics(page->font());
   const QString widest = QStringLiteral(" Kolon  8 - 48  48  48  48  48  48  ");
   page->setFixedSize(metrics.horizontalAdvance(widest), linesOfPage * metrics.height());
   return page;

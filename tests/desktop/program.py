@@ -45,9 +45,13 @@ class Program:
         for name, content in (files or {}).items():
             with open(os.path.join(self.folder, name), "wb") as file:
                 file.write(content)
+        # The bus tells places in pixels of a plain screen.
+        environment = environment or {}
+        self._scale = (float(environment.get("QT_SCALE_FACTOR", 1))
+                       * float(environment.get("QT_FONT_DPI", 96)) / 96)
         self._words = tempfile.TemporaryFile()
         self.process = start([executable], cwd=self.folder, stdout=self._words,
-                             stderr=self._words, env={**screen.environment, **(environment or {})})
+                             stderr=self._words, env={**screen.environment, **environment})
 
     def close(self):
         if self._words.closed:
@@ -171,7 +175,7 @@ class Program:
         self.screen.run("xdotool", "type", "--delay", "5", text)
 
     def click(self, node, times=1):
-        left, top, width, height = node.place
+        left, top, width, height = (round(self._scale * length) for length in node.place)
         self.click_at(left + width // 2, top + height // 2, times)
 
     def click_at(self, left, top, times=1):

@@ -1,7 +1,8 @@
 """Drives the real program through a typical run on a virtual screen, with real keys and clicks.
 
-usage: tour.py PROGRAM FOLDER
+usage: tour.py PROGRAM FOLDER [WIDTHxHEIGHT] [NAME=VALUE...]
 
+The screen is 1280x1024 where no size is told; each NAME=VALUE is set for the program.
 Leaves a picture of each step in FOLDER, the program's files in FOLDER/files, and tells what the
 files then hold.
 """
@@ -19,11 +20,12 @@ BANKOS = (7, 21)
 
 
 class Tour:
-    def __init__(self, screen, executable, folder):
+    def __init__(self, screen, executable, folder, environment):
         shutil.rmtree(folder, ignore_errors=True)
         os.makedirs(os.path.join(folder, "files"))
         self.screen, self.folder, self.steps = screen, folder, 0
-        self.program = Program(screen, executable, folder=os.path.join(folder, "files"))
+        self.program = Program(screen, executable, folder=os.path.join(folder, "files"),
+                               environment=environment)
 
     def picture(self, name, told):
         """Keeps a picture of the active window, or of all where a box is open."""
@@ -203,9 +205,11 @@ def describe(folder):
 
 def main():
     executable, folder = (os.path.abspath(path) for path in sys.argv[1:3])
-    screen = Screen()
+    environment = dict(option.split("=", 1) for option in sys.argv[3:] if "=" in option)
+    sizes = [option for option in sys.argv[3:] if "=" not in option]
+    screen = Screen(*sizes)
     try:
-        tour = Tour(screen, executable, folder)
+        tour = Tour(screen, executable, folder, environment)
         try:
             tour.run()
         except Exception:

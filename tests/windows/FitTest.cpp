@@ -5,6 +5,7 @@
 
 #include "bag/frmBalls.h"
 #include "bag/frmBanko.h"
+#include "bag/frmList.h"
 #include "comblist/frmComLst.h"
 #include "comblist/frmRnd.h"
 #include "doubles/Columns.h"
@@ -43,6 +44,7 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
     add<frmLoto>("frmLoto");
     add<frmBalls>("frmBalls");
     add<frmBanko>("frmBanko");
+    add<frmList>("frmList");
     add<frmRndLst>("frmRndLst");
     add<frmRndDel>("frmRndDel");
     add<frmRLPrint>("frmRLPrint");
@@ -54,6 +56,12 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
     world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];
     world.state.Banko = {5, 45, 46, 47, 48, 49};
   }
+  /// Lets the coupon type itself to its end.
+  static void typeWhole(Form* coupon) {
+    auto* timer = control<QTimer>(coupon, "Timer1");
+    timer->setInterval(0);
+    EXPECT_TRUE(waitFor([timer] { return !timer->isActive(); }));
+  }
   void TearDown() override {
     WindowTest::TearDown();
     QApplication::setFont(usual_);
@@ -63,9 +71,11 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
 TEST_P(Fit, NoTextIsCut) {
   const std::string name = std::get<const char*>(GetParam());
   if (name == "frmRndDel") world.boxes.expectBeep();
+  if (name == "frmList") world.boxes.expectBeep(48);
   Form* form = open(name.c_str());
   ASSERT_NE(form, nullptr);
   press(form, Qt::Key_End);
+  if (name == "frmList") typeWhole(form);
   for (const QWidget* control : form->findChildren<QWidget*>()) {
     if (!control->isVisible()) continue;
     if (const auto* label = qobject_cast<const QLabel*>(control)) {
@@ -91,8 +101,9 @@ TEST_P(Fit, NoTextIsCut) {
 
 INSTANTIATE_TEST_SUITE_P(Windows, Fit,
                          testing::Combine(testing::Values("frmLoto", "frmBalls", "frmBanko",
-                                                          "frmRndLst", "frmRndDel", "frmRLPrint",
-                                                          "frmRnd", "frmComLst", "frmCLPrint"),
+                                                          "frmList", "frmRndLst", "frmRndDel",
+                                                          "frmRLPrint", "frmRnd", "frmComLst",
+                                                          "frmCLPrint"),
                                           testing::Values(1.0, 1.5, 2.0)),
                          [](const auto& row) {
                            const int percent = static_cast<int>(std::get<double>(row.param) * 100);

@@ -1,5 +1,6 @@
 #include "platform/qt/Style.h"
 
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -92,9 +93,23 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
       return 0;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight: {
+      const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+      return widget == nullptr ? usual : std::max(usual, widget->fontMetrics().ascent());
+    }
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
+}
+
+/// The accepting button stands first on every desktop.
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returned) const {
+  if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+  return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 /// The arrow at the end of menus that do not fit is drawn here: to read it from its file loads

@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
@@ -16,8 +18,17 @@ namespace {
 
 constexpr double textPixels = 13;  // 9.75 points
 
-/// How much larger than designed everything is printed: as the user's own font asks, never smaller.
-double zoomOf(const QFont& font) { return std::max(1.0, QFontInfo(font).pixelSize() / textPixels); }
+/// How high a screen must be to show a whole page of the lists as designed, in pixels.
+constexpr double pageScreen = 460;
+constexpr double leastZoom = 0.75;  // smaller letters cannot be read
+
+/// How much larger than designed everything is printed: as the user's own font asks, but not so
+/// large that a page is higher than the screen.
+double zoomOf(const QFont& font) {
+  const double wanted = std::max(1.0, QFontInfo(font).pixelSize() / textPixels);
+  const double fits = QGuiApplication::primaryScreen()->availableSize().height() / pageScreen;
+  return std::max(leastZoom, std::min(wanted, fits));
+}
 
 QColor shown(QBColor colour) {
   switch (colour) {
@@ -39,13 +50,17 @@ Surface::Surface(QWidget* parent) : QWidget(parent), zoom_(zoomOf(font())) {
   installSurfaceAccessible();
   setObjectName(QStringLiteral("Surface"));
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  QFont text = font();
-  text.setPixelSize(qRound(textPixels * zoom_));
-  setFont(text);
+  setTextSize(textPixels);
   QPalette white = palette();
   white.setColor(QPalette::Window, Qt::white);
   setPalette(white);
   setAutoFillBackground(true);
+}
+
+void Surface::setTextSize(double pixels) {
+  QFont text = font();
+  text.setPixelSize(qRound(pixels * zoom_));
+  setFont(text);
 }
 
 double Surface::pixels(double twips) const { return twips * zoom_ / twipsPerPixel; }

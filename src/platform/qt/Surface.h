@@ -13,6 +13,10 @@ class Surface final : public QWidget, public TextSurface {
  public:
   explicit Surface(QWidget* parent);
 
+  /// `pixels` (device independent) is the letters' size as designed; they grow with the user's own
+  /// font.
+  void setTextSize(double pixels);
+
   void cls() override;
   double currentX() const override { return x_; }
   void currentX(double twips) override { x_ = twips; }
