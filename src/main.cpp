@@ -21,6 +21,8 @@
 #include "randomlist/frmRndDel.h"
 #include "randomlist/frmRndLst.h"
 
+using namespace Qt::StringLiterals;
+
 // Wires the doors to the windows; what the program does stands in the rooms.
 
 namespace {
@@ -28,7 +30,7 @@ namespace {
 /// The toolkit's own words (the menus of text boxes) in Turkish too, whatever the system's
 /// language.
 void speakTurkish(QTranslator& words) {
-  if (words.load(QStringLiteral("qtbase_tr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+  if (words.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
     QApplication::installTranslator(&words);
   }
 }
@@ -38,8 +40,8 @@ void speakTurkish(QTranslator& words) {
 int main(int argc, char** argv) {
   using namespace karvenis;
   QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("KARVENIS"));
-  QApplication::setDesktopFileName(QStringLiteral("karvenis"));
+  QApplication::setApplicationName(u"KARVENIS"_s);
+  QApplication::setDesktopFileName(u"karvenis"_s);
   applyLook();
   QTranslator turkish;
   speakTurkish(turkish);

@@ -12,6 +12,8 @@
 #include "platform/qt/BallCell.h"
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -37,18 +39,16 @@ frmBalls::frmBalls(Surroundings& around, Forms& forms) : frmSelection(around, fo
 
 void frmBalls::buildMenus() {
   QMenu* choice = buildChoiceMenu();
-  choice->addSeparator()->setObjectName(QStringLiteral("mnuL1"));
-  menuEntry(choice, "mnuHepsi", QStringLiteral("Hepsini Seç"), [this] { mnuHepsi_Click(); });
-  menuEntry(choice, "mnuHicbiri", QStringLiteral("Hiçbirini Seçme"),
-            [this] { mnuHicbiri_Click(); });
+  choice->addSeparator()->setObjectName(u"mnuL1"_s);
+  menuEntry(choice, "mnuHepsi", u"Hepsini Seç"_s, [this] { mnuHepsi_Click(); });
+  menuEntry(choice, "mnuHicbiri", u"Hiçbirini Seçme"_s, [this] { mnuHicbiri_Click(); });
   QMenu* help = buildOtherMenus(choice, "mnuL2");
-  menuEntry(help, "mnuNasil", QStringLiteral("Bu Seçim Niçin ve Nasıl Uygulanır"),
-            [this] { mnuNasil_Click(); });
+  menuEntry(help, "mnuNasil", u"Bu Seçim Niçin ve Nasıl Uygulanır"_s, [this] { mnuNasil_Click(); });
 }
 
 void frmBalls::buildCells() {
-  Frame1 = control<QFrame>(QStringLiteral("Frame1"));
-  Frame1->setAccessibleName(QStringLiteral("Toplar"));
+  Frame1 = control<QFrame>(u"Frame1"_s);
+  Frame1->setAccessibleName(u"Toplar"_s);
   Frame1->setFrameShape(QFrame::StyledPanel);
   auto* grid = new QGridLayout(Frame1);
   grid->setContentsMargins(10, 10, 10, 10);
@@ -62,10 +62,10 @@ void frmBalls::buildCells() {
 
 void frmBalls::buildCell(int index) {
   const bool isBall = index > 0;
-  const QString caption = isBall ? toQt(padded(index, 2)) : QStringLiteral("top");
+  const QString caption = isBall ? toQt(padded(index, 2)) : u"top"_s;
   auto* cell = new BallCell(caption, Frame1);
-  cell->setObjectName(QStringLiteral("cmdBall_%1").arg(index));
-  cell->setToolTip(isBall ? QString::number(index) : QStringLiteral("Top"));
+  cell->setObjectName(u"cmdBall_%1"_s.arg(index));
+  cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cmdBall[static_cast<std::size_t>(index)] = cell;
   if (!isBall) {
     cell->hide();
@@ -83,8 +83,8 @@ QWidget* frmBalls::buildFoot() {
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
   buildCommands(row);
-  Label2 = control<QLabel>(QStringLiteral("Label2"), QStringLiteral("F10= Yardım"));
-  Label2->setToolTip(QStringLiteral("KARVENIS 2005"));
+  Label2 = control<QLabel>(u"Label2"_s, u"F10= Yardım"_s);
+  Label2->setToolTip(u"KARVENIS 2005"_s);
   row->addStretch();
   row->addWidget(Label2);
   return holder;
@@ -137,9 +137,8 @@ void frmBalls::setMarked(int ball, bool marked) {
   QPalette colours = palette();
   if (marked) colours.setColor(QPalette::Button, Qt::white);
   cell->setPalette(colours);
-  cell->setProperty(tag, marked ? QStringLiteral("1") : QStringLiteral("0"));
-  const QString told = QStringLiteral("%1, %2").arg(ball).arg(marked ? QStringLiteral("işaretli")
-                                                                     : QStringLiteral("işaretsiz"));
+  cell->setProperty(tag, marked ? u"1"_s : u"0"_s);
+  const QString told = u"%1, %2"_s.arg(ball).arg(marked ? u"işaretli"_s : u"işaretsiz"_s);
   if (cell->accessibleName() != told) cell->setAccessibleName(told);
 }
 

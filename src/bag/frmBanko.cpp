@@ -10,6 +10,8 @@
 #include "bag/Texts.h"
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -33,9 +35,9 @@ frmBanko::frmBanko(Surroundings& around, Forms& forms) : frmSelection(around, fo
 
 void frmBanko::buildMenus() {
   QMenu* choice = buildChoiceMenu();
-  menuEntry(choice, "mnuSil", QStringLiteral("Seçimi Sil"), [this] { mnuSil_Click(); });
+  menuEntry(choice, "mnuSil", u"Seçimi Sil"_s, [this] { mnuSil_Click(); });
   QMenu* help = buildOtherMenus(choice, "mnuL1");
-  menuEntry(help, "mnuBankoNedir", QStringLiteral("Banko Nedir ve Niçin Kullanılır"),
+  menuEntry(help, "mnuBankoNedir", u"Banko Nedir ve Niçin Kullanılır"_s,
             [this] { mnuBankoNedir_Click(); });
 }
 
@@ -44,12 +46,11 @@ QWidget* frmBanko::buildOptions() {
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(margin / 2);
-  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("Banko Top Sayısı:"));
+  Label1 = control<QLabel>(u"Label1"_s, u"Banko Top Sayısı:"_s);
   row->addWidget(Label1);
   for (int count = 0; count <= mostBankos; ++count) {
-    auto* option =
-        control<QRadioButton>(QStringLiteral("Option%1").arg(count + 1), QString::number(count));
-    option->setAccessibleName(QStringLiteral("%1 banko top").arg(count));
+    auto* option = control<QRadioButton>(u"Option%1"_s.arg(count + 1), QString::number(count));
+    option->setAccessibleName(u"%1 banko top"_s.arg(count));
     on(option, &QRadioButton::toggled, [this, option, count] {
       if (option->isChecked()) Option_Click(count);
     });
@@ -65,13 +66,13 @@ QWidget* frmBanko::buildBoxes() {
   auto* column = new QVBoxLayout(holder);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(6);
-  Label2 = control<QLabel>(QStringLiteral("Label2"));
+  Label2 = control<QLabel>(u"Label2"_s);
   column->addWidget(Label2);
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
   for (int index = 0; index < mostBankos; ++index) {
-    auto* box = control<QLineEdit>(QStringLiteral("Text1_%1").arg(index));
-    box->setAccessibleName(QStringLiteral("%1. banko top").arg(index + 1));
+    auto* box = control<QLineEdit>(u"Text1_%1"_s.arg(index));
+    box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
     box->setAlignment(Qt::AlignCenter);
     box->setFixedHeight(boxHeight);
     box->setMinimumWidth(boxHeight);
@@ -100,8 +101,8 @@ QWidget* frmBanko::buildFoot() {
   buildCommands(row);
   column->addLayout(row);
   auto* foot = new QHBoxLayout;
-  Label3 = control<QLabel>(QStringLiteral("Label3"), QStringLiteral("KARVENIS 2005 Randomizer"));
-  Label4 = control<QLabel>(QStringLiteral("Label4"), QStringLiteral("F10= Yardım"));
+  Label3 = control<QLabel>(u"Label3"_s, u"KARVENIS 2005 Randomizer"_s);
+  Label4 = control<QLabel>(u"Label4"_s, u"F10= Yardım"_s);
   foot->addWidget(Label3);
   foot->addStretch();
   foot->addWidget(Label4);

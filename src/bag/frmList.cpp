@@ -7,6 +7,8 @@
 
 #include "platform/qt/Surface.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -27,14 +29,14 @@ frmList::frmList(Surroundings& around, Forms& forms)
   whole->setSizeConstraint(QLayout::SetFixedSize);
   whole->addWidget(page_);
 
-  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("F10 = Yardım"));
+  Label1 = control<QLabel>(u"Label1"_s, u"F10 = Yardım"_s);
   QSizePolicy kept = Label1->sizePolicy();
   kept.setRetainSizeWhenHidden(true);
   Label1->setSizePolicy(kept);
   whole->addWidget(Label1, 0, Qt::AlignRight);
 
   Timer1 = new QTimer(this);
-  Timer1->setObjectName(QStringLiteral("Timer1"));
+  Timer1->setObjectName(u"Timer1"_s);
   Timer1->setInterval(tick);
   on(Timer1, &QTimer::timeout, [this] {
     if (!isClosing()) coupon_.tick();
@@ -46,7 +48,7 @@ Surface* frmList::makePage(QWidget* parent) {
   auto* page = new Surface(parent);
   page->setTextSize(textPixels);
   const QFontMetrics metrics(page->font());
-  const QString widest = QStringLiteral(" Kolon  8 - 48  48  48  48  48  48  ");
+  const QString widest = u" Kolon  8 - 48  48  48  48  48  48  "_s;
   page->setFixedSize(metrics.horizontalAdvance(widest), linesOfPage * metrics.height());
   return page;
 }

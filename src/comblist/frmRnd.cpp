@@ -11,6 +11,8 @@
 #include "platform/qt/Forms.h"
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -29,21 +31,20 @@ frmRnd::frmRnd(Surroundings& around, Forms& forms)
   whole->setSizeConstraint(QLayout::SetFixedSize);
   whole->addLayout(buildCount());
   whole->addLayout(buildOptions());
-  Line1 = control<QFrame>(QStringLiteral("Line1"));
+  Line1 = control<QFrame>(u"Line1"_s);
   Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
   Line1->setMinimumWidth(titleWidth - 2 * margin);
   whole->addWidget(Line1);
-  Label2 = control<QLabel>(QStringLiteral("Label2"),
-                           QStringLiteral("KARVENIS.LST dosyasına kayıtlanacak."));
-  Label2->setToolTip(QStringLiteral("Kombinasyon Listesi dosyasına kayıtlanacak."));
+  Label2 = control<QLabel>(u"Label2"_s, u"KARVENIS.LST dosyasına kayıtlanacak."_s);
+  Label2->setToolTip(u"Kombinasyon Listesi dosyasına kayıtlanacak."_s);
   whole->addWidget(Label2);
   whole->addLayout(buildCommands());
 }
 
 QLayout* frmRnd::buildCount() {
-  Label1 = control<QLabel>(QStringLiteral("Label1"), QStringLiteral("Kolon Sayısı:"));
-  Text1 = control<QLineEdit>(QStringLiteral("Text1"), QStringLiteral("32767"));
-  Text1->setToolTip(QStringLiteral("Rastgele küme oluşturmak için en çok deneme sayısı."));
+  Label1 = control<QLabel>(u"Label1"_s, u"Kolon Sayısı:"_s);
+  Text1 = control<QLineEdit>(u"Text1"_s, u"32767"_s);
+  Text1->setToolTip(u"Rastgele küme oluşturmak için en çok deneme sayısı."_s);
   Label1->setBuddy(Text1);
   auto* row = new QHBoxLayout;
   row->setSpacing(spacing);
@@ -53,8 +54,8 @@ QLayout* frmRnd::buildCount() {
 }
 
 QLayout* frmRnd::buildOptions() {
-  Option1 = control<QRadioButton>(QStringLiteral("Option1"), QStringLiteral("Yeni Liste"));
-  Option2 = control<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("Mevcut Listeye Ekle"));
+  Option1 = control<QRadioButton>(u"Option1"_s, u"Yeni Liste"_s);
+  Option2 = control<QRadioButton>(u"Option2"_s, u"Mevcut Listeye Ekle"_s);
   Option1->setChecked(true);
   onOption(Option1, &frmRnd::Option1_Click);
   onOption(Option2, &frmRnd::Option2_Click);

@@ -17,6 +17,8 @@
 
 // How the main window is built and painted. Lengths are device independent pixels.
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -80,15 +82,15 @@ frmLoto::frmLoto(Surroundings& around, Forms& forms)
   buildStage();
   buildPanel();
   buildTimers();
-  Picture2 = new Picture(artwork_, QStringLiteral("window.svg"), {}, this);
-  Picture2->setObjectName(QStringLiteral("Picture2"));
+  Picture2 = new Picture(artwork_, u"window.svg"_s, {}, this);
+  Picture2->setObjectName(u"Picture2"_s);
   Picture2->hide();
   setCaption(standardTitle);
   Command1->setFocus();
 }
 
 void frmLoto::buildMenus() {
-  QMenu* file = menuHead("mnuDosya", QStringLiteral("Dosya"));
+  QMenu* file = menuHead("mnuDosya", u"Dosya"_s);
   function(1, file, "mnuSaveRndColumn", u"Kolunu KARVENIS.RND dosyasına kayıtla (F1)",
            [this] { mnuSaveRndColumn_Click(); });
   function(2, file, "mnuShowRndList", u"KARVENIS.RND dosyasını göster (F2)",
@@ -98,34 +100,27 @@ void frmLoto::buildMenus() {
   function(4, file, "mnuDeleteRndFile", u"KARVENIS.RND dosyasını sil (F4)",
            [this] { mnuDeleteRndFile_Click(); });
 
-  QMenu* bag = menuHead("mnuBag", QStringLiteral("Torba"));
-  function(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] {
-    mnuShowBag_Click();
-  })->setEnabled(forms().knows("frmBalls"));
+  QMenu* bag = menuHead("mnuBag", u"Torba"_s);
+  function(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] { mnuShowBag_Click(); });
   function(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
            [this] { mnuLoadBag_Click(); });
 
-  QMenu* banko = menuHead("mnuBanko", QStringLiteral("Banko"));
-  function(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] {
-    mnuShowBanko_Click();
-  })->setEnabled(forms().knows("frmBanko"));
+  QMenu* banko = menuHead("mnuBanko", u"Banko"_s);
+  function(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] { mnuShowBanko_Click(); });
   function(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
            [this] { mnuLoadBanko_Click(); });
 
-  QMenu* list = menuHead("mnuListe", QStringLiteral("Liste"));
-  function(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)", [this] {
-    mnuShow8Columns_Click();
-  })->setEnabled(forms().knows("frmList"));
-  function(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)", [this] {
-    mnuCreateRndCList_Click();
-  })->setEnabled(forms().knows("frmRnd"));
-  function(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)", [this] {
-    mnuShowClist_Click();
-  })->setEnabled(forms().knows("frmComLst"));
+  QMenu* list = menuHead("mnuListe", u"Liste"_s);
+  function(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)",
+           [this] { mnuShow8Columns_Click(); });
+  function(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)",
+           [this] { mnuCreateRndCList_Click(); });
+  function(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)",
+           [this] { mnuShowClist_Click(); });
 
-  QMenu* help = menuHead("mnuHelp", QStringLiteral("Yardım"));
+  QMenu* help = menuHead("mnuHelp", u"Yardım"_s);
   function(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
-  menuEntry(help, "mnuAbout", QStringLiteral("Program hakkında"), [this] { mnuAbout_Click(); });
+  menuEntry(help, "mnuAbout", u"Program hakkında"_s, [this] { mnuAbout_Click(); });
 }
 
 /// The menu entry that the function key `number` triggers too.
@@ -140,11 +135,11 @@ void frmLoto::buildBanner() {
   auto* opening = new QWidget(this);
   opening->setFixedSize(windowArt.width(), bannerArt.height() + companionArt.height());
   makeSurface(opening);
-  Picture3 = new Picture(artwork_, QStringLiteral("banner.svg"), {}, opening);
-  Picture3->setObjectName(QStringLiteral("Picture3"));
+  Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, opening);
+  Picture3->setObjectName(u"Picture3"_s);
   Picture3->resize(bannerArt);
-  Picture4 = new Picture(artwork_, QStringLiteral("companion.svg"), {}, opening);
-  Picture4->setObjectName(QStringLiteral("Picture4"));
+  Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, opening);
+  Picture4->setObjectName(u"Picture4"_s);
   Picture4->resize(companionArt);
   placeBanner();
   layout()->addWidget(opening);
@@ -161,9 +156,9 @@ void frmLoto::buildStage() {
   stage_->setFixedSize(stageSize);
   makeSurface(stage_);
   for (int k = 1; k <= ballsInColumn; ++k) buildBall(k);
-  Picture0 = new Picture(artwork_, QStringLiteral("opening.svg"), {}, stage_);
-  Picture0->setObjectName(QStringLiteral("Picture0"));
-  Picture0->setAccessibleName(QStringLiteral("Açılış resmi"));
+  Picture0 = new Picture(artwork_, u"opening.svg"_s, {}, stage_);
+  Picture0->setObjectName(u"Picture0"_s);
+  Picture0->setAccessibleName(u"Açılış resmi"_s);
   Picture0->resize(stageSize);
   Picture0->setAttribute(Qt::WA_OpaquePaintEvent);
   Picture0->setCursor(Qt::PointingHandCursor);
@@ -178,9 +173,9 @@ void frmLoto::buildBall(int k) {
   const QRect rest = restOf(k);
   for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
     const int index = 5 * (k - 1) + 1 + static_cast<int>(step);
-    const QString part = QStringLiteral("p%1-%2").arg(k).arg(QLatin1Char("abcd"[step]));
-    auto* image = new Picture(artwork_, QStringLiteral("ball.svg"), part, stage_);
-    image->setObjectName(QStringLiteral("Image1_%1").arg(index));
+    const QString part = u"p%1-%2"_s.arg(k).arg(QLatin1Char("abcd"[step]));
+    auto* image = new Picture(artwork_, u"ball.svg"_s, part, stage_);
+    image->setObjectName(u"Image1_%1"_s.arg(index));
     image->setGeometry(rest.translated(stepOffsets[step]));
     image->setVisible(step + 1 == stepOffsets.size());
     Image1[static_cast<std::size_t>(index)] = image;
@@ -192,7 +187,7 @@ void frmLoto::buildBall(int k) {
 
 QLabel* frmLoto::buildLabel(int index, const QRect& place, int pixels, unsigned colour) {
   auto* number = dressed(new QLabel(stage_), pixels, colour);
-  number->setObjectName(QStringLiteral("Label1_%1").arg(index));
+  number->setObjectName(u"Label1_%1"_s.arg(index));
   number->setGeometry(place);
   number->setMouseTracking(true);
   number->installEventFilter(this);
@@ -204,9 +199,8 @@ QLabel* frmLoto::buildLabel(int index, const QRect& place, int pixels, unsigned 
 /// What a number label is called by those who have the window read to them.
 void frmLoto::nameLabel(int index) {
   QLabel* number = Label1[static_cast<std::size_t>(index)];
-  const QString kind =
-      index % 2 == 0 ? QStringLiteral("%1. top: %2") : QStringLiteral("%1. sayı: %2");
-  const QString told = number->text().isEmpty() ? QStringLiteral("boş") : number->text();
+  const QString kind = index % 2 == 0 ? u"%1. top: %2"_s : u"%1. sayı: %2"_s;
+  const QString told = number->text().isEmpty() ? u"boş"_s : number->text();
   number->setAccessibleName(kind.arg(index / 2 + 1).arg(told));
 }
 
@@ -226,15 +220,15 @@ void frmLoto::buildPanel() {
 }
 
 QWidget* frmLoto::buildChoices() {
-  Frame1 = control<QFrame>(QStringLiteral("Frame1"));
-  Frame1->setAccessibleName(QStringLiteral("Kolonun kaynağı ve sırası"));
+  Frame1 = control<QFrame>(u"Frame1"_s);
+  Frame1->setAccessibleName(u"Kolonun kaynağı ve sırası"_s);
   Frame1->setFrameShape(QFrame::StyledPanel);
   auto* column = new QVBoxLayout(Frame1);
   column->setContentsMargins(14, 8, 14, 8);
   column->setSpacing(5);
-  Option1 = control<QRadioButton>(QStringLiteral("Option1"), QStringLiteral("Torbadan Çek"));
-  Option2 = control<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("Listeden Çek"));
-  Check1 = control<QCheckBox>(QStringLiteral("Check1"), QStringLiteral("Numara Sırası"));
+  Option1 = control<QRadioButton>(u"Option1"_s, u"Torbadan Çek"_s);
+  Option2 = control<QRadioButton>(u"Option2"_s, u"Listeden Çek"_s);
+  Check1 = control<QCheckBox>(u"Check1"_s, u"Numara Sırası"_s);
   Option1->setChecked(true);
   on(Check1, &QCheckBox::toggled, [this] { Check1_Click(); });
   column->addWidget(Option1);
@@ -248,17 +242,17 @@ QWidget* frmLoto::buildClock() {
   makeSurface(plate);
   auto* row = new QHBoxLayout(plate);
   row->setContentsMargins(0, 0, 0, 0);
-  Picture1 = new Picture(artwork_, QStringLiteral("emblem.svg"), {}, plate);
-  Picture1->setObjectName(QStringLiteral("Picture1"));
-  Picture1->setAccessibleName(QStringLiteral("KARVENIS amblemi"));
+  Picture1 = new Picture(artwork_, u"emblem.svg"_s, {}, plate);
+  Picture1->setObjectName(u"Picture1"_s);
+  Picture1->setAccessibleName(u"KARVENIS amblemi"_s);
   Picture1->setFixedSize(64, 64);
   row->addWidget(Picture1);
   auto* column = new QVBoxLayout;
   column->setSpacing(2);
   Label2 = dressed(new QLabel(plate), 14, look::muted);
   Label3 = dressed(new QLabel(plate), 20, look::petrol);
-  Label2->setObjectName(QStringLiteral("Label2"));
-  Label3->setObjectName(QStringLiteral("Label3"));
+  Label2->setObjectName(u"Label2"_s);
+  Label3->setObjectName(u"Label3"_s);
   Label3->setMinimumWidth(100);
   column->addStretch();
   column->addWidget(Label2);
@@ -271,7 +265,7 @@ QWidget* frmLoto::buildClock() {
 void frmLoto::buildTimers() {
   for (int number = 0; number <= ballsInColumn; ++number) {
     QTimer* timer = Timer[static_cast<std::size_t>(number)] = new QTimer(this);
-    timer->setObjectName(QStringLiteral("Timer%1").arg(number));
+    timer->setObjectName(u"Timer%1"_s.arg(number));
     timer->setTimerType(number == 0 ? Qt::CoarseTimer : Qt::PreciseTimer);
     timer->setInterval(number == 0 ? tickOfClock : tickOfBalls);
     on(timer, &QTimer::timeout, [this, number] {
@@ -287,7 +281,7 @@ void frmLoto::buildTimers() {
 
 /// The window's own picture becomes that of Picture2.
 void frmLoto::takePicture() {
-  picture_ = artwork_.pixmap(QStringLiteral("window.svg"), {}, windowArt, devicePixelRatioF());
+  picture_ = artwork_.pixmap(u"window.svg"_s, {}, windowArt, devicePixelRatioF());
   update();
 }
 

@@ -92,6 +92,15 @@ class Looks(DesktopCase):
                 program.gone(title)
                 program.activated(STANDARD_TITLE)
 
+    def test_alt_leads_to_the_menus(self):
+        program = self.start()
+        program.keys("alt", "Right", "Down", "Return")
+        program.activated("6/49 Top Seçme Tablosu")
+        program.keys("Escape")
+        program.activated(STANDARD_TITLE)
+        program.keys("alt", "Escape", "F5")
+        program.activated("6/49 Top Seçme Tablosu")
+
     def test_keys_with_a_modifier_do_nothing(self):
         program = self.start()
         for modifier in ("shift", "ctrl", "alt"):

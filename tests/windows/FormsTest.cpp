@@ -67,6 +67,10 @@ TEST_F(FormsTest, AWindowLoadsResizesAndActivatesOnce) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Load", "frmA Resize", "frmA Form_Activate"}));
 }
 
+TEST_F(FormsTest, AWindowThatNobodyMadeKnownIsNotShownInSilence) {
+  EXPECT_THROW(forms.show("frmNowhere"), std::logic_error);
+}
+
 TEST_F(FormsTest, ShowingAnOpenWindowRaisesIt) {
   show("frmA");
   show("frmB");

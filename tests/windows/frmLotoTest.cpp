@@ -331,13 +331,6 @@ TEST_F(FrmLoto, AHeldF1SavesOnce) {
   EXPECT_EQ(world.files.bytes("KARVENIS.RND").size(), 16U);
 }
 
-TEST_F(FrmLoto, LaunchersOfAbsentWindowsAreDisabled) {
-  for (const char* entry :
-       {"mnuShowBag", "mnuShowBanko", "mnuShow8Columns", "mnuCreateRndCList", "mnuShowClist"}) {
-    EXPECT_FALSE(loto->findChild<QAction*>(entry)->isEnabled()) << entry;
-  }
-}
-
 TEST_F(FrmLoto, MenuCaptionsAreTheProgramsOwn) {
   const std::vector<std::pair<const char*, const char*>> captions = {
       {"mnuSaveRndColumn", "Kolunu KARVENIS.RND dosyasına kayıtla (F1)"},

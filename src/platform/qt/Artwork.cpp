@@ -6,11 +6,12 @@
 #include <QResource>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 
 QPixmap readyMade(const QString& name, const QSize& size) {
-  const QResource resource(
-      QStringLiteral(":/ready/%1-%2x%3").arg(name).arg(size.width()).arg(size.height()));
+  const QResource resource(u":/ready/%1-%2x%3"_s.arg(name).arg(size.width()).arg(size.height()));
   if (!resource.isValid()) return {};
   // The picture keeps the bytes instead of copying them.
   auto* bytes = new QByteArray(resource.uncompressedData());
@@ -26,8 +27,7 @@ Artwork::~Artwork() = default;
 QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize& size,
                         qreal ratio) {
   const QSize pixels = (QSizeF(size) * ratio).toSize();
-  const QString key =
-      QStringLiteral("%1#%2 %3x%4").arg(file, element).arg(pixels.width()).arg(pixels.height());
+  const QString key = u"%1#%2 %3x%4"_s.arg(file, element).arg(pixels.width()).arg(pixels.height());
   QPixmap& drawing = drawn_[key];
   if (!drawing.isNull() || pixels.isEmpty()) return drawing;
 
@@ -51,7 +51,7 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
 
 QSvgRenderer& Artwork::renderer(const QString& file) {
   if (loaded_ != file) {
-    renderer_ = std::make_unique<QSvgRenderer>(QStringLiteral(":/assets/") + file);
+    renderer_ = std::make_unique<QSvgRenderer>(u":/assets/"_s + file);
     loaded_ = file;
   }
   return *renderer_;

@@ -94,7 +94,7 @@ QAction* Form::menuEntry(QMenu* head, const char* entryName, const QString& text
 
 void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
   on(box, &QLineEdit::returnPressed, [this, procedure = std::move(procedure)] {
-    if (!keyRepeats_) procedure();
+    if (!forms_.heldKeys().repeats()) procedure();
   });
 }
 
@@ -138,9 +138,8 @@ bool Form::handleKey(const QKeyEvent& key) {
   if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
     return true;
   const int code = keyCodeOf(key);
-  keyRepeats_ = forms_.heldKeys().repeats();
   const bool once = isFunctionKey(code) || code == keyEscape;
-  if (once && keyRepeats_) return true;
+  if (once && forms_.heldKeys().repeats()) return true;
   if (code == keyEscape && forms_.isLosing(*this)) return true;  // meant for the new window
 
   const int shift = shiftOf(key);
@@ -164,7 +163,7 @@ bool Form::pressesFocused(int code) const {
 /// focus to is not pressed. Returns whether the key was one that presses.
 bool Form::pressFocused(int code, QWidget* focused) {
   if (focused != focusWidget() || !pressesFocused(code)) return false;
-  if (!keyRepeats_) qobject_cast<QAbstractButton*>(focused)->click();
+  if (!forms_.heldKeys().repeats()) qobject_cast<QAbstractButton*>(focused)->click();
   return true;
 }
 

@@ -112,7 +112,6 @@ class Form : public QWidget, public TitleBar {
   QSize lastSize_;
   int running_ = 0;
   bool closing_ = false;
-  bool keyRepeats_ = false;
   bool clickArmed_ = false;
   bool pressWasFree_ = false;        // the last press was on the window's own surface
   bool pressBeforeWasFree_ = false;  // and so was the one before

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <stdexcept>
 
 #include "platform/RunTimeError.h"
 #include "platform/qt/Form.h"
@@ -34,8 +35,6 @@ void Forms::add(std::string form, Factory make) {
   factories_.emplace(std::move(form), std::move(make));
 }
 
-bool Forms::knows(std::string_view form) const { return factories_.contains(form); }
-
 Form* Forms::find(std::string_view form) const {
   for (const QPointer<Form>& candidate : open_) {
     if (candidate && !candidate->isClosing() && candidate->name() == form) return candidate;
@@ -49,10 +48,10 @@ void Forms::show(std::string_view form) {
   if (window != nullptr) present(*window);
 }
 
-/// Makes and loads a window; null where there is none of that name or it closed itself at once.
+/// Makes and loads a window; null where it closed itself at once.
 Form* Forms::open(std::string_view form) {
   const auto factory = factories_.find(form);
-  if (factory == factories_.end()) return nullptr;
+  if (factory == factories_.end()) throw std::logic_error("no window " + std::string(form));
   Form* window = factory->second();
   window->setOpener(active_);
   std::erase_if(open_, [](const QPointer<Form>& gone) { return gone.isNull(); });

@@ -29,7 +29,6 @@ class Forms final : public Windows {
   /// Makes `form` known by its name; `make` returns a new window, which then belongs to itself and
   /// goes when it is closed. The first one added is the main window.
   void add(std::string form, Factory make);
-  bool knows(std::string_view form) const;
   /// The open window of that name, or null.
   Form* find(std::string_view form) const;
 

@@ -8,6 +8,8 @@
 #include "platform/qt/Artwork.h"
 #include "platform/qt/Style.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -33,7 +35,7 @@ QPalette palette() {
 QIcon icon() {
   QIcon made;
   for (const int size : {32, 64}) {
-    made.addPixmap(readyMade(QStringLiteral("karvenis"), {size, size}));
+    made.addPixmap(readyMade(u"karvenis"_s, {size, size}));
   }
   return made;
 }

@@ -8,6 +8,8 @@
 
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -50,15 +52,15 @@ QWidget* QtBoxes::prepare() const {
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
   QMessageBox box(prepare());
   fill(box, text, title, icon);
-  box.setDefaultButton(box.addButton(QStringLiteral("Tamam"), QMessageBox::AcceptRole));
+  box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
   box.exec();
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
   QMessageBox box(prepare());
   fill(box, text, title, Icon::question);
-  QPushButton* yes = box.addButton(QStringLiteral("Evet"), QMessageBox::YesRole);
-  QPushButton* no = box.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole);
+  QPushButton* yes = box.addButton(u"Evet"_s, QMessageBox::YesRole);
+  QPushButton* no = box.addButton(u"Hayır"_s, QMessageBox::NoRole);
   box.setDefaultButton(yes);
   box.setEscapeButton(no);
   box.exec();
@@ -71,8 +73,8 @@ std::string QtBoxes::input(const std::string& prompt, const std::string& title,
   box.setWindowTitle(toQt(title));
   box.setLabelText(toQtLines(prompt));
   box.setTextValue(toQt(preset));
-  box.setOkButtonText(QStringLiteral("Tamam"));
-  box.setCancelButtonText(QStringLiteral("İptal"));
+  box.setOkButtonText(u"Tamam"_s);
+  box.setCancelButtonText(u"İptal"_s);
   box.setWindowModality(Qt::ApplicationModal);
   if (auto* label = box.findChild<QLabel*>()) {
     label->setTextFormat(Qt::PlainText);

@@ -7,15 +7,15 @@
 
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 
 std::string QtClock::date() {
   return fromQt(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));
 }
 
-std::string QtClock::time() {
-  return fromQt(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")));
-}
+std::string QtClock::time() { return fromQt(QTime::currentTime().toString(u"HH:mm:ss"_s)); }
 
 std::int16_t QtClock::minute() { return static_cast<std::int16_t>(QTime::currentTime().minute()); }
 

@@ -14,6 +14,8 @@
 #include "platform/Twips.h"
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -38,7 +40,7 @@ QRectF printable(const QPrinter& printer) {
 /// the print library itself when it first prints; linked to the program, that library and the
 /// twenty behind it would be loaded at every start.
 void refuseUnlessQueued() {
-  QLibrary cups(QStringLiteral("cups"), 2);
+  QLibrary cups(u"cups"_s, 2);
   const auto lastError = reinterpret_cast<decltype(&cupsLastError)>(cups.resolve("cupsLastError"));
   const auto words =
       reinterpret_cast<decltype(&cupsLastErrorString)>(cups.resolve("cupsLastErrorString"));
@@ -59,7 +61,7 @@ QPrinter& QtPrinter::printer() {
   auto made = std::make_unique<QPrinter>(queue, QPrinter::HighResolution);
   if (!made->isValid()) fail("yazıcı kullanılamıyor");
   made->setFullPage(true);
-  made->setDocName(QStringLiteral("KARVENIS"));
+  made->setDocName(u"KARVENIS"_s);
   printer_ = std::move(made);
   return *printer_;
 }

@@ -8,6 +8,8 @@
 
 #include "platform/qt/Look.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -70,7 +72,7 @@ void drawMenuHead(const QStyleOptionMenuItem& head, QPainter& painter, const QSt
 
 }  // namespace
 
-Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+Style::Style() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const {

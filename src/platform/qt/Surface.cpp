@@ -13,6 +13,8 @@
 #include "platform/qt/SurfaceAccessible.h"
 #include "platform/qt/Text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -48,7 +50,7 @@ QColor shown(QBColor colour) {
 
 Surface::Surface(QWidget* parent) : QWidget(parent), zoom_(zoomOf(font())) {
   installSurfaceAccessible();
-  setObjectName(QStringLiteral("Surface"));
+  setObjectName(u"Surface"_s);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setTextSize(textPixels);
   QPalette white = palette();
