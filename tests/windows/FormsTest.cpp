@@ -145,6 +145,21 @@ TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {
   EXPECT_TRUE(log.empty());
 }
 
+// The list window's own warning gave the focus away while it closed; the activation that followed
+// opened the warning a second time inside the first, and the window went with both of them.
+TEST_F(FormsTest, FocusThatMovesWhileAProcedureRunsIsNoActivation) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  b->onKey = [a] {
+    QEvent focus(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(a, &focus);
+  };
+  taken();
+  press(b, Qt::Key_F1);
+  EXPECT_EQ(taken(), (Log{"frmB KeyDown 112/0"}));
+  EXPECT_EQ(forms.active(), b);
+}
+
 TEST_F(FormsTest, TheFormSeesAKeyOnceBeforeTheControl) {
   Noting* a = show("frmA");
   taken();

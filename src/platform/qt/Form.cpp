@@ -49,11 +49,13 @@ void Form::unload() {
 void Form::run(const std::function<void()>& procedure) {
   if (forms_.ending()) return;
   ++running_;
+  forms_.procedureBegins();
   try {
     procedure();
   } catch (const std::exception& error) {
     forms_.fault(error);
   }
+  forms_.procedureEnds();
   --running_;
   if (running_ == 0) showCaption();
 }
@@ -100,7 +102,7 @@ void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
 
 bool Form::event(QEvent* event) {
   const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::WindowActivate && isVisible()) forms_.became(*this);
+  if (event->type() == QEvent::WindowActivate && isVisible()) forms_.gotFocus(*this);
   if (event->type() == QEvent::WindowDeactivate) pressWasFree_ = pressBeforeWasFree_ = false;
   return handled;
 }

@@ -71,6 +71,13 @@ void Forms::present(Form& form) {
   became(form);
 }
 
+/// While a procedure runs, the focus moves only because of its boxes, and a box is no activation; a
+/// window that the procedure itself shows is activated by present().
+void Forms::gotFocus(Form& form) {
+  if (running_ == 0) became(form);
+}
+
+/// `form` is the window the user works in now; runs its Form_Activate where it was another before.
 void Forms::became(Form& form) {
   if (ending_ || active_ == &form || form.isClosing()) return;
   active_ = &form;

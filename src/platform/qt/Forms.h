@@ -43,9 +43,11 @@ class Forms final : public Windows {
   /// Whether the program is about to end.
   bool ending() const { return ending_; }
 
-  /// `form` is the window the user works in now; runs its Form_Activate where it was another
-  /// before.
-  void became(Form& form);
+  /// The window system gave `form` the keyboard.
+  void gotFocus(Form& form);
+  /// An event procedure of some window begins, perhaps inside another one, and ends.
+  void procedureBegins() { ++running_; }
+  void procedureEnds() { --running_; }
   /// Whether another window is about to take the place of `form`: a fast key may still reach it.
   bool isLosing(const Form& form) const {
     return active_ != &form && sincePresented_.isValid() && sincePresented_.elapsed() < 500;
@@ -66,6 +68,7 @@ class Forms final : public Windows {
  private:
   Form* open(std::string_view form);
   void present(Form& form);
+  void became(Form& form);
 
   Boxes& boxes_;
   std::map<std::string, Factory, std::less<>> factories_;
@@ -74,6 +77,7 @@ class Forms final : public Windows {
   QPointer<Form> active_;
   QElapsedTimer sincePresented_;
   HeldKeys heldKeys_;
+  int running_ = 0;  // event procedures that have not ended
   bool ending_ = false;
   int status_ = 0;
   std::shared_ptr<bool> dropping_ = std::make_shared<bool>(false);  // outlives us in its timers
