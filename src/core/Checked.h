@@ -13,7 +13,7 @@ template <typename Int>
 Int checked(std::int64_t number) {
   if (number < std::numeric_limits<Int>::min() || number > std::numeric_limits<Int>::max()) {
     throw RunTimeError(Fault::overflow, std::to_string(number),
-                       std::to_string(sizeof(Int) * 8) + " bit");
+                       std::to_string(sizeof(Int) * 8) + " bite sığmıyor");
   }
   return static_cast<Int>(number);
 }

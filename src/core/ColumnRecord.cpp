@@ -1,7 +1,7 @@
 #include "core/ColumnRecord.h"
 
-#include "core/Checked.h"
 #include "core/LittleEndian.h"
+#include "platform/RunTimeError.h"
 
 namespace karvenis {
 
@@ -22,12 +22,16 @@ ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes) 
   return record;
 }
 
-std::int16_t columnSum(const Column& column) {
-  std::int16_t sum = 0;
+std::int16_t columnSum(const Column& column, std::int64_t number) {
+  std::int32_t sum = 0;
   for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    sum = checked<std::int16_t>(std::int64_t{sum} + column[k]);
+    sum += column[k];
+    if (sum != static_cast<std::int16_t>(sum)) {
+      throw RunTimeError(Fault::overflow, std::to_string(sum),
+                         std::to_string(number) + ". kolon bozuk, toplamı 16 bite sığmıyor");
+    }
   }
-  return sum;
+  return static_cast<std::int16_t>(sum);
 }
 
 }  // namespace karvenis

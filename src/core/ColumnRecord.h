@@ -28,7 +28,8 @@ inline constexpr std::int32_t recordLimit = 32767;
 void encode(const ColumnRecord& record, std::span<std::byte, ColumnRecord::size> bytes);
 ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes);
 
-/// The sum of the six balls. Throws RunTimeError(overflow) where it outgrows 16 bits on the way.
-std::int16_t columnSum(const Column& column);
+/// The sum of the six balls of record `number`. Throws RunTimeError(overflow) where it outgrows 16
+/// bits on the way, as it can in a damaged record.
+std::int16_t columnSum(const Column& column, std::int64_t number);
 
 }  // namespace karvenis

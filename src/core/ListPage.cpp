@@ -33,7 +33,7 @@ std::string bracketed(std::int16_t sum) {
 }
 
 void drawRow(TextSurface& surface, std::int64_t number, const Column& balls) {
-  const std::int16_t sum = columnSum(balls);
+  const std::int16_t sum = columnSum(balls, number);
   const double firstBall = printLabel(surface, number);
   surface.foreColor(QBColor::lightBlue);
   for (std::size_t k = 1; k <= ballsInColumn; ++k) {

@@ -33,7 +33,7 @@ char* putPadded(char* at, std::int32_t number, std::size_t digits) {
 
 void appendColumnLine(std::string& text, std::int32_t number, std::size_t digits,
                       const Column& balls) {
-  const std::int16_t sum = columnSum(balls);
+  const std::int16_t sum = columnSum(balls, number);
   std::array<char, lineRoom> line;
   char* end = put(line.data(), "Kolon ");
   end = putPadded(end, number, digits);

@@ -94,10 +94,16 @@ TEST(ColumnRecord, HasItsGoldenBytes) {
 }
 
 TEST(ColumnSum, OverflowsAsAFault) {
-  EXPECT_EQ(columnSum(column(1, 2, 3, 4, 5, 6)), 21);
-  EXPECT_EQ(columnSum(column(32767, -1, 1, 0, 0, 0)), 32767);
-  EXPECT_THROW(columnSum(column(32767, 1, -1, 0, 0, 0)), RunTimeError);
-  EXPECT_THROW(columnSum(column(-32768, -1, 0, 0, 0, 0)), RunTimeError);
+  EXPECT_EQ(columnSum(column(1, 2, 3, 4, 5, 6), 1), 21);
+  EXPECT_EQ(columnSum(column(32767, -1, 1, 0, 0, 0), 1), 32767);
+  EXPECT_THROW(columnSum(column(32767, 1, -1, 0, 0, 0), 1), RunTimeError);
+  try {
+    columnSum(column(-32768, -1, 0, 0, 0, 0), 7);
+    ADD_FAILURE() << "no fault";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(describe(error),
+              "'-32769' sayısı taştı.\rNeden: 7. kolon bozuk, toplamı 16 bite sığmıyor");
+  }
 }
 
 TEST(RecordFile, ARecordNumberBelowOneIsAFaultThatTellsIt) {
