@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -94,12 +95,16 @@ class SystemFile final : public File {
   std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
     return readAll(descriptor_.get(), offset, into, name_);
   }
-  /// Bytes that come to stand behind the file's end stand there whole or not at all.
+  /// The bytes stand in the file whole or not at all: where only some of them could be written,
+  /// those that stood there before are put back, and the file is as long as it was.
   void write(std::uint64_t offset, std::span<const std::byte> bytes) override {
     const std::uint64_t before = length();
+    std::vector<std::byte> old(offset < before ? std::min(bytes.size(), before - offset) : 0);
+    readAll(descriptor_.get(), offset, old, name_);
     try {
       writeAll(descriptor_.get(), offset, bytes, name_);
     } catch (const RunTimeError&) {
+      std::ignore = ::pwrite(descriptor_.get(), old.data(), old.size(), static_cast<off_t>(offset));
       if (length() > before) {
         std::ignore = ::ftruncate(descriptor_.get(), static_cast<off_t>(before));
       }

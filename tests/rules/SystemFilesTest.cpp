@@ -161,19 +161,36 @@ TEST_F(InAFolder, ACopyThatIsUnderWayElsewhereIsLeftAlone) {
   EXPECT_EQ(get("TO~"), "the copy of another process");
 }
 
-TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsLongAsItWas) {
-  put("F", std::string(100, 'o'));
-  const auto file = files.open("F");
-  const auto before = std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limit{};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-  const rlimit small{110, limit.rlim_max};
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-  const Fault fault = faultOf([&] { file->write(96, Bytes(32, std::byte{'n'})); });
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-  std::ignore = std::signal(SIGXFSZ, before);
-  EXPECT_EQ(fault, Fault::write);
-  EXPECT_EQ(get("F").size(), 100U);
+/// What a file of a hundred bytes holds after a write that a limit on its length broke off.
+struct BrokenWrite {
+  const char* name;
+  std::uint64_t offset;
+  std::size_t bytes;
+  rlim_t limit;
+};
+
+TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsItWas) {
+  std::string old;
+  for (int i = 0; i < 100; ++i) old += static_cast<char>('0' + i % 10);
+  for (const auto& [name, offset, bytes, limit] :
+       {BrokenWrite{"inside", 0, 8, 5}, BrokenWrite{"all of it", 0, 100, 99},
+        BrokenWrite{"over the end", 96, 32, 110}, BrokenWrite{"over the end, inside", 90, 32, 93},
+        BrokenWrite{"behind the end", 100, 32, 110}, BrokenWrite{"far behind it", 150, 32, 160}}) {
+    SCOPED_TRACE(name);
+    put("F", old);
+    const auto file = files.open("F");
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit whole{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &whole), 0);
+    const rlimit small{limit, whole.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const Fault fault =
+        faultOf([&, at = offset, count = bytes] { file->write(at, Bytes(count, std::byte{'n'})); });
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &whole), 0);
+    std::ignore = std::signal(SIGXFSZ, before);
+    EXPECT_EQ(fault, Fault::write);
+    EXPECT_EQ(get("F"), old);
+  }
 }
 
 /// Root may write everything, so what a protected file means is seen as somebody else.
