@@ -18,11 +18,14 @@ struct SystemCall {
   off_t offset = 0;     ///< of write; the new length of shorten
 };
 
-/// What stands between the program and the system in the test program: every call that changes
-/// lets a write through in part. `done` hears of every call that succeeded.
+/// What stands between the program and the system in the test program. `before` hears of every call
+/// that changes files and returns 0, or the error that it fails with; `room` tells how many bytes of
+/// a write the disk still takes, where that are fewer than it was asked to; `done` hears of every
+/// call that succeeded.
 struct SystemCallHooks {
-  std::function<int(const SystemCall& call)> before;
-  std::function<void(const SystemCall& call)> done;
+  std::function<int(const SystemCall& call)> before{};
+  std::function<std::size_t(const SystemCall& call)> room{};
+  std::function<void(const SystemCall& call)> done{};
 };
 
 /// The hooks in force; empty ones let everything pass.

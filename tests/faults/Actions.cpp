@@ -302,11 +302,10 @@ Folder resultOf(const Action& action, const Folder& start) {
 }
 
 std::string damage(const Action& action, const Folder& now, bool died) {
-  static std::map<std::string, Folder> results;
-  const auto known = results.find(action.name);
-  const Folder& fresh = known != results.end()
-                            ? known->second
-                            : results[action.name] = resultOf(action, action.start);
+  static std::map<std::pair<std::string, Folder>, Folder> results;
+  const auto [known, isNew] = results.try_emplace({action.name, action.start});
+  if (isNew) known->second = resultOf(action, action.start);
+  const Folder& fresh = known->second;
   const Folder& old = action.start;
   const bool marked = action.marks && listIsMarked(old, now);
   for (const char* name : lists) {

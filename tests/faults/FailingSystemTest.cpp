@@ -2,57 +2,14 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <chrono>
 #include <csignal>
-#include <random>
 
-#include "doubles/SystemCalls.h"
-#include "faults/DiskFolder.h"
-#include "platform/SystemFiles.h"
+#include "faults/OnDisk.h"
 
 namespace karvenis {
 namespace {
 
-std::string nameOf(const testing::TestParamInfo<Action>& info) {
-  std::string name = info.param.name;
-  std::ranges::replace(name, ' ', '_');
-  return name;
-}
-
-/// Puts the hooks back whatever happens.
-class Hooked {
- public:
-  explicit Hooked(SystemCallHooks hooks) { systemCallHooks() = std::move(hooks); }
-  ~Hooked() { systemCallHooks() = {}; }
-  Hooked(const Hooked&) = delete;
-  Hooked& operator=(const Hooked&) = delete;
-};
-
-bool isCopyUnderWay(const std::string& name) { return name.ends_with('~'); }
-
-/// What a copy that was broken off has left is cleared away by the real files only, so memory does
-/// without it.
-Folder withoutCopies(Folder folder) {
-  std::erase_if(folder, [](const auto& file) { return isCopyUnderWay(file.first); });
-  return folder;
-}
-
-class FailingSystem : public testing::TestWithParam<Action> {
- protected:
-  void expectWhole(bool died) {
-    const Folder now = folder_.content();
-    const Folder files = withoutCopies(now);
-    EXPECT_EQ(damage(GetParam(), now, died), "");
-    EXPECT_EQ(stumbles(GetParam(), files), "");
-    if (files != now) {
-      perform(GetParam(), files_);
-      EXPECT_TRUE(folder_.content() == resultOf(GetParam(), files)) << "the next run stumbles";
-    }
-  }
-
-  DiskFolder folder_;
-  SystemFiles files_;
-};
+class FailingSystem : public OnDisk {};
 
 /// Runs the action in a child process that dies as `atCall` orders; true where it died.
 bool diesInChild(const Action& action, const std::function<int(const SystemCall&)>& atCall) {
@@ -95,6 +52,7 @@ TEST_P(FailingSystem, AnErrorOfAnyCallLeavesOldOrNewBytes) {
                                harmless = harmless || (calls == at && isCleaning(call));
                                return calls == at || (stays && calls > at) ? error : 0;
                              },
+                             {},
                              {}});
         perform(action, files_);
       } catch (const RunTimeError&) {
@@ -103,7 +61,7 @@ TEST_P(FailingSystem, AnErrorOfAnyCallLeavesOldOrNewBytes) {
       if (calls < at) break;
       EXPECT_TRUE(told || harmless || action.onFault == Action::OnFault::mayGoOn)
           << "failed unheard";
-      expectWhole(false);
+      expectWhole(action, false);
       if (HasFailure()) return;
     }
   }
@@ -120,7 +78,7 @@ TEST_P(FailingSystem, DeathAtAnyCallLeavesOldOrNewBytes) {
       return 0;
     });
     if (!died) break;
-    expectWhole(true);
+    expectWhole(action, true);
     if (HasFailure()) return;
   }
 }
@@ -234,6 +192,7 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
                            }
                            return 0;
                          },
+                         {},
                          [&](const SystemCall& call) {
                            disk.note(call);
                            losses.push_back(disk.withoutUnsynced());
@@ -258,37 +217,8 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()), nameOf);
-
-/// Kills the process of a random action at random moments. KARVENIS_ROUNDS=1000 is the long form.
-TEST(RandomKills, LeaveOldOrNewBytes) {
-  std::mt19937 random(2005);
-  DiskFolder folder;
-  int killed = 0;
-  const int wanted = rounds(40);
-  for (int round = 0; round < wanted; ++round) {
-    const Action& action = actions()[random() % actions().size()];
-    SCOPED_TRACE(std::string(action.name) + ", round " + std::to_string(round));
-    folder.fill(action.start);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      SystemFiles files;
-      perform(action, files);
-      ::_exit(0);
-    }
-    ::usleep(static_cast<useconds_t>(random() % 8'000));
-    ::kill(child, SIGKILL);
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    if (WIFSIGNALED(status)) ++killed;
-    const Folder now = folder.content();
-    EXPECT_EQ(damage(action, now, true), "");
-    EXPECT_EQ(stumbles(action, withoutCopies(now)), "");
-    if (testing::Test::HasFailure()) return;
-  }
-  testing::Test::RecordProperty("killed", killed);
-  std::printf("%d of %d processes were killed in the middle\n", killed, wanted);
-}
+INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()),
+                         OnDisk::nameOf);
 
 }  // namespace
 }  // namespace karvenis

@@ -154,7 +154,7 @@ TEST_P(HostilePlace, WhatIsNoFileUnderAnyNameIsToldOrLeftAlone) {
 
 /// A disk that is full after some more bytes: the system lets no file grow beyond them.
 TEST_P(HostilePlace, AFullDiskKeepsEveryListWhole) {
-  for (const rlim_t most : {rlim_t{0}, rlim_t{110}, rlim_t{4096}, rlim_t{65'607}}) {
+  for (const rlim_t most : {0U, 5U, 51U, 103U, 110U, 4096U, 65'607U}) {
     SCOPED_TRACE(std::to_string(most) + " bytes");
     folder_.fill(GetParam().start);
     {

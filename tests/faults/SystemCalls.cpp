@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstddef>
@@ -37,10 +38,21 @@ auto through(SystemCall call, Real real) -> decltype(real()) {
   return result;
 }
 
+/// The bytes of a write that the hook lets through; -1 where the disk is full.
+ssize_t fitting(const SystemCall& call, std::size_t count) {
+  const SystemCallHooks& hooks = systemCallHooks();
+  const std::size_t room = hooks.room ? std::min(hooks.room(call), count) : count;
+  if (room > 0 || count == 0) return static_cast<ssize_t>(room);
+  errno = ENOSPC;
+  return -1;
+}
+
 }  // namespace
 }  // namespace karvenis
 
+using karvenis::fitting;
 using karvenis::Kind;
+using karvenis::SystemCall;
 using karvenis::through;
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
@@ -65,11 +77,15 @@ int __wrap_open(const char* path, int flags, ...) {
 }
 
 ssize_t __wrap_pwrite(int file, const void* bytes, std::size_t count, off_t offset) {
-  return through({.kind = Kind::write,
+  SystemCall call{.kind = Kind::write,
                   .file = file,
                   .bytes = std::string(static_cast<const char*>(bytes), count),
-                  .offset = offset},
-                 [&] { return __real_pwrite(file, bytes, count, offset); });
+                  .offset = offset};
+  const ssize_t fits = fitting(call, count);
+  if (fits < 0) return -1;
+  call.bytes.resize(static_cast<std::size_t>(fits));
+  return through(call,
+                 [&] { return __real_pwrite(file, bytes, static_cast<std::size_t>(fits), offset); });
 }
 
 int __wrap_ftruncate(int file, off_t length) {
