@@ -51,7 +51,7 @@ void applyBag(Surroundings& around, BallButtons& buttons) {
 
 void loadBag(Surroundings& around, BallButtons& buttons) {
   around.boxes.beep();
-  if (!around.files.exists(bagFileName) || around.files.length(bagFileName) <= 2) return;
+  if (lengthOrNone(around.files, bagFileName) <= BagFile::recordLength) return;
   if (!around.boxes.ask("Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
 
   BagFile file(around.files);

@@ -42,6 +42,10 @@ bool BagFile::holdsBanko(std::int16_t count) const {
   return length() >= std::int64_t{recordLength} * (std::int64_t{count} + bankoCountRecord);
 }
 
+bool reachesBanko(Files& files) {
+  return lengthOrNone(files, bagFileName) >= BagFile::recordLength * bankoCountRecord;
+}
+
 void removeBankos(SharedState& state) {
   const auto banko = state.bankos();
   const auto bag = std::span(state.Bag).subspan(1, state.balls().size());
@@ -91,9 +95,7 @@ void askAndLoadBag(Surroundings& around) {
 
 void askAndLoadBanko(Surroundings& around) {
   around.boxes.beep();
-  if (!around.files.exists(bagFileName)) return;
-  constexpr std::uint64_t reachesBanko = BagFile::recordLength * bankoCountRecord;
-  if (around.files.length(bagFileName) < reachesBanko) return;
+  if (!reachesBanko(around.files)) return;
   if (around.boxes.ask("Banko seçimini KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) {
     LoadBankoFromFile(around);
   }

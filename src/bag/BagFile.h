@@ -48,6 +48,9 @@ class BagFile {
   RecordFile file_;
 };
 
+/// Whether the file is there and reaches the banko count.
+bool reachesBanko(Files& files);
+
 /// Takes every banko out of the bag; the rest keeps its order. Nothing happens where either set is
 /// empty.
 void removeBankos(SharedState& state);

@@ -40,7 +40,8 @@ const char* bankoCaption(int count) {
 
 std::string bankoText(std::string_view typed) {
   const std::int16_t ball = ballAtStart(typed);
-  return ball == 0 ? "" : std::to_string(ball);
+  if (ball == 0) return {};
+  return std::to_string(ball);
 }
 
 void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes) {
@@ -63,8 +64,7 @@ void clearBanko(SharedState& state) { state.Banko[0] = 0; }
 
 void loadBanko(Surroundings& around, BankoBoxes& boxes) {
   around.boxes.beep();
-  constexpr std::uint64_t reachesBanko = BagFile::recordLength * bankoCountRecord;
-  if (!around.files.exists(bagFileName) || around.files.length(bagFileName) < reachesBanko) return;
+  if (!reachesBanko(around.files)) return;
   if (!around.boxes.ask("Banko topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
 
   BagFile file(around.files);

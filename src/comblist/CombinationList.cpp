@@ -28,6 +28,13 @@ constexpr char keys[] =
     "\r"
     "ESC= Kapat";
 
+bool mayReplaceRandomColumns(Surroundings& around) {
+  if (!around.files.exists(randomColumns)) return true;
+  return around.boxes.ask(
+      "'KARVENIS.LST' dosyasını 'KARVENIS.RND' dosyası olarak kopyelemek "
+      "istiyormusunuz?\r\r(Mevcut 'KARVENIS.RND' dosyası silinecek!)");
+}
+
 }  // namespace
 
 void ShowPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
@@ -57,11 +64,7 @@ void OpenListing(Surroundings& around) {
 bool CopyToRandomColumns(Surroundings& around) {
   around.boxes.beep();
   if (!holdsColumns(around.files, combinationList)) return true;
-  if (around.files.exists(randomColumns) &&
-      !around.boxes.ask("'KARVENIS.LST' dosyasını 'KARVENIS.RND' dosyası olarak kopyelemek "
-                        "istiyormusunuz?\r\r(Mevcut 'KARVENIS.RND' dosyası silinecek!)")) {
-    return false;
-  }
+  if (!mayReplaceRandomColumns(around)) return false;
   around.files.copy(combinationList, randomColumns);
   around.boxes.message("Kombinasyon Listesi Yasak Kombinasyonlar Listesi'ne eklendi.");
   return true;
@@ -70,7 +73,7 @@ bool CopyToRandomColumns(Surroundings& around) {
 void DeleteColumn(Surroundings& around, ListPage& page) {
   around.boxes.beep();
   Files& files = around.files;
-  if (!files.exists(combinationList) || columnCount(files, combinationList) < 1) return;
+  if (recordCount(lengthOrNone(files, combinationList), ColumnRecord::size) < 1) return;
   page.PageStart = typedNumber32(
       around.boxes.input("Silmek istediğiniz kolon numarasını girin.", "Kolon SİLME", "0"));
   const std::int32_t number = page.PageStart;

@@ -218,7 +218,8 @@ bool filterList(Filter filter, Surroundings& around, TitleBar& title) {
   const std::string InputText = around.boxes.input(kind.prompt, "Kolon SİLME", "");
   FilterMarks marks;
   const std::optional<std::string> shown = kind.read(InputText, marks);
-  if (!shown || !around.boxes.ask(questionOf(kind, *shown))) return false;
+  if (!shown) return false;
+  if (!around.boxes.ask(questionOf(kind, *shown))) return false;
   return Rewrite(kind, marks, around, title).run();
 }
 

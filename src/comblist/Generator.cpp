@@ -27,10 +27,7 @@ std::string Generator::countForNewList(const std::string& text) const {
 Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   WantedCount = typedNumber32(text);
   if (refuses(mode)) return Outcome::refused;
-  if (mode == Mode::newList && ExistingCount > 0 &&
-      !around_.boxes.ask("Mevcut kombinasyon listesini yenisi ile değiştirmek istiyormusunuz?")) {
-    return Outcome::kept;
-  }
+  if (mode == Mode::newList && !mayReplaceList()) return Outcome::kept;
   around_.chance.seedFrom(around_.clock);
   GeneratorDraw draw(around_.state);
   mode == Mode::newList ? GenerateNewList(draw) : AppendToList(draw);
@@ -53,6 +50,11 @@ bool Generator::refuses(Mode mode) {
   if (WantedCount >= 1) return false;
   around_.boxes.beep();
   return true;
+}
+
+bool Generator::mayReplaceList() {
+  if (ExistingCount <= 0) return true;
+  return around_.boxes.ask("Mevcut kombinasyon listesini yenisi ile değiştirmek istiyormusunuz?");
 }
 
 /// Writes records 1..WantedCount. Records of a longer old list stay behind them.

@@ -41,6 +41,7 @@ class Generator {
 
  private:
   bool refuses(Mode mode);
+  bool mayReplaceList();
   void GenerateNewList(GeneratorDraw& draw);
   void AppendToList(GeneratorDraw& draw);
   void open();

@@ -6,7 +6,7 @@ namespace karvenis {
 
 void deleteListColumn(SharedState& state, Files& files, std::int32_t number, std::int32_t count) {
   files.copy(combinationList, listBackup);
-  if (count == 1 && number == 1) {
+  if (count == 1) {
     files.remove(combinationList);
     return;
   }

@@ -22,7 +22,7 @@ std::int32_t columnCount(Files& files, const std::string& name) {
 }
 
 bool holdsColumns(Files& files, const std::string& name) {
-  return files.exists(name) && files.length(name) >= ColumnRecord::size;
+  return lengthOrNone(files, name) >= ColumnRecord::size;
 }
 
 void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from,

@@ -29,7 +29,8 @@ double printLabel(TextSurface& surface, std::int64_t number) {
 }
 
 std::string bracketed(std::int16_t sum) {
-  return sum <= 99 ? "[ 0" + std::to_string(sum) + " ]" : "[" + withBlank(sum) + " ]";
+  if (sum <= 99) return "[ 0" + std::to_string(sum) + " ]";
+  return "[" + withBlank(sum) + " ]";
 }
 
 void drawRow(TextSurface& surface, std::int64_t number, const Column& balls) {

@@ -23,7 +23,8 @@ Int roundedInto(double number) {
 }  // namespace
 
 std::string withBlank(std::int64_t number) {
-  return number < 0 ? std::to_string(number) : " " + std::to_string(number);
+  if (number < 0) return std::to_string(number);
+  return " " + std::to_string(number);
 }
 
 std::string padded(std::int64_t number, std::size_t digits) {

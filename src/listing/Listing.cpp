@@ -62,7 +62,7 @@ void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Ou
 }  // namespace
 
 std::int32_t listedCount(Files& files, const Listing& listing) {
-  return files.exists(listing.source) ? columnCount(files, listing.source) : 0;
+  return recordCount(lengthOrNone(files, listing.source), ColumnRecord::size);
 }
 
 void listRandomColumns(Surroundings& around, TitleBar& title, Output output) {

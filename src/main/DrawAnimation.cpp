@@ -41,10 +41,8 @@ void DrawAnimation::tick(int k) {
     if (k > 1) delay_ = 0;
     stage_.beep();
   }
-  if (frame_ < lastFrame) {
-    ++frame_;
-    moveBall(k);
-  }
+  ++frame_;
+  moveBall(k);
   if (phase_ == 0) {
     stage_.setLabel(copyLabel(k), stage_.label(mainLabel(k)));
     stage_.showLabel(copyLabel(k), true);

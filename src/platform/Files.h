@@ -54,4 +54,9 @@ class Files {
   virtual std::string currentFolder() = 0;
 };
 
+/// Length in bytes of `name`; 0 where there is no such file. Throws (read).
+inline std::uint64_t lengthOrNone(Files& files, const std::string& name) {
+  return files.exists(name) ? files.length(name) : 0;
+}
+
 }  // namespace karvenis

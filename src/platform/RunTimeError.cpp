@@ -21,9 +21,9 @@ std::string describe(const RunTimeError& error) {
     case Fault::overflow:
       return quoted + " sayısı taştı." + why;
     case Fault::printer:
-      return "Printer hatası: " + quoted + why;
+      break;
   }
-  return quoted + why;
+  return "Printer hatası: " + quoted + why;
 }
 
 }  // namespace karvenis

@@ -6,13 +6,6 @@
 #include "core/Numbers.h"
 
 namespace karvenis {
-namespace {
-
-std::uint64_t lengthOrNone(Files& files) {
-  return files.exists(randomColumns) ? files.length(randomColumns) : 0;
-}
-
-}  // namespace
 
 bool ColumnDeletion::load() {
   ignoringFaults([&] {
@@ -24,12 +17,12 @@ bool ColumnDeletion::load() {
 }
 
 void ColumnDeletion::count() {
-  countedLength_ = lengthOrNone(around_.files);
+  countedLength_ = lengthOrNone(around_.files, randomColumns);
   RndCount = recordCount(countedLength_, ColumnRecord::size);
 }
 
 bool ColumnDeletion::remove(std::int32_t DelNo) {
-  if (lengthOrNone(around_.files) != countedLength_) count();
+  if (lengthOrNone(around_.files, randomColumns) != countedLength_) count();
   if (DelNo < 1 || DelNo > RndCount) {
     around_.boxes.warn(
         "Silinecek kolon numarası geçersiz! En çok" + withBlank(RndCount) + " olabilir.",

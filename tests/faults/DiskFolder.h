@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -57,10 +58,12 @@ class DiskFolder {
   }
 
  private:
-  /// In memory where the system offers that: syncs are many here and cost nothing there.
+  /// Where TMPDIR tells, else in memory where the system offers that: syncs are many here and cost
+  /// nothing there.
   static std::filesystem::path place() {
     const std::filesystem::path memory = "/dev/shm";
-    return ::access(memory.c_str(), W_OK) == 0 ? memory : std::filesystem::temp_directory_path();
+    const bool inMemory = std::getenv("TMPDIR") == nullptr && ::access(memory.c_str(), W_OK) == 0;
+    return inMemory ? memory : std::filesystem::temp_directory_path();
   }
 
   std::filesystem::path before_, folder_;

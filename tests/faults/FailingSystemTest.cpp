@@ -217,8 +217,7 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()),
-                         OnDisk::nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()), OnDisk::nameOf);
 
 }  // namespace
 }  // namespace karvenis

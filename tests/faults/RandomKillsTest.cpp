@@ -30,14 +30,14 @@ struct Timetable {
 
 /// The same memory in this process and in those that it forks.
 Timetable& sharedTimetable() {
-  static void* memory = ::mmap(nullptr, sizeof(Timetable), PROT_READ | PROT_WRITE,
-                               MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  static void* memory =
+      ::mmap(nullptr, sizeof(Timetable), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
   EXPECT_NE(memory, MAP_FAILED);
   return *new (memory) Timetable{};
 }
 
-/// Runs the action in a child process; true where that was killed. `atCall` gets the number (from 0)
-/// of each call that changes files, just before it is made.
+/// Runs the action in a child process; true where that was killed. `atCall` gets the number (from
+/// 0) of each call that changes files, just before it is made.
 bool killedInChild(const Action& action, const std::function<void(int call)>& atCall,
                    const std::function<void()>& atEnd) {
   const pid_t child = ::fork();
@@ -107,11 +107,15 @@ TEST(RandomKills, LeaveOldOrNewBytes) {
     const auto& [action, times, result] = all[random() % all.size()];
     SCOPED_TRACE(std::string(action->name) + ", try " + std::to_string(tries));
     const int at = static_cast<int>(random() % static_cast<unsigned>(times.calls));
-    const auto delay = 1 + static_cast<std::int64_t>(
-                               random() % static_cast<std::uint64_t>(times.after(at) + 1));
+    const auto delay =
+        1 + static_cast<std::int64_t>(random() % static_cast<std::uint64_t>(times.after(at) + 1));
     folder.fill(action->start);
     if (!killedInChild(
-            *action, [&](int call) { if (call == at) beKilledAfter(delay); }, [] {})) {
+            *action,
+            [&](int call) {
+              if (call == at) beKilledAfter(delay);
+            },
+            [] {})) {
       continue;
     }
     ++killed;

@@ -84,8 +84,8 @@ ssize_t __wrap_pwrite(int file, const void* bytes, std::size_t count, off_t offs
   const ssize_t fits = fitting(call, count);
   if (fits < 0) return -1;
   call.bytes.resize(static_cast<std::size_t>(fits));
-  return through(call,
-                 [&] { return __real_pwrite(file, bytes, static_cast<std::size_t>(fits), offset); });
+  return through(
+      call, [&] { return __real_pwrite(file, bytes, static_cast<std::size_t>(fits), offset); });
 }
 
 int __wrap_ftruncate(int file, off_t length) {

@@ -15,6 +15,7 @@
 #include <functional>
 
 #include "doubles/MemoryFiles.h"
+#include "doubles/SystemCalls.h"
 
 namespace karvenis {
 namespace {
@@ -241,11 +242,46 @@ TEST_F(InAFolder, RenameReplacesItsTarget) {
   EXPECT_EQ(faultOf([&] { files.rename("FROM", "TO"); }), Fault::rename);
 }
 
+TEST_F(InAFolder, ARenameThroughALinkToAnotherDiskCopiesAndRemoves) {
+  put("FROM", "new");
+  put("REAL", "old");
+  fs::create_symlink("REAL", "LINK");
+  systemCallHooks().before = [](const SystemCall& call) {
+    return call.kind == SystemCall::Kind::rename && call.name == "FROM" ? EXDEV : 0;
+  };
+  files.rename("FROM", "LINK");
+  systemCallHooks() = {};
+  EXPECT_TRUE(fs::is_symlink("LINK"));
+  EXPECT_EQ(get("REAL"), "new");
+  EXPECT_FALSE(files.exists("FROM"));
+}
+
+TEST_F(InAFolder, AWriteThatASignalInterruptsIsMadeAgain) {
+  const auto file = files.open("F");
+  int calls = 0;
+  systemCallHooks().before = [&](const SystemCall&) { return ++calls % 2 == 1 ? EINTR : 0; };
+  file->write(0, hex("41 42"));
+  file->sync();
+  systemCallHooks() = {};
+  file->close();
+  EXPECT_EQ(get("F"), "AB");
+}
+
 TEST_F(InAFolder, RemoveRemovesAndFailsWhereNothingIs) {
   put("F", "x");
   files.remove("F");
   EXPECT_FALSE(files.exists("F"));
   EXPECT_EQ(faultOf([&] { files.remove("F"); }), Fault::remove);
+}
+
+TEST_F(InAFolder, AReadThatFailsIsTold) {
+  fs::create_symlink("/proc/self/mem", "F");  // nothing can be read at its beginning
+  std::array<std::byte, 1> byte{};
+  EXPECT_EQ(faultOf([&] { files.open("F")->read(0, byte); }), Fault::read);
+}
+
+TEST_F(InAFolder, TheCurrentFolderIsToldWhole) {
+  EXPECT_EQ(files.currentFolder(), fs::canonical(".").string());
 }
 
 TEST_F(InAFolder, LengthOfWhatIsNoFileFails) {
