@@ -48,7 +48,7 @@ Surface* frmList::makePage(QWidget* parent) {
   auto* page = new Surface(parent);
   page->setTextSize(textPixels);
   const QFontMetrics metrics(page->font());
-  const QString widest = u" Kolon  8 - 48  48  48  48  48  48  "_s;
+  const QString widest = u" Kolon  8 - "_s + u"48  "_s.repeated(ballsInColumn);
   page->setFixedSize(metrics.horizontalAdvance(widest), linesOfPage * metrics.height());
   return page;
 }

@@ -139,7 +139,8 @@ TEST(ListText, ASecondRunReplacesTheFirst) {
 TEST(ListText, TheTitleTellsTheByteOfEachCharacterAndLine) {
   const auto check = [](const std::string& blank, std::size_t headBytes, ListingWorld& world) {
     const auto& captions = world.title.captions;
-    std::vector<std::string> expected = {blank + "Dosyaya yazılıyor..."};
+    std::vector<std::string> expected = {blank.empty() ? "Dosyaya yazılıyor..."
+                                                       : " Dosyaya yazılıyor..."};
     for (std::size_t k = 1; k <= headBytes; ++k) {
       expected.push_back(blank + "BYTE= " + std::to_string(k));
     }

@@ -28,6 +28,7 @@ TEST_F(QtPrinterWithoutQueue, RefusesEveryCall) {
       ADD_FAILURE() << "went through";
     } catch (const RunTimeError& error) {
       EXPECT_EQ(error.fault(), Fault::printer);
+      EXPECT_EQ(error.reason(), "yazıcı kullanılamıyor");
     }
   }
 }

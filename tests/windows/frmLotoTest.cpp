@@ -309,7 +309,16 @@ TEST_F(FrmLoto, F10ListsTheKeysWithoutABeepAndAboutBeeps) {
   press(loto, Qt::Key_F10);
   EXPECT_TRUE(world.boxes.finished());
   EXPECT_EQ(std::ranges::count(std::string_view(keyList), '\r'), 15);
-  world.boxes.expectBeep().expectMessage(about + "/memory", aboutTitle);
+  world.boxes.expectBeep().expectMessage(
+      "Bu program, 6/49 Sayısal Loto için seçtiğiniz toplardan (torbadan) rastgele kolonlar çeker; "
+      "çıkmasını mutlaka istediğiniz banko topları her kolona ekler, kolonları gösterir ve "
+      "listeler.\r\r"
+      "KARVENIS 2005 Randomizer, kuponunu elle dolduranlara yardım etmek için yazılmış, bağımsız "
+      "bir masaüstü programıdır. Kolonlarınız yalnızca sizin bilgisayarınızda durur.\r\r"
+      "Tam formüllü kombinasyon listeleri için, bu programın yanında, yapımcının formül programını "
+      "kullanmanızı öneririz.\r"
+      "Dosyaların durduğu klasör: /memory",
+      " KARVENIS 2005 Randomizer Hakkında");
   trigger(loto, "mnuAbout");
 }
 
@@ -329,6 +338,17 @@ TEST_F(FrmLoto, AHeldF1SavesOnce) {
   world.boxes.expectBeep();
   hold(loto, Qt::Key_F1, 5);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND").size(), 16U);
+}
+
+TEST_F(FrmLoto, TellsByNameWhatIsNoText) {
+  EXPECT_EQ(control(loto, "Picture0")->accessibleName(), "Açılış resmi");
+  EXPECT_EQ(control(loto, "Picture1")->accessibleName(), "KARVENIS amblemi");
+  EXPECT_EQ(control(loto, "Frame1")->accessibleName(), "Kolonun kaynağı ve sırası");
+  EXPECT_EQ(number(10)->accessibleName(), "6. top: boş");
+  world.state.Drawn = column(9, 8, 7, 3, 2, 1);
+  click(control(loto, "Check1"));
+  EXPECT_EQ(number(10)->accessibleName(), "6. top: 9");
+  EXPECT_EQ(number(1)->accessibleName(), "1. sayı: 1");
 }
 
 TEST_F(FrmLoto, MenuCaptionsAreTheProgramsOwn) {

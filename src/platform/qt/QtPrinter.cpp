@@ -22,9 +22,8 @@ namespace {
 /// What a page keeps clear above and below where the printer itself would keep less, in twips.
 constexpr double leastMargin = 500;
 
-[[noreturn]] void fail(const std::string& reason) {
-  throw RunTimeError(Fault::printer, "printer", reason);
-}
+/// Whatever the reason, the user reads that the printer is not ready (see Listing.cpp).
+[[noreturn]] void fail() { throw RunTimeError(Fault::printer, "printer", "yazıcı kullanılamıyor"); }
 
 /// The printable part of the page, in dots.
 QRectF printable(const QPrinter& printer) {
@@ -42,10 +41,7 @@ QRectF printable(const QPrinter& printer) {
 void refuseUnlessQueued() {
   QLibrary cups(u"cups"_s, 2);
   const auto lastError = reinterpret_cast<decltype(&cupsLastError)>(cups.resolve("cupsLastError"));
-  const auto words =
-      reinterpret_cast<decltype(&cupsLastErrorString)>(cups.resolve("cupsLastErrorString"));
-  if (lastError == nullptr || words == nullptr) fail(cups.errorString().toStdString());
-  if (lastError() > IPP_STATUS_OK_EVENTS_COMPLETE) fail(words());
+  if (lastError == nullptr || lastError() > IPP_STATUS_OK_EVENTS_COMPLETE) fail();
 }
 
 }  // namespace
@@ -57,9 +53,9 @@ QtPrinter::~QtPrinter() = default;
 QPrinter& QtPrinter::printer() {
   if (printer_) return *printer_;
   const QPrinterInfo queue = QPrinterInfo::defaultPrinter();
-  if (queue.isNull()) fail("öntanımlı yazıcı yok");
+  if (queue.isNull()) fail();
   auto made = std::make_unique<QPrinter>(queue, QPrinter::HighResolution);
-  if (!made->isValid()) fail("yazıcı kullanılamıyor");
+  if (!made->isValid()) fail();
   made->setFullPage(true);
   made->setDocName(u"KARVENIS"_s);
   printer_ = std::move(made);
@@ -100,16 +96,16 @@ void QtPrinter::endDocument() {
 
 void QtPrinter::paint(const std::vector<Line>& lines, QPrinter& printer) const {
   QPainter painter;
-  if (!painter.begin(&printer)) fail("belge başlatılamadı");
+  if (!painter.begin(&printer)) fail();
   int page = 0;
   for (const Line& line : lines) {
     for (; page < line.page; ++page) {
-      if (!printer.newPage()) fail("yeni sayfa açılamadı");
+      if (!printer.newPage()) fail();
     }
     painter.setFont(line.font);
     painter.drawText(line.place, line.text);
   }
-  if (!painter.end()) fail("belge bitirilemedi");
+  if (!painter.end()) fail();
   refuseUnlessQueued();
 }
 
