@@ -67,10 +67,9 @@ bool FilterMarks::markPair(std::int16_t a, std::int16_t b) {
 std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks& marks) {
   const std::string_view input = InputText;
   if (!marks.mark(typedNumber16(input))) return std::nullopt;
-  for (std::size_t i = 0; i < input.size(); ++i) {
-    if (input[i] != ',') continue;
+  // What stands right behind a comma is never taken for a comma.
+  for (std::size_t i = input.find(','); i != std::string_view::npos; i = input.find(',', i + 2)) {
     marks.mark(typedNumber16(input.substr(i + 1)));
-    ++i;  // what stands right behind a comma is never taken for a comma
   }
   return joined(marks, ",");
 }

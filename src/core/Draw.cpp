@@ -44,17 +44,9 @@ bool canDraw(const SharedState& state) {
     if (taken.test(bit(banko))) return false;
     taken.set(bit(banko));
   }
-  std::size_t distinct = taken.count();
-  const auto offer = [&](std::int16_t ball) {
-    if (!taken.test(bit(ball))) ++distinct;
-    taken.set(bit(ball));
-  };
-  if (state.balls().empty()) {
-    for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) offer(ball);
-  } else {
-    std::ranges::for_each(state.balls(), offer);
-  }
-  return distinct >= ballsInColumn;
+  if (state.balls().empty()) return true;  // it stands for all balls
+  for (const std::int16_t ball : state.balls()) taken.set(bit(ball));
+  return taken.count() >= ballsInColumn;
 }
 
 void drawDistinct(SharedState& state, Chance& chance) {

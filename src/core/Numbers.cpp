@@ -1,5 +1,6 @@
 #include "core/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -15,9 +16,7 @@ Int roundedInto(double number) {
   const double low = std::numeric_limits<Int>::min();
   const double high = std::numeric_limits<Int>::max();
   const double rounded = std::nearbyint(number);  // the default rounding mode: halves to even
-  if (!(rounded > low)) return std::numeric_limits<Int>::min();
-  if (rounded > high) return std::numeric_limits<Int>::max();
-  return static_cast<Int>(rounded);
+  return static_cast<Int>(std::clamp(rounded, low, high));
 }
 
 }  // namespace

@@ -63,9 +63,9 @@ std::size_t readAll(int descriptor, std::uint64_t offset, std::span<std::byte> i
                     const std::string& name) {
   std::size_t done = 0;
   while (done < into.size()) {
+    const auto rest = into.subspan(done);
     const auto got = uninterrupted([&] {
-      return ::pread(descriptor, into.data() + done, into.size() - done,
-                     static_cast<off_t>(offset + done));
+      return ::pread(descriptor, rest.data(), rest.size(), static_cast<off_t>(offset + done));
     });
     if (got < 0) fail(Fault::read, name);
     if (got == 0) break;
@@ -78,9 +78,9 @@ void writeAll(int descriptor, std::uint64_t offset, std::span<const std::byte> b
               const std::string& name) {
   std::size_t done = 0;
   while (done < bytes.size()) {
+    const auto rest = bytes.subspan(done);
     const auto put = uninterrupted([&] {
-      return ::pwrite(descriptor, bytes.data() + done, bytes.size() - done,
-                      static_cast<off_t>(offset + done));
+      return ::pwrite(descriptor, rest.data(), rest.size(), static_cast<off_t>(offset + done));
     });
     if (put < 0) fail(Fault::write, name);
     done += static_cast<std::size_t>(put);

@@ -55,8 +55,10 @@ TEST_P(FailingSystem, AnErrorOfAnyCallLeavesOldOrNewBytes) {
                              {},
                              {}});
         perform(action, files_);
-      } catch (const RunTimeError&) {
+      } catch (const RunTimeError& fault) {
         told = true;
+        EXPECT_EQ(fault.subject().find('/'), std::string::npos)
+            << fault.subject() << " is no name that the user knows";
       }
       if (calls < at) break;
       EXPECT_TRUE(told || harmless || action.onFault == Action::OnFault::mayGoOn)

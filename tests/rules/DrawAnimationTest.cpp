@@ -86,6 +86,12 @@ TEST_F(Animation, AWholeDrawTakes141TicksAndSixBeeps) {
   for (const auto& [index, visible] : stage.images) EXPECT_EQ(visible, index % 5 == 4) << index;
 }
 
+TEST_F(Animation, AStartStopsWhateverBallIsRolling) {
+  stage.timers = {false, false, true, true, true, true, true};
+  animation.start();
+  EXPECT_EQ(stage.timers, (std::array<bool, 7>{false, true, false, false, false, false, false}));
+}
+
 TEST_F(Animation, TheFirstTickHidesTheLastDrawAndNamesTheFirstBall) {
   animation.start();
   stage.log.clear();

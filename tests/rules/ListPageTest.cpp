@@ -37,6 +37,14 @@ TEST_P(PagingKey, LeadsTo) {
   EXPECT_EQ(page.RecordCount, GetParam().count);
 }
 
+TEST(ListPage, NoKeyLeavesAnEmptyList) {
+  for (const int code : {keyDown, keyUp, keyPageDown, keyPageUp, keyEnd, keyHome}) {
+    ListPage page;
+    page.key(code);
+    EXPECT_EQ(page.PageStart, 0) << code;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Keys, PagingKey,
     testing::Values(
@@ -48,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
         Move{"DownOnTheLastPageOfThirty", 30, 5, keyDown, 6, 24, 2},
         Move{"DownPastTheLastOfThirty", 30, 29, keyDown, 5, 25, 2},
         Move{"DownOfFiftyOne", 51, 25, keyDown, 26, 25, 3}, Move{"Up", 30, 5, keyUp, 4, 25, 2},
-        Move{"UpAtTheTop", 30, 0, keyUp, 0, 25, 1},
+        Move{"UpToTheTop", 30, 1, keyUp, 0, 25, 1}, Move{"UpAtTheTop", 30, 0, keyUp, 0, 25, 1},
         Move{"PageUpFrom24", 60, 24, keyPageUp, 0, 25, 1},
         Move{"PageUpFrom25", 60, 25, keyPageUp, 0, 25, 1},
         Move{"PageUpFrom26", 60, 26, keyPageUp, 1, 25, 2},

@@ -7,6 +7,7 @@
 
 #include "core/ColumnFile.h"
 #include "doubles/Doubles.h"
+#include "doubles/FailingFiles.h"
 
 namespace karvenis {
 namespace {
@@ -54,9 +55,9 @@ TEST(RecordFile, RefusesNumbersBelowOne) {
 }
 
 TEST(RecordFile, AgreesWithPlainBytesOverRandomAccesses) {
-  constexpr std::size_t size = 16;
   std::mt19937 random(7);
   for (int round = 0; round < 20; ++round) {
+    const std::size_t size = round % 2 == 0 ? 16 : 12;  // a block of memory is no multiple of 12
     MemoryFiles files;
     files.folder["F"].resize(random() % 200'000);
     for (auto& byte : files.folder["F"]) byte = static_cast<std::byte>(random());
@@ -83,6 +84,19 @@ TEST(RecordFile, AgreesWithPlainBytesOverRandomAccesses) {
     file.close();
     ASSERT_EQ(files.bytes("F"), model);
   }
+}
+
+TEST(RecordFile, ABlockThatIsInTheFileIsNotWrittenAgain) {
+  MemoryFiles memory;
+  FailingFiles files(memory);
+  RecordFile file(files, "F", 2);
+  Bytes record = hex("05 06");
+  file.write(1, record);
+  EXPECT_EQ(files.calls(), 3) << "opened, asked for its length, read";
+  file.read(40'000, record);
+  EXPECT_EQ(files.calls(), 5) << "written, read elsewhere";
+  file.close();
+  EXPECT_EQ(files.calls(), 7) << "put on disk, closed";
 }
 
 TEST(ColumnRecord, HasItsGoldenBytes) {
