@@ -40,6 +40,8 @@ FAULTS = "*FailingDoor*:*FailingSystem*:*HostilePlace*:Damaged*:Model*:*FullDisk
 STAGES = [f"-{LONG}:{FAULTS}:*FullFileSystem*:*LongList*:HugeList*:RandomKills*", LONG, FAULTS]
 
 BLOCK = "the block only sets how much is copied at once"
+EXHAUSTED = "an exhausted pool gives its first entry whatever its count says"
+SET_LATER = "run() sets it before it is used"
 NEGATIVE = "every negative number stands for no descriptor"
 # What no test could notice: file, beginning of the line, old, new, and the reason.
 EQUIVALENT = [
@@ -47,6 +49,9 @@ EQUIVALENT = [
     ("core/ColumnFile.cpp", "std::vector<std::byte> block(", "16", "17", BLOCK),
     ("platform/SystemFiles.cpp", "std::vector<std::byte> block(", "1", "2", BLOCK),
     ("platform/SystemFiles.cpp", "std::vector<std::byte> block(", "18", "19", BLOCK),
+    ("comblist/Filters.cpp", "std::int32_t ListCount", "0", "1", SET_LATER),
+    ("comblist/Filters.cpp", "std::int32_t KeepCount", "0", "1", SET_LATER),
+    ("comblist/GeneratorDraw.cpp", "Pool[0] = static_cast<std::int16_t>(std::max(", "0", "1", EXHAUSTED),
     ("platform/SystemFiles.cpp", "int close() {", "1", "2", NEGATIVE),
 ]
 

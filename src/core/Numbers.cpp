@@ -28,21 +28,18 @@ std::string withBlank(std::int64_t number) {
 
 std::string padded(std::int64_t number, std::size_t digits) {
   std::string text = std::to_string(number);
-  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  text.insert(0, digits - std::min(digits, text.size()), '0');
   return text;
 }
 
 double leadingNumber(std::string_view text) {
   std::string number;
-  bool fraction = false;
   bool signAllowed = true;
   for (const char c : text) {
     if (isBlank(c)) continue;
     const bool sign = signAllowed && (c == '-' || c == '+');
-    const bool point = c == '.' && !fraction;
-    if (!isDigit(c) && !sign && !point) break;
+    if (!isDigit(c) && !sign && c != '.') break;
     if (!(sign && c == '+')) number += c;
-    fraction = fraction || point;
     signAllowed = false;
   }
   double value = 0;

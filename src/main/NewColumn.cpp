@@ -1,7 +1,6 @@
 #include "main/NewColumn.h"
 
 #include "core/ColumnFile.h"
-#include "core/Draw.h"
 #include "core/Numbers.h"
 
 namespace karvenis {
@@ -18,11 +17,6 @@ void takeRecord(Surroundings& around, std::int32_t number) {
 }
 
 }  // namespace
-
-bool offersColumn(const SharedState& state) {
-  const bool enough = state.Bag[0] + state.Banko[0] >= ballsInColumn || state.Bag[0] <= 0;
-  return enough && canDraw(state);
-}
 
 std::optional<ListPick> PickFromList(Surroundings& around) {
   if (!around.files.exists(combinationList)) {

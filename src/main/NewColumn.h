@@ -8,10 +8,6 @@
 
 namespace karvenis {
 
-/// Whether the bag and the bankos allow a draw: together at least six balls, or an empty bag, which
-/// stands for all balls; and six of them distinct.
-bool offersColumn(const SharedState& state);
-
 /// A record of the combination list that chance picked.
 struct ListPick {
   std::int32_t record;  ///< its number, from 1

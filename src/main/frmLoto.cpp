@@ -53,7 +53,7 @@ void frmLoto::Command1_Click() {
 }
 
 void frmLoto::drawFromBag() {
-  if (!offersColumn(around_.state)) {
+  if (!canDraw(around_.state)) {
     around_.boxes.warn(tooFewBalls, tooFewBallsTitle);
     return;
   }

@@ -99,7 +99,7 @@ class SystemFile final : public File {
   /// those that stood there before are put back, and the file is as long as it was.
   void write(std::uint64_t offset, std::span<const std::byte> bytes) override {
     const std::uint64_t before = length();
-    std::vector<std::byte> old(offset < before ? std::min(bytes.size(), before - offset) : 0);
+    std::vector<std::byte> old(std::min(bytes.size(), before - std::min(before, offset)));
     readAll(descriptor_.get(), offset, old, name_);
     try {
       writeAll(descriptor_.get(), offset, bytes, name_);

@@ -41,6 +41,8 @@ INSTANTIATE_TEST_SUITE_P(
                          "Kolon 5 - -7, 100, 00, 00, 00, 00  [093]"},
                     Line{"ShortNegativeSum", 5, 1, column(-7, 0, 0, 0, 0, 0),
                          "Kolon 5 - -7, 00, 00, 00, 00, 00  [0-7]"},
+                    Line{"SumOfMinusTen", 5, 1, column(-10, 0, 0, 0, 0, 0),
+                         "Kolon 5 - -10, 00, 00, 00, 00, 00  [-10]"},
                     Line{"LongNegativeSum", 5, 1, column(-30, 0, 0, 0, 0, 0),
                          "Kolon 5 - -30, 00, 00, 00, 00, 00  [-30]"}),
     [](const auto& line) { return line.param.name; });

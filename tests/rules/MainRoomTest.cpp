@@ -81,20 +81,20 @@ TEST(SystemChanceTest, TwoSeedingsOfOneMomentGiveTwoSequences) {
   }
 }
 
-TEST(OffersColumn, CountsFirstAndThenAsksWhetherTheDrawEnds) {
+TEST(CanDraw, AsksForSixDistinctBallsOfBagAndBankos) {
   World world;
-  EXPECT_TRUE(offersColumn(world.state)) << "an empty bag stands for all balls";
+  EXPECT_TRUE(canDraw(world.state)) << "an empty bag stands for all balls";
   world.state.Banko = {5, 1, 2, 3, 4, 5};
-  EXPECT_TRUE(offersColumn(world.state));
+  EXPECT_TRUE(canDraw(world.state));
   world.state.Bag = {1, 6};
-  EXPECT_TRUE(offersColumn(world.state)) << "1 + 5";
+  EXPECT_TRUE(canDraw(world.state)) << "1 + 5";
   world.state.Bag = {1, 5};
-  EXPECT_FALSE(offersColumn(world.state)) << "1 + 5, but not distinct";
+  EXPECT_FALSE(canDraw(world.state)) << "1 + 5, but not distinct";
   world.state.Banko = {2, 7, 20};
   world.state.Bag = {3, 1, 2, 3};
-  EXPECT_FALSE(offersColumn(world.state)) << "3 + 2";
+  EXPECT_FALSE(canDraw(world.state)) << "3 + 2";
   world.state.Bag = {4, 7, 20, 1, 2};
-  EXPECT_FALSE(offersColumn(world.state)) << "4 + 2, two of them the same";
+  EXPECT_FALSE(canDraw(world.state)) << "4 + 2, two of them the same";
 }
 
 TEST(PickFromListTest, AnEmptyListIsRefused) {

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <set>
 
 #include "doubles/MemoryFiles.h"
 #include "doubles/SystemCalls.h"
@@ -119,6 +120,31 @@ TEST_F(InAFolder, AFailedCopyLeavesItsTarget) {
   EXPECT_EQ(faultOf([&] { files.copy("TO", "FOLDER"); }), Fault::copy);
   EXPECT_EQ(get("TO"), "old");
   EXPECT_EQ(filesThere(), 2U);
+}
+
+TEST_F(InAFolder, ACopyUnderWayIsItsOwnersOnly) {
+  put("FROM", "new");
+  fs::perms seen = fs::perms::none;
+  systemCallHooks().room = [&](const SystemCall& call) {
+    seen = fs::status("TO~").permissions();
+    return call.bytes.size();
+  };
+  files.copy("FROM", "TO");
+  systemCallHooks() = {};
+  EXPECT_EQ(seen, fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(InAFolder, OpeningAFileThatIsThereCreatesNone) {
+  put("F", "x");
+  int created = 0;
+  systemCallHooks().before = [&](const SystemCall& call) {
+    created += call.kind == SystemCall::Kind::create ? 1 : 0;
+    return 0;
+  };
+  errno = ENOENT;  // of an earlier call
+  files.open("F")->close();
+  systemCallHooks() = {};
+  EXPECT_EQ(created, 0);
 }
 
 TEST_F(InAFolder, ACopyOntoALinkKeepsTheLink) {
@@ -240,6 +266,21 @@ TEST_F(InAFolder, RenameReplacesItsTarget) {
   EXPECT_EQ(get("TO"), "new");
   EXPECT_EQ(filesThere(), 1U);
   EXPECT_EQ(faultOf([&] { files.rename("FROM", "TO"); }), Fault::rename);
+}
+
+TEST_F(InAFolder, ARenameIntoAnotherFolderIsPutOnDiskInBoth) {
+  fs::create_directory("OTHER");
+  put("FROM", "new");
+  put("OTHER/REAL", "old");
+  fs::create_symlink("OTHER/REAL", "LINK");
+  std::set<fs::path> synced;
+  systemCallHooks().done = [&](const SystemCall& call) {
+    if (call.kind != SystemCall::Kind::sync) return;
+    synced.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(call.file)));
+  };
+  files.rename("FROM", "LINK");
+  systemCallHooks() = {};
+  EXPECT_EQ(synced, (std::set{fs::canonical("."), fs::canonical("OTHER")}));
 }
 
 TEST_F(InAFolder, ARenameThroughALinkToAnotherDiskCopiesAndRemoves) {
