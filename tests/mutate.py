@@ -42,6 +42,7 @@ STAGES = [f"-{LONG}:{FAULTS}:*FullFileSystem*:*LongList*:HugeList*:RandomKills*"
 BLOCK = "the block only sets how much is copied at once"
 EXHAUSTED = "an exhausted pool gives its first entry whatever its count says"
 SET_LATER = "run() sets it before it is used"
+WRITTEN = "the system never writes none of some bytes without an error"
 NEGATIVE = "every negative number stands for no descriptor"
 # What no test could notice: file, beginning of the line, old, new, and the reason.
 EQUIVALENT = [
@@ -52,6 +53,8 @@ EQUIVALENT = [
     ("comblist/Filters.cpp", "std::int32_t ListCount", "0", "1", SET_LATER),
     ("comblist/Filters.cpp", "std::int32_t KeepCount", "0", "1", SET_LATER),
     ("comblist/GeneratorDraw.cpp", "Pool[0] = static_cast<std::int16_t>(std::max(", "0", "1", EXHAUSTED),
+    ("platform/SystemFiles.cpp", "explicit Descriptor(int number = -1)", "1", "2", NEGATIVE),
+    ("platform/SystemFiles.cpp", "if (put < 0) fail(", "0", "1", WRITTEN),
     ("platform/SystemFiles.cpp", "int close() {", "1", "2", NEGATIVE),
 ]
 
