@@ -104,6 +104,20 @@ TEST_F(Animation, TheFirstTickHidesTheLastDrawAndNamesTheFirstBall) {
                 "hide label 2", "label 0=7", "hide label 1", "hide label 0"}));
 }
 
+TEST_F(Animation, TheLastDrawIsHiddenOnEveryTickOfTheFirstBall) {
+  animation.start();
+  for (int ticks = 1; ticks <= 15; ++ticks) {
+    for (const int image : {9, 14, 19, 24, 29}) stage.images[image] = true;
+    for (int label = 2; label <= 11; ++label)
+      stage.labelShown[static_cast<std::size_t>(label)] = true;
+    tick();
+    for (const int image : {9, 14, 19, 24, 29}) EXPECT_FALSE(stage.images[image]) << ticks;
+    for (int label = 2; label <= 11; ++label) {
+      EXPECT_FALSE(stage.labelShown[static_cast<std::size_t>(label)]) << ticks;
+    }
+  }
+}
+
 TEST_F(Animation, ThePicturesFollowTheFrames) {
   animation.start();
   const auto seen = [&] {

@@ -124,6 +124,30 @@ TEST_F(FrmComLst, AClickPagesOnce) {
   EXPECT_TRUE(showsFrom(6, 25));
 }
 
+TEST_F(FrmComLst, ADoubleClickPagesAsOneClickDoes) {
+  openOver(60);
+  doubleClick(list, {50, 50});
+  EXPECT_TRUE(showsFrom(26, 25));
+}
+
+TEST_F(FrmComLst, AnotherSizeKeepsThePage) {
+  openOver(60);
+  press(list, Qt::Key_PageDown);
+  list->resize(list->size() + QSize(60, 40));
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(showsFrom(26, 25));
+  EXPECT_EQ(list->caption(), pageTitled(2));
+}
+
+TEST_F(FrmComLst, CtrlAndShiftMakeNoDifferenceToAFunctionKey) {
+  openOver(3);
+  for (const auto held : {Qt::ControlModifier, Qt::ShiftModifier}) {
+    world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
+    press(list, Qt::Key_F4, held);
+    EXPECT_TRUE(world.boxes.finished());
+  }
+}
+
 TEST_F(FrmComLst, OtherKeysShowTheListAsItIsNow) {
   openOver(3);
   for (const Qt::Key key : {Qt::Key_F9, Qt::Key_A, Qt::Key_Tab}) {

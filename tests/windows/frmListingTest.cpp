@@ -105,6 +105,16 @@ TEST_F(Listings, TheOptionsNameTheCommand) {
   EXPECT_EQ(command(), "Bas") << "an arrow key chooses the next option";
 }
 
+TEST_F(Listings, AnOptionThatIsChosenAlreadyIsNotChosenAgain) {
+  openRL(1);
+  for (const char* option : {"Option1", "Option2"}) {
+    click(control(dialog, QLatin1String(option)), {8, 8});
+    control<QPushButton>(dialog, "Command1")->setText("?");
+    click(control(dialog, QLatin1String(option)), {8, 8});
+    EXPECT_EQ(command(), "?") << option;
+  }
+}
+
 TEST_F(Listings, WriteAndStayOpen) {
   openRL(1);
   expectWritten(textQuestionR, standardTitle);

@@ -115,6 +115,23 @@ TEST_F(FrmLoto, PicksFromTheListAtOnceInStoredOrder) {
   EXPECT_TRUE(hidden("Picture0"));
 }
 
+TEST_F(FrmLoto, AListPickDuringADrawIsShownAtOnceAndTheBallsRollOn) {
+  world.files.folder["KARVENIS.LST"] = columnBytes({{7, column(49, 3, 48, 2, 47, 1)}});
+  world.boxes.expectBeep();
+  pressKolon();
+  EXPECT_TRUE(waitFor([this] { return world.boxes.finished(); })) << "the first ball";
+  click(control(loto, "Option2"));
+  world.boxes.expectBeep();
+  pressKolon();
+  const Shown picked{"49", "3", "48", "2", "47", "1"};
+  EXPECT_EQ(shownColumn(), picked);
+  EXPECT_EQ(loto->caption(), " KARVENIS.LST  Kayıt = 1 [ 1 ]");
+  EXPECT_TRUE(number(11)->isHidden());
+  world.boxes.expectBeep(5);
+  EXPECT_TRUE(waitFor([this] { return world.boxes.finished() && !number(11)->isHidden(); }));
+  EXPECT_EQ(shownColumn(), picked);
+}
+
 TEST_F(FrmLoto, ListPickWithoutAListWarnsAndUncovers) {
   click(control(loto, "Option2"));
   world.boxes.expectWarning("Kombinasyon Listesi dosyası yok!", " ! KARVENIS.LST bulunamadı !");

@@ -35,6 +35,13 @@ TEST_F(FrmRndDel, AsksForANumber) {
   EXPECT_EQ(number()->text(), "");
 }
 
+TEST_F(FrmRndDel, AFileInSmallLettersIsNoneOfTheirs) {
+  add<frmRndDel>("frmRndDel");
+  world.files.folder["karvenis.rnd"] = countedColumns(2);
+  forms.show("frmRndDel");
+  EXPECT_EQ(forms.find("frmRndDel"), nullptr);
+}
+
 TEST_F(FrmRndDel, ClosesItselfWithoutAFile) {
   add<frmRndDel>("frmRndDel");
   world.files.folder["KARVENIS.YND"] = countedColumns(2);

@@ -32,7 +32,7 @@ void BallCell::paintEvent(QPaintEvent*) {
   if (isDown()) {
     ground = ground.darker(115);
   } else if (underMouse()) {
-    ground = ground.lighter(105);
+    ground = ground.darker(105);  // seen on white too
   }
   painter.setPen(QPen(QColor(marked ? look::petrol : look::edge), 1));
   painter.setBrush(ground);

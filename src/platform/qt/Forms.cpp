@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
 #include <stdexcept>
 
 #include "platform/RunTimeError.h"
@@ -15,12 +16,6 @@ namespace {
 std::string words(const std::exception& error) {
   if (const auto* known = dynamic_cast<const RunTimeError*>(&error)) return describe(*known);
   return std::string("Beklenmeyen bir hata oluştu.\rNeden: ") + error.what();
-}
-
-/// A new window stands a little to the right of its opener's corner and below its title.
-void placeBeside(Form& window, const Form& opener) {
-  constexpr QPoint step(36, 56);
-  moveOntoScreen(window, opener.pos() + step);
 }
 
 }  // namespace
@@ -61,6 +56,20 @@ Form* Forms::open(std::string_view form) {
     window->Form_Load();
   });
   return window->isClosing() || ending_ ? nullptr : window;
+}
+
+/// A new window stands a little to the right of its opener's corner and below its title, and of
+/// every window that stands there already.
+void Forms::placeBeside(Form& window, const Form& opener) const {
+  constexpr QPoint step(36, 56);
+  QPoint place = opener.pos();
+  const auto isTaken = [&](const QPointer<Form>& other) {
+    return other && other != &window && other->isVisible() && other->pos() == place;
+  };
+  do {
+    place += step;
+  } while (std::ranges::any_of(open_, isTaken));
+  moveOntoScreen(window, place);
 }
 
 void Forms::present(Form& form) {

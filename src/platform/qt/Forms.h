@@ -67,6 +67,7 @@ class Forms final : public Windows {
 
  private:
   Form* open(std::string_view form);
+  void placeBeside(Form& window, const Form& opener) const;
   void present(Form& form);
   void became(Form& form);
 

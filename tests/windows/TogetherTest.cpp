@@ -1,0 +1,133 @@
+#include <QRadioButton>
+
+#include "doubles/Columns.h"
+#include "doubles/Sets.h"
+#include "doubles/YieldingBoxes.h"
+#include "platform/qt/QtBoxes.h"
+#include "windows/WholeProgram.h"
+#include "windows/WindowTest.h"
+
+// What one window does while another one is open.
+
+namespace karvenis {
+namespace {
+
+class Together : public testing::Test {
+ protected:
+  MemoryFiles files;
+  YieldingBoxes boxes;
+  WholeProgram program{boxes, files};
+
+  Form* open(const char* name) {
+    program.forms.show(name);
+    Form* form = program.forms.find(name);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+    return form;
+  }
+  static void press(Form* form, Qt::Key key) { QTest::keyClick(form->windowHandle(), key); }
+  static bool marked(Form* balls, int ball) {
+    return balls->findChild<QAbstractButton*>(QStringLiteral("cmdBall_%1").arg(ball))
+        ->font()
+        .bold();
+  }
+  static std::string banko(Form* window, int index) {
+    const auto* box = window->findChild<QLineEdit*>(QStringLiteral("Text1_%1").arg(index));
+    return box == nullptr ? "no box" : box->text().toStdString();
+  }
+  /// A file of the bag 4, 8, 15 and the bankos 16, 23.
+  void save() {
+    std::vector<int> all(50, 0);
+    all[0] = 3;
+    all[1] = 4;
+    all[2] = 8;
+    all[3] = 15;
+    all.insert(all.end(), {2, 16, 23});
+    files.folder["KARVENIS.DAT"] = words(all);
+  }
+};
+
+TEST_F(Together, TheBagWindowShowsWhatF6LoadedWhenItIsComeBackTo) {
+  save();
+  Form* main = open("frmLoto");
+  Form* balls = open("frmBalls");
+  open("frmLoto");
+  press(main, Qt::Key_F6);
+  EXPECT_EQ(bagOf(program.state), (Set{4, 8, 15}));
+  EXPECT_FALSE(marked(balls, 8)) << "nothing is redrawn by the load";
+  open("frmBalls");
+  EXPECT_TRUE(marked(balls, 8));
+  EXPECT_FALSE(marked(balls, 9));
+}
+
+TEST_F(Together, TheBankoWindowShowsWhatF8LoadedWhenItIsComeBackTo) {
+  save();
+  Form* main = open("frmLoto");
+  Form* bankos = open("frmBanko");
+  open("frmLoto");
+  press(main, Qt::Key_F8);
+  EXPECT_EQ(bankoOf(program.state), (Set{16, 23}));
+  EXPECT_EQ(banko(bankos, 0), "") << "nothing is redrawn by the load";
+  open("frmBanko");
+  EXPECT_EQ(banko(bankos, 0), "16");
+  EXPECT_EQ(banko(bankos, 1), "23");
+}
+
+TEST_F(Together, F8TwiceLoadsTheSameTwice) {
+  save();
+  setBag(program.state, {16, 42, 23, 7});
+  Form* main = open("frmLoto");
+  for (int i = 0; i < 2; ++i) {
+    press(main, Qt::Key_F8);
+    EXPECT_EQ(bankoOf(program.state), (Set{16, 23}));
+    EXPECT_EQ(bagOf(program.state), (Set{42, 7}));
+  }
+}
+
+TEST_F(Together, WindowsOfOneOpenerStandBesideEachOther) {
+  open("frmLoto");
+  std::vector<QPoint> places;
+  for (const char* name : {"frmBalls", "frmBanko", "frmRnd"}) {
+    open("frmLoto");
+    places.push_back(open(name)->pos());
+  }
+  EXPECT_NE(places[0], places[1]);
+  EXPECT_NE(places[1], places[2]);
+  EXPECT_NE(places[0], places[2]);
+}
+
+/// A real box closes, and with it the focus comes back to the dialog.
+TEST(RealBoxes, ThatCloseLeaveTheRangeAsItWasTyped) {
+  MemoryFiles files;
+  files.folder["KARVENIS.LST"] = countedColumns(30);
+  QTimer::singleShot(0, qApp, &QApplication::quit);
+  QApplication::exec();  // a program that ended in another test left the loops of boxes shut
+  QtBoxes boxes;
+  WholeProgram program(boxes, files);
+  boxes.owner = [&] { return program.forms.active(); };
+  program.forms.show("frmLoto");
+  program.forms.show("frmCLPrint");
+  Form* dialog = program.forms.find("frmCLPrint");
+  ASSERT_NE(dialog, nullptr);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+  auto* last = dialog->findChild<QLineEdit*>(QStringLiteral("Text2"));
+  EXPECT_EQ(last->text(), "30");
+  last->setText(QStringLiteral("9"));
+
+  bool answered = false;
+  QTimer hand;
+  QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
+    QWidget* box = QApplication::activeModalWidget();
+    if (box == nullptr || answered) return;
+    answered = true;
+    QTest::keyClick(box->windowHandle(), Qt::Key_Return);
+  });
+  hand.start(0);
+  QTest::keyClick(dialog->windowHandle(), Qt::Key_F10);
+  EXPECT_TRUE(answered);
+  dialog->activateWindow();  // as a window manager does
+  EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+  EXPECT_EQ(last->text(), "9") << "a box that closes is no activation";
+}
+
+}  // namespace
+}  // namespace karvenis
