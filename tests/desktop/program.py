@@ -6,6 +6,8 @@ import shutil
 import subprocess
 import tempfile
 
+from gi.repository import GLib
+
 import reading
 from screen import start, stop, wait_for
 
@@ -106,7 +108,15 @@ class Program:
         return found[0]
 
     def titles(self):
-        return [node.name for node in self.windows() if node.has("showing")]
+        return [title for title in map(self._title, self.windows()) if title is not None]
+
+    @staticmethod
+    def _title(window):
+        """The title of a window that is to be seen; none where it has just gone."""
+        try:
+            return window.name if window.has("showing") else None
+        except GLib.Error:
+            return None
 
     def gone(self, title):
         self.until(lambda: title not in self.titles(), f"the window «{title}» to close")
