@@ -1,15 +1,13 @@
 #include "comblist/frmComLst.h"
 
-#include "doubles/Columns.h"
 #include "listing/frmCLPrint.h"
-#include "windows/WindowTest.h"
+#include "windows/ListWindowTest.h"
 
 namespace karvenis {
 namespace {
 
 constexpr char missing[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' bulunamadı!";
 constexpr char emptyList[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' boş!";
-constexpr char deleteQuestion[] = "'KARVENIS.LST' dosyasını silmek istiyormusunuz ?";
 constexpr char unwantedPrompt[] = "İstemediğiniz sayıları (aralarına virgül koyarak) girin.";
 
 /// The window that the list is opened from.
@@ -20,9 +18,9 @@ class Opener final : public Form {
   int activations = 0;
 };
 
-class FrmComLst : public WindowTest {
+class FrmComLst : public ListWindowTest {
  protected:
-  Form* list = nullptr;
+  FrmComLst() : ListWindowTest(combinations) {}
 
   void SetUp() override {
     add<Opener>("opener");
@@ -30,37 +28,15 @@ class FrmComLst : public WindowTest {
     add<frmCLPrint>("frmCLPrint");
     open("opener");
   }
-  void openOver(std::int32_t count) {
-    hold(count);
-    list = open("frmComLst");
-    ASSERT_NE(list, nullptr);
-  }
-  void hold(std::int32_t count) { world.files.folder[combinationList] = countedColumns(count); }
   std::size_t records() const { return columnsOf(world.files.bytes(combinationList)).size(); }
-  std::vector<std::string> shown() const { return linesOf(list); }
-  bool showsFrom(int first, std::size_t rows) const {
-    return shown().size() == rows &&
-           shown().front().starts_with("Kolon - " + std::to_string(first) + " : ");
-  }
   void expectInput(const char* prompt, const char* typed, const char* preset = "") {
     world.boxes.expectBeep().expectInput(prompt, "Kolon SİLME", preset, typed);
   }
 };
 
-std::string pageTitled(int page) {
-  return " Kombinasyon Listesi - Sayfa " + std::to_string(page) + "  [ F10= Yardım ]";
-}
-
 TEST_F(FrmComLst, CarriesItsDesignTitleUntilTheFirstRedraw) {
   frmComLst window(around, forms);
   EXPECT_EQ(window.caption(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
-}
-
-TEST_F(FrmComLst, ShowsItsFirstPage) {
-  openOver(60);
-  EXPECT_EQ(list->caption(), pageTitled(1));
-  ASSERT_TRUE(showsFrom(1, 25));
-  EXPECT_EQ(shown()[1], "Kolon - 2 :  1   2   3   4   5   7  [ 022 ]");
 }
 
 TEST_F(FrmComLst, WithoutAListTellsOnceAndCloses) {
@@ -84,52 +60,6 @@ TEST_F(FrmComLst, OverAnEmptyListTellsAndStays) {
   press(list, Qt::Key_Down);
 }
 
-TEST_F(FrmComLst, PagesByEveryKey) {
-  openOver(60);
-  press(list, Qt::Key_PageDown);
-  EXPECT_TRUE(showsFrom(26, 25));
-  EXPECT_EQ(list->caption(), pageTitled(2));
-  press(list, Qt::Key_Space);
-  EXPECT_TRUE(showsFrom(51, 10));
-  press(list, Qt::Key_PageDown);
-  EXPECT_TRUE(showsFrom(51, 10));
-  press(list, Qt::Key_PageUp);
-  EXPECT_TRUE(showsFrom(26, 25));
-  press(list, Qt::Key_End);
-  EXPECT_TRUE(showsFrom(36, 25));
-  press(list, Qt::Key_Up);
-  EXPECT_TRUE(showsFrom(35, 25));
-  press(list, Qt::Key_Down);
-  EXPECT_TRUE(showsFrom(36, 25));
-  press(list, Qt::Key_Home);
-  EXPECT_TRUE(showsFrom(1, 25));
-  press(list, Qt::Key_Return);
-  EXPECT_TRUE(showsFrom(26, 25));
-}
-
-TEST_F(FrmComLst, DownFromTheLastOfThirtyShowsTheLastFullPage) {
-  openOver(30);
-  press(list, Qt::Key_PageDown);
-  for (int i = 0; i < 4; ++i) press(list, Qt::Key_Down);
-  EXPECT_TRUE(showsFrom(30, 1));
-  press(list, Qt::Key_Down);
-  EXPECT_TRUE(showsFrom(6, 25));
-}
-
-TEST_F(FrmComLst, AClickPagesOnce) {
-  openOver(30);
-  click(list);
-  EXPECT_TRUE(showsFrom(26, 5));
-  click(list);
-  EXPECT_TRUE(showsFrom(6, 25));
-}
-
-TEST_F(FrmComLst, ADoubleClickPagesAsOneClickDoes) {
-  openOver(60);
-  doubleClick(list, {50, 50});
-  EXPECT_TRUE(showsFrom(26, 25));
-}
-
 TEST_F(FrmComLst, AnotherSizeKeepsThePage) {
   openOver(60);
   press(list, Qt::Key_PageDown);
@@ -137,15 +67,6 @@ TEST_F(FrmComLst, AnotherSizeKeepsThePage) {
   QCoreApplication::processEvents();
   EXPECT_TRUE(showsFrom(26, 25));
   EXPECT_EQ(list->caption(), pageTitled(2));
-}
-
-TEST_F(FrmComLst, CtrlAndShiftMakeNoDifferenceToAFunctionKey) {
-  openOver(3);
-  for (const auto held : {Qt::ControlModifier, Qt::ShiftModifier}) {
-    world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
-    press(list, Qt::Key_F4, held);
-    EXPECT_TRUE(world.boxes.finished());
-  }
 }
 
 TEST_F(FrmComLst, OtherKeysShowTheListAsItIsNow) {
@@ -231,7 +152,7 @@ TEST_F(FrmComLst, F3WithAWrongNumberMovesThePage) {
 TEST_F(FrmComLst, F4DeletesTheListAndKeepsThePage) {
   openOver(3);
   world.boxes.expectBeep()
-      .expectQuestion(deleteQuestion, true)
+      .expectQuestion(combinations.deleteQuestion, true)
       .expectBeep()
       .expectMessage("'KARVENIS.LST' silindi...");
   press(list, Qt::Key_F4);
@@ -242,18 +163,6 @@ TEST_F(FrmComLst, F4DeletesTheListAndKeepsThePage) {
   click(list);
   EXPECT_EQ(shown().size(), 3U);
   EXPECT_NE(forms.find("frmComLst"), nullptr);
-}
-
-TEST_F(FrmComLst, AltF4IsNoCommand) {
-  openOver(3);
-  press(list, Qt::Key_F4, Qt::AltModifier);
-  EXPECT_EQ(records(), 3U);
-}
-
-TEST_F(FrmComLst, AHeldFunctionKeyRunsOnce) {
-  openOver(3);
-  world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
-  WindowTest::hold(list, Qt::Key_F4, 5);
 }
 
 struct FilterKey {

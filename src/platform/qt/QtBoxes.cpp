@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <algorithm>
 
 #include "platform/qt/Text.h"
 
@@ -31,6 +32,22 @@ QMessageBox::Icon shown(Icon icon) {
 constexpr Qt::WindowFlags boxFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
 
+/// Gives the text as much room as its lines and the title ask for, up to a width that still reads
+/// well; the toolkit alone would break a line for its last mark. Both sides keep the same margin.
+void widen(QMessageBox& box) {
+  constexpr int margin = 16;
+  constexpr int widest = 560;
+  auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+  if (label == nullptr) return;
+  const QFontMetrics letters = label->fontMetrics();
+  int wanted = letters.horizontalAdvance(box.windowTitle());
+  for (const QString& line : box.text().split(u'\n')) {
+    wanted = std::max(wanted, letters.horizontalAdvance(line));
+  }
+  label->setContentsMargins(margin, 0, margin, 0);
+  label->setMinimumWidth(std::min(wanted, widest) + 2 * margin);
+}
+
 void fill(QMessageBox& box, const std::string& text, const std::string& title, Icon icon) {
   box.setWindowTitle(toQt(title));
   box.setTextFormat(Qt::PlainText);
@@ -38,6 +55,7 @@ void fill(QMessageBox& box, const std::string& text, const std::string& title, I
   box.setIcon(shown(icon));
   box.setWindowModality(Qt::ApplicationModal);
   box.setWindowFlags(boxFlags);
+  widen(box);
 }
 
 }  // namespace
