@@ -11,6 +11,7 @@ if(KARVENIS_SANITIZE)
   add_compile_options(-fsanitize=${KARVENIS_SANITIZE} -fno-sanitize-recover=all
                       -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KARVENIS_SANITIZE})
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)  # an index beyond its array, also inside an object
 endif()
 if(KARVENIS_COVERAGE)
   add_compile_options(--coverage -fprofile-abs-path)
