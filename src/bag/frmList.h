@@ -4,6 +4,7 @@
 #include "platform/qt/Form.h"
 
 class QLabel;
+class QTimer;
 
 namespace karvenis {
 

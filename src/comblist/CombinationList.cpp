@@ -73,7 +73,7 @@ bool CopyToRandomColumns(Surroundings& around) {
 void DeleteColumn(Surroundings& around, ListPage& page) {
   around.boxes.beep();
   Files& files = around.files;
-  if (recordCount(lengthOrNone(files, combinationList), ColumnRecord::size) < 1) return;
+  if (columnCountOrNone(files, combinationList) < 1) return;
   page.PageStart = typedNumber32(
       around.boxes.input("Silmek istediğiniz kolon numarasını girin.", "Kolon SİLME", "0"));
   const std::int32_t number = page.PageStart;

@@ -42,7 +42,7 @@ std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks
 std::optional<std::string> readPair(const std::string& InputText, FilterMarks& marks);
 
 /// "3-7,40-12": pairs up to the first that is none, shown as "3-7, 12-40". A pair of one ball with
-/// itself is marked and not shown.
+/// itself is marked and not shown; nothing where only such pairs were typed.
 std::optional<std::string> readPairs(const std::string& InputText, FilterMarks& marks);
 
 }  // namespace karvenis

@@ -127,12 +127,12 @@ class Rewrite {
     list().emplace(files_, combinationList, state_.Record);
     ListCount = list()->count();
     if (ListCount < 1 && kind_.onEmptyList == OnEmptyList::stop) {
-      closeList();
+      state_.closeFile();
       return false;
     }
     markRecords();
     if (KeepCount < 1) {
-      closeList();
+      state_.closeFile();
       files_.remove(combinationList);
     } else {
       copyKept();
@@ -164,7 +164,7 @@ class Rewrite {
   }
 
   void copyKept() {
-    if (files_.exists(tmpScratch)) files_.remove(tmpScratch);
+    startScratch(files_, tmpScratch);
     ColumnFile TmpFileNo(files_, tmpScratch, state_.Record);
     std::int32_t WrittenCount = 0;
     for (std::int64_t number = 1; number <= ListCount; ++number) {
@@ -175,7 +175,7 @@ class Rewrite {
       }
       show(kind_.secondPass, WrittenCount, KeepCount);
     }
-    closeList();
+    state_.closeFile();
     TmpFileNo.close();
   }
 
@@ -187,11 +187,6 @@ class Rewrite {
     }
     files_.copy(tmpScratch, combinationList);
     files_.remove(tmpScratch);
-  }
-
-  void closeList() {
-    list()->close();
-    list().reset();
   }
 
   void show(const char* pass, std::int64_t first, std::int64_t second) {

@@ -13,11 +13,10 @@ constexpr char attentionTitle[] = "! DİKKAT !";
 
 }  // namespace
 
-Generator::Generator(Surroundings& around, TitleBar& title) : around_(around), title_(title) {
-  if (around.files.exists(combinationList)) {
-    ExistingCount = columnCount(around.files, combinationList);
-  }
-}
+Generator::Generator(Surroundings& around, TitleBar& title)
+    : around_(around),
+      title_(title),
+      ExistingCount(columnCountOrNone(around.files, combinationList)) {}
 
 std::string Generator::countForNewList(const std::string& text) const {
   if (ExistingCount > 0) return std::to_string(ExistingCount);
@@ -30,7 +29,11 @@ Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   if (mode == Mode::newList && !mayReplaceList()) return Outcome::kept;
   around_.chance.seedFrom(around_.clock);
   GeneratorDraw draw(around_.state);
-  mode == Mode::newList ? GenerateNewList(draw) : AppendToList(draw);
+  if (mode == Mode::newList) {
+    GenerateNewList(draw);
+  } else {
+    AppendToList(draw);
+  }
   return Outcome::done;
 }
 

@@ -50,9 +50,9 @@ class Generator {
 
   Surroundings& around_;
   TitleBar& title_;
-  std::int32_t ExistingCount = 0;  // records when the window was loaded
-  std::int32_t WantedCount = 0;    // columns to write
-  std::int16_t RecordNo = 0;       // the record being written
+  std::int32_t ExistingCount;    // records when the window was loaded
+  std::int32_t WantedCount = 0;  // columns to write
+  std::int16_t RecordNo = 0;     // the record being written
   CaptionLine caption_;
 };
 

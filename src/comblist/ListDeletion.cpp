@@ -13,8 +13,7 @@ void deleteListColumn(SharedState& state, Files& files, std::int32_t number, std
   ColumnFile& list = state.FileNo.emplace(files, combinationList, state.Record);
   ColumnFile YlsFileNo(files, ylsScratch, state.Record);
   copyColumnsWithout(number, count, list, YlsFileNo);
-  list.close();
-  state.FileNo.reset();
+  state.closeFile();
   YlsFileNo.close();
   files.rename(ylsScratch, combinationList);  // one step: nothing of the scratch file stays behind
 }

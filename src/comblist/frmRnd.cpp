@@ -23,7 +23,7 @@ constexpr int titleWidth = 380;  // the frame shows the whole title then
 }  // namespace
 
 frmRnd::frmRnd(Surroundings& around, Forms& forms)
-    : Form(forms, "frmRnd"), boxes_(around.boxes), list_(around, *this) {
+    : Form(forms, "frmRnd"), boxes_(around.boxes), generator_(around, *this) {
   setCaption(generatorTitle);
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);
@@ -76,7 +76,7 @@ void frmRnd::onOption(QRadioButton* option, void (frmRnd::*procedure)()) {
 
 QLayout* frmRnd::buildCommands() {
   Command1 = command("Command1", u"Oluştur", u"", [this] { Command1_Click(); });
-  Command2 = command("Command2", u"Kapat", u"", [this] { unload(); });
+  Command2 = command("Command2", u"Kapat", u"", [this] { Command2_Click(); });
   auto* row = new QHBoxLayout;
   row->setSpacing(spacing);
   row->addWidget(Command1, 1);
@@ -85,9 +85,9 @@ QLayout* frmRnd::buildCommands() {
 }
 
 void frmRnd::Form_Activate() {
-  Option2->setEnabled(list_.canAppend());
-  if (!list_.canAppend()) return;
-  Text1->setText(toQt(list_.countForAppend()));
+  Option2->setEnabled(generator_.canAppend());
+  if (!generator_.canAppend()) return;
+  Text1->setText(toQt(generator_.countForAppend()));
   Option2->setChecked(true);
 }
 
@@ -105,13 +105,17 @@ void frmRnd::Form_KeyDown(int KeyCode, int) {
   }
 }
 
-void frmRnd::Option1_Click() { Text1->setText(toQt(list_.countForNewList(fromQt(Text1->text())))); }
+void frmRnd::Option1_Click() {
+  Text1->setText(toQt(generator_.countForNewList(fromQt(Text1->text()))));
+}
 
-void frmRnd::Option2_Click() { Text1->setText(toQt(list_.countForAppend())); }
+void frmRnd::Option2_Click() { Text1->setText(toQt(generator_.countForAppend())); }
+
+void frmRnd::Command2_Click() { unload(); }
 
 void frmRnd::Command1_Click() {
   const auto mode = Option1->isChecked() ? Generator::Mode::newList : Generator::Mode::append;
-  switch (list_.start(mode, fromQt(Text1->text()))) {
+  switch (generator_.start(mode, fromQt(Text1->text()))) {
     case Generator::Outcome::refused:
       Text1->setFocus(Qt::TabFocusReason);
       return;

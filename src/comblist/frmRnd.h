@@ -32,6 +32,7 @@ class frmRnd final : public Form {
   void Option1_Click();
   void Option2_Click();
   void Command1_Click();
+  void Command2_Click();
 
   QLabel* Label1 = nullptr;         // "Kolon Sayısı:"
   QLineEdit* Text1 = nullptr;       // how many columns to write
@@ -42,7 +43,7 @@ class frmRnd final : public Form {
   QFrame* Line1 = nullptr;          // between the choices and the note
   QLabel* Label2 = nullptr;         // the file that the columns go to
   Boxes& boxes_;
-  Generator list_;
+  Generator generator_;
 };
 
 }  // namespace karvenis

@@ -1,5 +1,6 @@
 #include "core/ColumnFile.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -19,6 +20,10 @@ void ColumnFile::put(std::int64_t number) {
 
 std::int32_t columnCount(Files& files, const std::string& name) {
   return recordCount(files.length(name), ColumnRecord::size);
+}
+
+std::int32_t columnCountOrNone(Files& files, const std::string& name) {
+  return recordCount(lengthOrNone(files, name), ColumnRecord::size);
 }
 
 bool holdsColumns(Files& files, const std::string& name) {

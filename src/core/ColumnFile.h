@@ -29,9 +29,10 @@ class ColumnFile {
   std::uint64_t length() const { return file_.length(); }
   /// Records in the file: length / 16, halves to even.
   std::int32_t count() const { return file_.count(); }
-  /// Reads record `number` (from 1) into the buffer; past the end it is all 0.
+  /// Reads record `number` (from 1) into the buffer; past the end it is all 0. Throws
+  /// RunTimeError(read).
   void get(std::int64_t number);
-  /// Writes the buffer as record `number`.
+  /// Writes the buffer as record `number`. Throws RunTimeError(write).
   void put(std::int64_t number);
   /// Returns with everything on disk and the file closed. Throws RunTimeError(write).
   void close() { file_.close(); }
@@ -41,10 +42,13 @@ class ColumnFile {
   RecordFile file_;
 };
 
-/// Records of `name`, which must exist.
+/// Records of `name`, which must exist. Throws RunTimeError(read, overflow).
 std::int32_t columnCount(Files& files, const std::string& name);
 
-/// Whether `name` exists and is at least one record (16 bytes) long.
+/// The same; 0 where there is no such file.
+std::int32_t columnCountOrNone(Files& files, const std::string& name);
+
+/// Whether `name` exists and is at least one record (16 bytes) long. Throws RunTimeError(read).
 bool holdsColumns(Files& files, const std::string& name);
 
 /// Copies the records 1..`count` of `from`, without record `leftOut`, to the records 1, 2, ... of
@@ -53,13 +57,14 @@ void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& fr
 
 /// Starts an empty scratch file; what an interrupted run left in it is gone then. Neither it nor
 /// its name is waited for on disk: both are when it takes its target's place.
+/// Throws RunTimeError(remove, open).
 void startScratch(Files& files, const std::string& scratch);
 
 /// Starts a scratch file as a copy of the combination list; where there is no list, as an empty
-/// one.
+/// one. Throws RunTimeError.
 void copyListTo(Files& files, const std::string& scratch);
 
-/// Copies the combination list, where there is one, over its backup.
+/// Copies the combination list, where there is one, over its backup. Throws RunTimeError(copy).
 void backUpList(Files& files);
 
 }  // namespace karvenis

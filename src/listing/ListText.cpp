@@ -7,7 +7,6 @@
 #include "core/ColumnRecord.h"
 
 namespace karvenis {
-
 namespace {
 
 /// More than the longest line of a damaged record: a label of 10 digits, balls and a sum of 6

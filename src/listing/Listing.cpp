@@ -62,7 +62,7 @@ void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Ou
 }  // namespace
 
 std::int32_t listedCount(Files& files, const Listing& listing) {
-  return recordCount(lengthOrNone(files, listing.source), ColumnRecord::size);
+  return columnCountOrNone(files, listing.source);
 }
 
 void listRandomColumns(Surroundings& around, TitleBar& title, Output output) {

@@ -1,6 +1,7 @@
 #include "listing/frmListing.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -17,8 +18,8 @@ frmListing::frmListing(Surroundings& around, Forms& forms, const char* name, con
       Label3(control<QLabel>(u"Label3"_s, u"Çıktı:"_s)),
       Option1(control<QRadioButton>(u"Option1"_s, u"Text Dosyası"_s)),
       Option2(control<QRadioButton>(u"Option2"_s, u"Printer"_s)),
-      Command1(control<QPushButton>(u"Command1"_s, u"Yaz"_s)),
-      Command2(control<QPushButton>(u"Command2"_s, u"Kapat"_s)) {
+      Command1(command("Command1", u"Yaz", u"", [this] { list(); })),
+      Command2(command("Command2", u"Kapat", u"", [this] { Command2_Click(); })) {
   setCaption(listing.title);
   Option1->setChecked(true);
   // Also the arrow keys choose an option.
@@ -28,8 +29,6 @@ frmListing::frmListing(Surroundings& around, Forms& forms, const char* name, con
   on(Option2, &QRadioButton::toggled, [this] {
     if (Option2->isChecked()) Option2_Click();
   });
-  on(Command1, &QPushButton::clicked, [this] { list(); });
-  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
 }
 
 void frmListing::layOut(QGridLayout* grid) {

@@ -7,10 +7,6 @@ constexpr std::int16_t lastPhase = 15;
 constexpr std::int16_t lastFrame = 16;
 constexpr std::int16_t startDelay = 10;
 
-int mainLabel(int k) { return 2 * k - 2; }
-int copyLabel(int k) { return 2 * k - 1; }
-int image(int k, char step) { return 5 * (k - 1) + 1 + (step - 'a'); }
-
 std::string number(const Column& drawn, int k) {
   return std::to_string(drawn[static_cast<std::size_t>(k)]);
 }

@@ -7,9 +7,14 @@
 
 namespace karvenis {
 
+/// The labels in `Label1` that show the number of ball position k (1..6): on the ball and below it.
+constexpr int mainLabel(int k) { return 2 * k - 2; }
+constexpr int copyLabel(int k) { return 2 * k - 1; }
+/// The picture in `Image1` of ball position k: a rolling step, 'a' to 'c', or the ball at rest,
+/// 'd'.
+constexpr int image(int k, char step) { return 5 * (k - 1) + 1 + (step - 'a'); }
+
 /// What the animation moves: the pictures `Image1`, the number labels `Label1` and the ball timers.
-/// For ball position k (1..6) label 2k-2 is the main label and 2k-1 the copy label, and the
-/// pictures 5(k-1)+1 to 5(k-1)+4 are the rolling steps a, b, c and the ball at rest, d.
 class BallStage {
  public:
   virtual ~BallStage() = default;

@@ -14,6 +14,7 @@ class QFrame;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class QTimer;
 
 namespace karvenis {
 
@@ -37,8 +38,8 @@ class frmLoto final : public Form, private BallStage {
 
  private:
   void buildMenus();
-  QAction* function(int number, QMenu* head, const char* entry, QStringView text,
-                    std::function<void()> procedure);
+  void function(int number, QMenu* head, const char* entry, QStringView text,
+                std::function<void()> procedure);
   void buildBanner();
   void buildStage();
   void buildBall(int k);

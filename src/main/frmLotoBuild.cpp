@@ -124,11 +124,10 @@ void frmLoto::buildMenus() {
 }
 
 /// The menu entry that the function key `number` triggers too.
-QAction* frmLoto::function(int number, QMenu* head, const char* entry, QStringView text,
-                           std::function<void()> procedure) {
-  QAction* action = menuEntry(head, entry, text.toString(), std::move(procedure));
-  entries_[static_cast<std::size_t>(number - 1)] = action;
-  return action;
+void frmLoto::function(int number, QMenu* head, const char* entry, QStringView text,
+                       std::function<void()> procedure) {
+  entries_[static_cast<std::size_t>(number - 1)] =
+      menuEntry(head, entry, text.toString(), std::move(procedure));
 }
 
 void frmLoto::buildBanner() {
@@ -172,7 +171,7 @@ void frmLoto::buildStage() {
 void frmLoto::buildBall(int k) {
   const QRect rest = restOf(k);
   for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
-    const int index = 5 * (k - 1) + 1 + static_cast<int>(step);
+    const int index = image(k, "abcd"[step]);
     const QString part = u"p%1-%2"_s.arg(k).arg(QLatin1Char("abcd"[step]));
     auto* image = new Picture(artwork_, u"ball.svg"_s, part, stage_);
     image->setObjectName(u"Image1_%1"_s.arg(index));
@@ -181,8 +180,8 @@ void frmLoto::buildBall(int k) {
     Image1[static_cast<std::size_t>(index)] = image;
   }
   const QRect plate(QPoint(rest.center().x() - plateSize.width() / 2, plateTop), plateSize);
-  buildLabel(2 * k - 2, rest.adjusted(0, 0, 0, -7), 30, look::ink);
-  buildLabel(2 * k - 1, plate, 20, look::petrol)->setFrameShape(QFrame::StyledPanel);
+  buildLabel(mainLabel(k), rest.adjusted(0, 0, 0, -7), 30, look::ink);
+  buildLabel(copyLabel(k), plate, 20, look::petrol)->setFrameShape(QFrame::StyledPanel);
 }
 
 QLabel* frmLoto::buildLabel(int index, const QRect& place, int pixels, unsigned colour) {

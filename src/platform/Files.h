@@ -17,7 +17,7 @@ class File {
   /// file's end. Throws RunTimeError(read).
   virtual std::size_t read(std::uint64_t offset, std::span<std::byte> into) = 0;
   /// Writes all of `bytes` at byte `offset`; a gap that this leaves reads as 0. Throws (write), and
-  /// then the file holds what it held before.
+  /// then the file holds what it held before, as far as the disk lets it be put back.
   virtual void write(std::uint64_t offset, std::span<const std::byte> bytes) = 0;
   /// Length in bytes. Throws (read).
   virtual std::uint64_t length() = 0;

@@ -17,7 +17,7 @@ enum class Fault {
   printer,   ///< the printer refused
 };
 
-/// A fault that nobody expects and that ends the program with one clear box (see Form). Refusals
+/// A fault that nobody expects and that ends the program with one clear box (see Forms). Refusals
 /// that a user can meet in normal work are values and never this.
 class RunTimeError : public std::runtime_error {
  public:

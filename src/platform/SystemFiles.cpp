@@ -104,10 +104,7 @@ class SystemFile final : public File {
     try {
       writeAll(descriptor_.get(), offset, bytes, name_);
     } catch (const RunTimeError&) {
-      std::ignore = ::pwrite(descriptor_.get(), old.data(), old.size(), static_cast<off_t>(offset));
-      if (length() > before) {
-        std::ignore = ::ftruncate(descriptor_.get(), static_cast<off_t>(before));
-      }
+      putBack(offset, old, before);
       throw;
     }
   }
@@ -126,6 +123,17 @@ class SystemFile final : public File {
   }
 
  private:
+  /// The fault that comes first is the one to tell; this one's own go unheard.
+  void putBack(std::uint64_t offset, std::span<const std::byte> old,
+               std::uint64_t length) noexcept {
+    try {
+      writeAll(descriptor_.get(), offset, old, name_);
+      if (this->length() <= length) return;
+      std::ignore = ::ftruncate(descriptor_.get(), static_cast<off_t>(length));
+    } catch (const RunTimeError&) {
+    }
+  }
+
   Descriptor descriptor_;
   std::string name_;
   bool created_;
@@ -170,13 +178,13 @@ std::string folderOf(const std::string& path) {
 /// The file of this name, new and empty, locked while it is open. One that an interrupted copy left
 /// behind is thrown away; one that another copy is writing just now is not, and none is returned.
 Descriptor openAlone(const std::string& name) {
-  constexpr int flags = O_RDWR | O_CLOEXEC | O_NOFOLLOW;
+  constexpr int flags = O_CLOEXEC | O_NOFOLLOW;
   {
-    const Descriptor leftOver(::open(name.c_str(), (flags & ~O_RDWR) | O_RDONLY | O_NONBLOCK));
+    const Descriptor leftOver(::open(name.c_str(), O_RDONLY | O_NONBLOCK | flags));
     if (leftOver && ::flock(leftOver.get(), LOCK_EX | LOCK_NB) != 0) return Descriptor();
     ::unlink(name.c_str());
   }
-  Descriptor created(::open(name.c_str(), flags | O_CREAT | O_EXCL, 0600));
+  Descriptor created(::open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | flags, 0600));
   if (created && ::flock(created.get(), LOCK_EX | LOCK_NB) != 0) return Descriptor();
   return created;
 }

@@ -24,8 +24,7 @@ void writeDrawn(SharedState& state, Files& files, std::int32_t number) {
 }  // namespace
 
 void SaveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
-  std::int32_t count = 0;
-  if (around.files.exists(randomColumns)) count = columnCount(around.files, randomColumns);
+  const std::int32_t count = columnCountOrNone(around.files, randomColumns);
   if (count >= recordLimit) {
     around.boxes.beep();
     return;

@@ -17,13 +17,11 @@ frmRndDel::frmRndDel(Surroundings& around, Forms& forms)
       deletion_(around),
       Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
       Text1(control<QLineEdit>(u"Text1"_s)),
-      Command1(control<QPushButton>(u"Command1"_s, u"Tamam"_s)),
-      Command2(control<QPushButton>(u"Command2"_s, u"İptal"_s)) {
+      Command1(command("Command1", u"Tamam", u"", [this] { Command1_Click(); })),
+      Command2(command("Command2", u"İptal", u"", [this] { Command2_Click(); })) {
   setCaption(" Kolon Silme");
   buildLayout();
   onEnter(Text1, [this] { Text1_KeyPress(); });
-  on(Command1, &QPushButton::clicked, [this] { Command1_Click(); });
-  on(Command2, &QPushButton::clicked, [this] { Command2_Click(); });
   Text1->setFocus();
 }
 

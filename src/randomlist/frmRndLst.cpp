@@ -7,6 +7,7 @@
 #include "randomlist/RandomColumnList.h"
 
 namespace karvenis {
+
 frmRndLst::frmRndLst(Surroundings& around, Forms& forms)
     : Form(forms, "frmRndLst"), around_(around), surface_(new Surface(this)) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");

@@ -15,7 +15,8 @@ struct Killed {};
 /// What happens at the chosen call.
 enum class Mishap {
   fault,      ///< it fails and changes nothing
-  halfFault,  ///< a write is broken off before it fails; another call does all, then fails
+  halfFault,  ///< a write is broken off, cannot be put back and fails; another call does all, then
+              ///< fails
   death,      ///< the process dies before it
   halfDeath,  ///< the process dies in the middle of a write, or right after another call
 };

@@ -51,7 +51,7 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
     add<frmRnd>("frmRnd");
     add<frmComLst>("frmComLst");
     add<frmCLPrint>("frmCLPrint");
-    const ColumnRecord widest{-1, {44, 45, 46, 47, 48, 49}};
+    const ColumnRecord widest{-1, column(44, 45, 46, 47, 48, 49)};
     world.files.folder["KARVENIS.RND"] = columnBytes(std::vector<ColumnRecord>(12345, widest));
     world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];
     world.state.Banko = {5, 45, 46, 47, 48, 49};

@@ -15,6 +15,7 @@ QPixmap readyMade(const QString& name, const QSize& size) {
   if (!resource.isValid()) return {};
   // The picture keeps the bytes instead of copying them.
   auto* bytes = new QByteArray(resource.uncompressedData());
+  Q_ASSERT(bytes->size() == qsizetype{4} * size.width() * size.height());
   return QPixmap::fromImage(QImage(
       reinterpret_cast<const uchar*>(bytes->constData()), size.width(), size.height(),
       QImage::Format_ARGB32_Premultiplied,
@@ -33,8 +34,13 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
 
   // What the first painted window shows is in the program ready-made for screens of one pixel each.
   if (element.isEmpty()) drawing = readyMade(QFileInfo(file).baseName(), pixels);
-  if (!drawing.isNull()) return drawing;
-  drawing = QPixmap(pixels);
+  if (drawing.isNull()) drawing = render(file, element, pixels);
+  drawing.setDevicePixelRatio(ratio);
+  return drawing;
+}
+
+QPixmap Artwork::render(const QString& file, const QString& element, const QSize& pixels) {
+  QPixmap drawing(pixels);
   drawing.fill(Qt::transparent);
   QPainter painter(&drawing);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -44,8 +50,6 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
   } else {
     renderer(file).render(&painter, element, all);
   }
-  painter.end();
-  drawing.setDevicePixelRatio(ratio);
   return drawing;
 }
 

@@ -25,6 +25,7 @@ class Artwork {
   QPixmap pixmap(const QString& file, const QString& element, const QSize& size, qreal ratio);
 
  private:
+  QPixmap render(const QString& file, const QString& element, const QSize& pixels);
   QSvgRenderer& renderer(const QString& file);
 
   QHash<QString, QPixmap> drawn_;

@@ -109,7 +109,6 @@ bool Form::event(QEvent* event) {
 
 void Form::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  windowHandle()->removeEventFilter(this);
   windowHandle()->installEventFilter(this);
 }
 

@@ -14,7 +14,6 @@
 class QKeyEvent;
 class QLineEdit;
 class QPushButton;
-class QTimer;
 
 namespace karvenis {
 

@@ -98,7 +98,7 @@ void Forms::closed(Form& form) {
   active_ = nullptr;  // so that the next one is activated, also where it already had the focus
   Form* next = form.opener();
   if (next == nullptr || next->isClosing()) next = find(mainForm_);
-  if (next != nullptr && next != &form) present(*next);
+  if (next != nullptr) present(*next);
 }
 
 void Forms::end() {

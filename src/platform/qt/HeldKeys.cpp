@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 
 namespace karvenis {
+
 HeldKeys::HeldKeys() { qApp->installEventFilter(this); }
 
 /// Keys come by the native windows first.

@@ -22,7 +22,7 @@ namespace {
 /// What a page keeps clear above and below where the printer itself would keep less, in twips.
 constexpr double leastMargin = 500;
 
-/// Whatever the reason, the user reads that the printer is not ready (see Listing.cpp).
+/// One reason for all: no caller tells them apart.
 [[noreturn]] void fail() { throw RunTimeError(Fault::printer, "printer", "yazıcı kullanılamıyor"); }
 
 /// The printable part of the page, in dots.

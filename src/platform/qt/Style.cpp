@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "platform/qt/Look.h"
 
