@@ -28,7 +28,7 @@ std::int16_t columnSum(const Column& column, std::int64_t number) {
     sum += column[k];
     if (sum != static_cast<std::int16_t>(sum)) {
       throw RunTimeError(Fault::overflow, std::to_string(sum),
-                         std::to_string(number) + ". kolon bozuk, toplamı 16 bite sığmıyor");
+                         std::to_string(number) + ". kolon bozuk, sayılarının toplamı sığmıyor");
     }
   }
   return static_cast<std::int16_t>(sum);

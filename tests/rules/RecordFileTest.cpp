@@ -116,7 +116,7 @@ TEST(ColumnSum, OverflowsAsAFault) {
     ADD_FAILURE() << "no fault";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(describe(error),
-              "'-32769' sayısı taştı.\rNeden: 7. kolon bozuk, toplamı 16 bite sığmıyor");
+              "'-32769' sayısı taştı.\rNeden: 7. kolon bozuk, sayılarının toplamı sığmıyor");
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <algorithm>
 
 #include "platform/qt/Text.h"
@@ -32,6 +33,22 @@ QMessageBox::Icon shown(Icon icon) {
 constexpr Qt::WindowFlags boxFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
 
+/// `text` for showing: what is too long for a line, such as a list of many numbers or a folder's
+/// name, may be broken behind its commas and slashes, where it would be cut off otherwise.
+QString breakable(const QString& text) {
+  static const QRegularExpression longWord(u"\\S{50,}"_s);
+  static const QRegularExpression mark(u"([,/])"_s);
+  QString shown;
+  qsizetype done = 0;
+  for (auto words = longWord.globalMatch(text); words.hasNext();) {
+    const QRegularExpressionMatch word = words.next();
+    shown += QStringView(text).sliced(done, word.capturedStart() - done);
+    shown += word.captured().replace(mark, u"\\1\u200B"_s);
+    done = word.capturedEnd();
+  }
+  return shown.append(QStringView(text).sliced(done));
+}
+
 /// Gives the text as much room as its lines and the title ask for, up to a width that still reads
 /// well; the toolkit alone would break a line for its last mark. Both sides keep the same margin.
 void widen(QMessageBox& box) {
@@ -51,7 +68,7 @@ void widen(QMessageBox& box) {
 void fill(QMessageBox& box, const std::string& text, const std::string& title, Icon icon) {
   box.setWindowTitle(toQt(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(toQtLines(text));
+  box.setText(breakable(toQtLines(text)));
   box.setIcon(shown(icon));
   box.setWindowModality(Qt::ApplicationModal);
   box.setWindowFlags(boxFlags);
