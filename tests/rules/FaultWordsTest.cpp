@@ -2,6 +2,7 @@
 
 #include <cerrno>
 
+#include "core/Checked.h"
 #include "platform/RunTimeError.h"
 #include "platform/SystemWords.h"
 
@@ -42,6 +43,16 @@ TEST(SystemWords, AreTurkishForTheErrorsThatAUserCanMeet) {
   };
   for (const auto& [error, words] : rows) EXPECT_EQ(systemWords(error), words);
   EXPECT_FALSE(systemWords(ETXTBSY).empty());
+}
+
+TEST(Checked, TellsTheNumberAndTheRoomThatItOutgrew) {
+  EXPECT_EQ(checked<std::int16_t>(32767), 32767);
+  try {
+    checked<std::int16_t>(32768);
+    ADD_FAILURE() << "no fault";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(describe(error), "'32768' sayısı taştı.\rNeden: 16 bite sığmıyor");
+  }
 }
 
 }  // namespace
