@@ -58,17 +58,28 @@ Bytes bagBytes() {
   return words(all);
 }
 
+using SharedFolder = std::shared_ptr<const Folder>;
+
 /// A folder in which every file of the program stands.
-Folder full(std::int32_t kept = longList, std::int32_t listed = longList) {
-  return {
-      {randomColumns, countedColumns(kept, 0)},       {combinationList, countedColumns(listed, 1)},
-      {listBackup, countedColumns(3, 1000)},          {bagFileName, bagBytes()},
-      {settingsFile, hex("00 00 c8 42 00 00 48 43")}, {textFile, hex("41 42 43")}};
+SharedFolder full(std::int32_t kept = longList, std::int32_t listed = longList) {
+  static std::map<std::pair<std::int32_t, std::int32_t>, SharedFolder> made;
+  SharedFolder& folder = made[{kept, listed}];
+  if (!folder) {
+    folder = std::make_shared<Folder>(Folder{{randomColumns, countedColumns(kept, 0)},
+                                             {combinationList, countedColumns(listed, 1)},
+                                             {listBackup, countedColumns(3, 1000)},
+                                             {bagFileName, bagBytes()},
+                                             {settingsFile, hex("00 00 c8 42 00 00 48 43")},
+                                             {textFile, hex("41 42 43")}});
+  }
+  return folder;
 }
 
-Folder without(Folder folder, const std::string& name) {
+/// The full folder without the file `name`.
+SharedFolder without(const std::string& name) {
+  Folder folder = *full();
   folder.erase(name);
-  return folder;
+  return std::make_shared<Folder>(std::move(folder));
 }
 
 void save(Surroundings& around, TitleBar& title) {
@@ -152,12 +163,12 @@ std::vector<Action> savingActions() {
   using enum Action::OnFault;
   return {
       {"save", full(), save},
-      {"save the first", without(full(), randomColumns), save},
+      {"save the first", without(randomColumns), save},
       {"write the place", full(),
        [](auto& a, auto&) {
          writePlace(a.files, {1, 2});
        }},
-      {"write the first place", without(full(), settingsFile),
+      {"write the first place", without(settingsFile),
        [](auto& a, auto&) {
          writePlace(a.files, {1, 2});
        }},
@@ -167,9 +178,9 @@ std::vector<Action> savingActions() {
       {"load the bag in its window", full(), loadBagWindow},
       {"load the bankos in their window", full(), loadBankoWindow},
       {"save the bag", full(), saveBagWindow},
-      {"save the first bag", without(full(), bagFileName), saveBagWindow},
+      {"save the first bag", without(bagFileName), saveBagWindow},
       {"save the bankos", full(), saveBankoWindow},
-      {"save the first bankos", without(full(), bagFileName), saveBankoWindow},
+      {"save the first bankos", without(bagFileName), saveBankoWindow},
   };
 }
 
@@ -177,13 +188,13 @@ std::vector<Action> listActions() {
   using enum Action::OnFault;
   return {
       {"make the kept columns the list", full(), ChangeRndFile, mayGoOn},
-      {"make the kept columns the first list", without(full(), combinationList), ChangeRndFile,
+      {"make the kept columns the first list", without(combinationList), ChangeRndFile,
        mayGoOn},
       {"delete the kept columns", full(), DeleteRndFile, mayGoOn},
       {"delete the kept columns in their window", full(), [](auto& a, auto&) { DeleteRndList(a); },
        mayGoOn},
       {"append to the list", full(), appendList},
-      {"append to a missing list", without(full(), combinationList), appendList},
+      {"append to a missing list", without(combinationList), appendList},
       {"save as the list", full(), [](auto& a, auto&) { SaveAsCombinationList(a); }},
       {"delete a kept column", full(), deleteKept, mayGoOn},
       {"delete the only kept column", full(1), deleteKept, mayGoOn},
@@ -194,7 +205,7 @@ std::vector<Action> listActions() {
       {"show the list", full(), showListed},
       {"generate a longer list", full(), generate<newList, longList + 50>},
       {"generate a shorter list", full(), generate<newList, 40>},
-      {"generate the first list", without(full(), combinationList), generate<newList, 4100>},
+      {"generate the first list", without(combinationList), generate<newList, 4100>},
       {"generate more", full(), generate<append, 4100>},
       {"write the kept columns as text", full(100),
        [](auto& a, auto& t) { listRandomColumns(a, t, Output::text); }},
@@ -302,11 +313,11 @@ Folder resultOf(const Action& action, const Folder& start) {
 }
 
 std::string damage(const Action& action, const Folder& now, bool died) {
-  static std::map<std::pair<std::string, Folder>, Folder> results;
+  static std::map<std::pair<std::string, SharedFolder>, Folder> results;
+  const Folder& old = *action.start;
   const auto [known, isNew] = results.try_emplace({action.name, action.start});
-  if (isNew) known->second = resultOf(action, action.start);
+  if (isNew) known->second = resultOf(action, old);
   const Folder& fresh = known->second;
-  const Folder& old = action.start;
   const bool marked = action.marks && listIsMarked(old, now);
   for (const char* name : lists) {
     const bool allowed =

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -17,7 +18,9 @@ using Folder = std::map<std::string, Bytes>;
 /// A command of the user that touches files, answered with Yes throughout.
 struct Action {
   const char* name;
-  Folder start;  ///< what the folder holds before it
+  /// What the folder holds before it; shared, since the test library copies every action for every
+  /// test.
+  std::shared_ptr<const Folder> start;
   void (*run)(Surroundings& around, TitleBar& title);
   /// What it does with a file that fails: nearly every command ends the program, a few go on with
   /// their next step.

@@ -35,7 +35,7 @@ void surviveEverywhere(const Bytes& damaged, const char* only = nullptr) {
     const bool reads = only == nullptr || std::string(action.name).find("ba") != std::string::npos;
     if (isLong(action) || !reads) continue;
     MemoryFiles files;
-    for (const auto& [name, bytes] : action.start) {
+    for (const auto& [name, bytes] : *action.start) {
       files.folder[name] = only == nullptr || name == only ? damaged : bytes;
     }
     survive(action, files);
@@ -110,9 +110,9 @@ TEST_P(LongList, PassesEveryCommand) {
   const Bytes list = countedColumns(GetParam().records);
   for (const Action& action : actions()) {
     MemoryFiles files;
-    files.folder = action.start;
+    files.folder = *action.start;
     for (const char* name : {randomColumns, combinationList}) {
-      if (action.start.contains(name)) files.folder[name] = list;
+      if (action.start->contains(name)) files.folder[name] = list;
     }
     survive(action, files);
   }

@@ -49,7 +49,7 @@ class FailingDoor : public testing::TestWithParam<Action> {
       SCOPED_TRACE(std::string(action.name) + ", " + trouble.name + " at call " +
                    std::to_string(at));
       MemoryFiles folder;
-      folder.folder = action.start;
+      folder.folder = *action.start;
       const Outcome outcome = disturb(action, folder, trouble, at);
       if (outcome == Outcome::clean) return at - 1;
       EXPECT_EQ(damage(action, folder.folder, outcome == Outcome::killed), "");
@@ -73,7 +73,7 @@ TEST_P(FailingDoor, NoFaultIsSwallowedUnlessTheCommandGoesOn) {
   if (action.onFault == Action::OnFault::mayGoOn) return;
   for (int at = 1;; ++at) {
     MemoryFiles folder;
-    folder.folder = action.start;
+    folder.folder = *action.start;
     FailingFiles files(folder);
     files.failAt(at, Mishap::fault);
     bool told = false;

@@ -42,7 +42,7 @@ TEST_P(FailingSystem, AnErrorOfAnyCallLeavesOldOrNewBytes) {
     for (int at = 1;; ++at) {
       const int error = at % 3 == 0 ? ENOSPC : at % 3 == 1 ? EIO : EACCES;
       SCOPED_TRACE("call " + std::to_string(at) + (stays ? " and all later ones" : ""));
-      folder_.fill(action.start);
+      folder_.fill(*action.start);
       int calls = 0;
       bool told = false;
       bool harmless = false;
@@ -73,7 +73,7 @@ TEST_P(FailingSystem, DeathAtAnyCallLeavesOldOrNewBytes) {
   const Action& action = GetParam();
   for (int at = 1;; ++at) {
     SCOPED_TRACE("call " + std::to_string(at));
-    folder_.fill(action.start);
+    folder_.fill(*action.start);
     int calls = 0;
     const bool died = diesInChild(action, [&](const SystemCall&) {
       if (++calls == at) ::kill(::getpid(), SIGKILL);
@@ -183,9 +183,9 @@ std::string nameOfOpen(int file) {
 
 TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   const Action& action = GetParam();
-  folder_.fill(action.start);
-  Disk disk(action.start);
-  std::vector<Folder> losses{action.start};
+  folder_.fill(*action.start);
+  Disk disk(*action.start);
+  std::vector<Folder> losses{*action.start};
   {
     const Hooked hooked({[&](const SystemCall& call) {
                            using enum SystemCall::Kind;
@@ -210,7 +210,7 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   }
   if (action.onFault == Action::OnFault::ends) {
     const Folder all = disk.withoutUnsynced();
-    const Folder fresh = resultOf(action, action.start);
+    const Folder fresh = resultOf(action, *action.start);
     for (const char* list : {"KARVENIS.RND", "KARVENIS.LST", "KARVENIS.DAT", "KV2005.CFG"}) {
       EXPECT_EQ(all.contains(list), fresh.contains(list)) << list;
       if (!all.contains(list) || !fresh.contains(list)) continue;

@@ -34,7 +34,9 @@ class FullDisk : public OnDisk {
 
 /// The same with lists of a hundred columns at most.
 Action withShortLists(Action action) {
-  for (auto& [name, bytes] : action.start) bytes.resize(std::min<std::size_t>(bytes.size(), 1600));
+  Folder start = *action.start;
+  for (auto& [name, bytes] : start) bytes.resize(std::min<std::size_t>(bytes.size(), 1600));
+  action.start = std::make_shared<Folder>(std::move(start));
   return action;
 }
 
@@ -67,7 +69,7 @@ TEST_P(FullDisk, AfterAnyByteIsToldAndKeepsEveryListWhole) {
   const std::size_t eachByte = isLong ? 16 : 260;
   for (std::size_t left = 0;; left += left < eachByte ? 1 : left / 4) {
     SCOPED_TRACE("full after " + std::to_string(left) + " bytes");
-    folder_.fill(action.start);
+    folder_.fill(*action.start);
     Space space(left);
     bool told = false;
     {
@@ -121,10 +123,10 @@ class FullFileSystem : public FullDisk {
   /// With no page left, then with one, until that is enough.
   void fillPageByPage(const Action& action) {
     mountSmallDisk(folder_.path());
-    const Folder result = resultOf(action, action.start);
+    const Folder result = resultOf(action, *action.start);
     for (std::size_t pages = 0; pages < 64 && !HasFailure(); ++pages) {
       SCOPED_TRACE(std::to_string(pages) + " pages left");
-      folder_.fill(action.start);
+      folder_.fill(*action.start);
       fillUp(pages);
       const bool told = isTold(action);
       if (!told && folder_.content() == result) return;

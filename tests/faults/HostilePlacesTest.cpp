@@ -57,7 +57,7 @@ class SmallDisk {
 
 class HostilePlace : public testing::TestWithParam<Action> {
  protected:
-  void SetUp() override { folder_.fill(GetParam().start); }
+  void SetUp() override { folder_.fill(*GetParam().start); }
 
   /// Runs the action; where it ends in the fault, that tells why.
   void run() {
@@ -74,9 +74,9 @@ class HostilePlace : public testing::TestWithParam<Action> {
   /// Lists hold old or new bytes, and when the cause is gone the action does all of its work.
   void expectWhole() { EXPECT_EQ(damage(GetParam(), folder_.content(), false), ""); }
   void expectWorksAgain() {
-    folder_.fill(GetParam().start);
+    folder_.fill(*GetParam().start);
     perform(GetParam(), files_);
-    EXPECT_TRUE(folder_.content() == resultOf(GetParam(), GetParam().start));
+    EXPECT_TRUE(folder_.content() == resultOf(GetParam(), *GetParam().start));
   }
 
   DiskFolder folder_;
@@ -89,7 +89,7 @@ TEST_P(HostilePlace, AFolderThatMayOnlyBeReadKeepsEveryByte) {
     ASSERT_EQ(::chmod(entry.path().c_str(), 0444), 0);
   }
   runAsNobody();
-  EXPECT_TRUE(folder_.content() == GetParam().start);
+  EXPECT_TRUE(folder_.content() == *GetParam().start);
   ASSERT_EQ(::chmod(folder_.path().c_str(), 0777), 0);
   expectWorksAgain();
 }
@@ -106,7 +106,7 @@ TEST_P(HostilePlace, AFolderOfAnotherUserWithFilesForAllKeepsEveryListWhole) {
 TEST_P(HostilePlace, AFileOfAnotherUserUnderAnyNameIsToldOrReplaced) {
   for (const char* name : names) {
     SCOPED_TRACE(name);
-    folder_.fill(GetParam().start);
+    folder_.fill(*GetParam().start);
     ASSERT_EQ(::chmod(folder_.path().c_str(), 0777), 0);
     for (const auto& entry : fs::directory_iterator(folder_.path())) {
       ASSERT_EQ(::chmod(entry.path().c_str(), 0666), 0);
@@ -115,7 +115,7 @@ TEST_P(HostilePlace, AFileOfAnotherUserUnderAnyNameIsToldOrReplaced) {
     ASSERT_EQ(::chmod(name, 0000), 0);
     runAsNobody();
     Folder now = folder_.content();
-    if (!GetParam().start.contains(name) && now.contains(name) && now.at(name).empty()) {
+    if (!GetParam().start->contains(name) && now.contains(name) && now.at(name).empty()) {
       now.erase(name);
     }
     EXPECT_EQ(damage(GetParam(), now, false), "");
@@ -138,14 +138,14 @@ TEST_P(HostilePlace, WhatIsNoFileUnderAnyNameIsToldOrLeftAlone) {
   for (const Obstacle& obstacle : obstacles) {
     for (const char* name : names) {
       SCOPED_TRACE(std::string(obstacle.what) + " as " + name);
-      folder_.fill(GetParam().start);
+      folder_.fill(*GetParam().start);
       fs::remove(name);
       obstacle.put(name);
       run();
       for (const char* list : {"KARVENIS.RND", "KARVENIS.LST", "KARVENIS.DAT", "KV2005.CFG"}) {
-        if (name == std::string(list) || !GetParam().start.contains(list)) continue;
+        if (name == std::string(list) || !GetParam().start->contains(list)) continue;
         EXPECT_TRUE(fs::exists(list) || GetParam().onFault == Action::OnFault::mayGoOn ||
-                    !resultOf(GetParam(), GetParam().start).contains(list))
+                    !resultOf(GetParam(), *GetParam().start).contains(list))
             << list << " is gone";
       }
     }
@@ -156,7 +156,7 @@ TEST_P(HostilePlace, WhatIsNoFileUnderAnyNameIsToldOrLeftAlone) {
 TEST_P(HostilePlace, AFullDiskKeepsEveryListWhole) {
   for (const rlim_t most : {0U, 5U, 51U, 103U, 110U, 4096U, 65'607U}) {
     SCOPED_TRACE(std::to_string(most) + " bytes");
-    folder_.fill(GetParam().start);
+    folder_.fill(*GetParam().start);
     {
       const SmallDisk small(most);
       run();

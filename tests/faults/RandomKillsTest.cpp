@@ -82,7 +82,7 @@ std::vector<Victim> victims(DiskFolder& folder) {
   std::vector<Victim> all;
   for (const Action& action : actions()) {
     Timetable& times = sharedTimetable();
-    folder.fill(action.start);
+    folder.fill(*action.start);
     EXPECT_FALSE(killedInChild(
         action, [&](int) { times.note(); }, [&] { times.note(); }));
     --times.calls;  // the end
@@ -109,7 +109,7 @@ TEST(RandomKills, LeaveOldOrNewBytes) {
     const int at = static_cast<int>(random() % static_cast<unsigned>(times.calls));
     const auto delay =
         1 + static_cast<std::int64_t>(random() % static_cast<std::uint64_t>(times.after(at) + 1));
-    folder.fill(action->start);
+    folder.fill(*action->start);
     if (!killedInChild(
             *action,
             [&](int call) {
@@ -120,7 +120,7 @@ TEST(RandomKills, LeaveOldOrNewBytes) {
     }
     ++killed;
     const Folder now = folder.content();
-    if (now != action->start && now != result) ++halfWay;
+    if (now != *action->start && now != result) ++halfWay;
     EXPECT_EQ(damage(*action, now, true), "");
     EXPECT_EQ(stumbles(*action, withoutCopies(now)), "");
     if (testing::Test::HasFailure()) return;
