@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
   forms.add("frmLoto", [&] {
-    auto* window = new frmLoto(around, forms);
+    auto* window = new frmLoto(around);
     window->installEventFilter(&end);
     return window;
   });

@@ -124,7 +124,7 @@ double pageTurn(QuietWorld& world, int count, int rounds) {
   Forms forms(world.boxes);
   Surroundings around{world.state, world.boxes,   world.clock, world.chance,
                       world.files, world.printer, forms};
-  forms.add("frmRndLst", [&] { return new frmRndLst(around, forms); });
+  forms.add("frmRndLst", [&] { return new frmRndLst(around); });
   forms.show("frmRndLst");
   Form* list = forms.find("frmRndLst");
   int turns = 0;
@@ -143,7 +143,7 @@ double windowText(QuietWorld& world, int rounds) {
   Forms forms(world.boxes);
   Surroundings around{world.state, world.boxes,   world.clock, world.chance,
                       world.files, world.printer, forms};
-  forms.add("frmRLPrint", [&] { return new frmRLPrint(around, forms); });
+  forms.add("frmRLPrint", [&] { return new frmRLPrint(around); });
   forms.show("frmRLPrint");
   auto* command = forms.find("frmRLPrint")->findChild<QPushButton*>("Command1");
   return medianOf(

@@ -2,24 +2,16 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
-#include "bag/frmBalls.h"
-#include "bag/frmBanko.h"
-#include "bag/frmList.h"
-#include "comblist/frmComLst.h"
-#include "comblist/frmRnd.h"
+#include "AllWindows.h"
 #include "core/Surroundings.h"
-#include "listing/frmCLPrint.h"
-#include "listing/frmRLPrint.h"
-#include "main/frmLoto.h"
 #include "platform/SystemChance.h"
 #include "platform/SystemFiles.h"
+#include "platform/qt/Form.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/QtBoxes.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtPrinter.h"
-#include "randomlist/frmRndDel.h"
-#include "randomlist/frmRndLst.h"
 
 using namespace Qt::StringLiterals;
 
@@ -58,16 +50,6 @@ int main(int argc, char** argv) {
   boxes.beforeBox = [&forms] { forms.showCaptions(); };
   chance.seedFrom(clock);
 
-  forms.add("frmLoto", [&] { return new frmLoto(around, forms); });
-  forms.add("frmBalls", [&] { return new frmBalls(around, forms); });
-  forms.add("frmBanko", [&] { return new frmBanko(around, forms); });
-  forms.add("frmList", [&] { return new frmList(around, forms); });
-  forms.add("frmRndLst", [&] { return new frmRndLst(around, forms); });
-  forms.add("frmRndDel", [&] { return new frmRndDel(around, forms); });
-  forms.add("frmRLPrint", [&] { return new frmRLPrint(around, forms); });
-  forms.add("frmRnd", [&] { return new frmRnd(around, forms); });
-  forms.add("frmComLst", [&] { return new frmComLst(around, forms); });
-  forms.add("frmCLPrint", [&] { return new frmCLPrint(around, forms); });
-
+  addWindows(forms, around);
   return forms.run();
 }

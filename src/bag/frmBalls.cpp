@@ -23,7 +23,7 @@ constexpr char tag[] = "Tag";
 
 }  // namespace
 
-frmBalls::frmBalls(Surroundings& around, Forms& forms) : frmSelection(around, forms, "frmBalls") {
+frmBalls::frmBalls(Surroundings& around) : frmSelection(around, "frmBalls") {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);
   whole->setSpacing(margin - 4);
@@ -72,8 +72,9 @@ void frmBalls::buildCell(int index) {
     return;
   }
   cell->setFocusPolicy(Qt::ClickFocus);
-  cell->stepped = [this, index](int columns, int rows) { step(index, columns, rows); };
-  cell->entered = [this, index] { takeTabStop(index); };
+  connect(cell, &BallCell::stepped, this,
+          [this, index](int columns, int rows) { step(index, columns, rows); });
+  connect(cell, &BallCell::entered, this, [this, index] { takeTabStop(index); });
   on(cell, &QPushButton::clicked, [this, index] { cmdBall_Click(index); });
   setMarked(index, false);
 }

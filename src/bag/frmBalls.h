@@ -15,8 +15,10 @@ class BallCell;
 /// The bag window: the user marks the balls that columns are drawn from. Marks change nothing until
 /// they are applied or saved.
 class frmBalls final : public frmSelection, private BallButtons {
+  Q_OBJECT
+
  public:
-  frmBalls(Surroundings& around, Forms& forms);
+  explicit frmBalls(Surroundings& around);
 
   void Form_Activate() override;
 

@@ -21,7 +21,7 @@ constexpr int boxPixels = 20;
 
 }  // namespace
 
-frmBanko::frmBanko(Surroundings& around, Forms& forms) : frmSelection(around, forms, "frmBanko") {
+frmBanko::frmBanko(Surroundings& around) : frmSelection(around, "frmBanko") {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);
   whole->setSpacing(margin - 2);

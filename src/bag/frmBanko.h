@@ -14,8 +14,10 @@ namespace karvenis {
 /// The banko window: how many bankos there are, and which. What is typed counts when it is applied
 /// or saved.
 class frmBanko final : public frmSelection, private BankoBoxes {
+  Q_OBJECT
+
  public:
-  frmBanko(Surroundings& around, Forms& forms);
+  explicit frmBanko(Surroundings& around);
 
   void Form_Activate() override;
 

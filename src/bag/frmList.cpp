@@ -19,8 +19,8 @@ constexpr int margin = 12;
 
 }  // namespace
 
-frmList::frmList(Surroundings& around, Forms& forms)
-    : Form(forms, "frmList"), page_(makePage(this)), coupon_(around, *page_, *this) {
+frmList::frmList(Surroundings& around)
+    : Form(around.windows, "frmList"), page_(makePage(this)), coupon_(around, *page_, *this) {
   setCaption("Sekiz Rastgele Kolon");
   setPalette(page_->palette());
   auto* whole = new QVBoxLayout(this);

@@ -13,8 +13,10 @@ class Surface;
 /// The window of eight random columns, which types its coupon by itself. Any key or a double click
 /// asks for a new one.
 class frmList final : public Form, private CouponWindow {
+  Q_OBJECT
+
  public:
-  frmList(Surroundings& around, Forms& forms);
+  explicit frmList(Surroundings& around);
 
   void Form_Load() override;
 

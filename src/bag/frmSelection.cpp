@@ -7,8 +7,8 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmSelection::frmSelection(Surroundings& around, Forms& forms, const char* name)
-    : Form(forms, name), around_(around) {}
+frmSelection::frmSelection(Surroundings& around, const char* name)
+    : Form(around.windows, name), around_(around) {}
 
 QMenu* frmSelection::buildChoiceMenu() {
   QMenu* choice = menuHead("mnuSecim", u"Seçim"_s);

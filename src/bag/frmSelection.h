@@ -10,8 +10,10 @@ namespace karvenis {
 
 /// The base of the bag and the banko window, which apply, load and save a selection.
 class frmSelection : public Form {
+  Q_OBJECT
+
  protected:
-  frmSelection(Surroundings& around, Forms& forms, const char* name);
+  frmSelection(Surroundings& around, const char* name);
 
   void Form_KeyDown(int KeyCode, int Shift) override;
   /// A key that has a meaning of its own in this window.

@@ -13,8 +13,8 @@ constexpr int titleWidth = 480;  // the frame shows the whole title of the last 
 
 }  // namespace
 
-frmComLst::frmComLst(Surroundings& around, Forms& forms)
-    : Form(forms, "frmComLst"), around_(around), surface_(new Surface(this)) {
+frmComLst::frmComLst(Surroundings& around)
+    : Form(around.windows, "frmComLst"), around_(around), surface_(new Surface(this)) {
   setCaption(listTitle);
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);

@@ -12,8 +12,10 @@ class Surface;
 /// The combination list: pages through the file and carries the commands that thin it out. It has
 /// no controls; it prints on its own surface.
 class frmComLst final : public Form {
+  Q_OBJECT
+
  public:
-  frmComLst(Surroundings& around, Forms& forms);
+  explicit frmComLst(Surroundings& around);
 
   void Form_Activate() override;
 

@@ -22,8 +22,8 @@ constexpr int titleWidth = 380;  // the frame shows the whole title then
 
 }  // namespace
 
-frmRnd::frmRnd(Surroundings& around, Forms& forms)
-    : Form(forms, "frmRnd"), boxes_(around.boxes), generator_(around, *this) {
+frmRnd::frmRnd(Surroundings& around)
+    : Form(around.windows, "frmRnd"), boxes_(around.boxes), generator_(around, *this) {
   setCaption(generatorTitle);
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(margin, margin, margin, margin);

@@ -16,8 +16,10 @@ namespace karvenis {
 /// The generator: writes a new combination list of random columns, or columns behind the existing
 /// ones.
 class frmRnd final : public Form {
+  Q_OBJECT
+
  public:
-  frmRnd(Surroundings& around, Forms& forms);
+  explicit frmRnd(Surroundings& around);
 
   void Form_Activate() override;
 

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmCLPrint::frmCLPrint(Surroundings& around, Forms& forms)
-    : frmListing(around, forms, "frmCLPrint", combinationListing),
+frmCLPrint::frmCLPrint(Surroundings& around)
+    : frmListing(around, "frmCLPrint", combinationListing),
       Label1(control<QLabel>(u"Label1"_s, u"Başlangıç :"_s)),
       Text1(control<QLineEdit>(u"Text1"_s, u"1"_s)),
       Label2(control<QLabel>(u"Label2"_s, u"Bitiş :"_s)),

@@ -8,8 +8,10 @@ namespace karvenis {
 
 /// Lists a range of the combination list.
 class frmCLPrint final : public frmListing {
+  Q_OBJECT
+
  public:
-  frmCLPrint(Surroundings& around, Forms& forms);
+  explicit frmCLPrint(Surroundings& around);
 
   void Form_Activate() override;
 

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmListing::frmListing(Surroundings& around, Forms& forms, const char* name, const Listing& listing)
-    : Form(forms, name),
+frmListing::frmListing(Surroundings& around, const char* name, const Listing& listing)
+    : Form(around.windows, name),
       around_(around),
       Label3(control<QLabel>(u"Label3"_s, u"Çıktı:"_s)),
       Option1(control<QRadioButton>(u"Option1"_s, u"Text Dosyası"_s)),

@@ -13,8 +13,10 @@ namespace karvenis {
 
 /// The base of the two listing dialogs, which write a column list to the text file or print it.
 class frmListing : public Form {
+  Q_OBJECT
+
  protected:
-  frmListing(Surroundings& around, Forms& forms, const char* name, const Listing& listing);
+  frmListing(Surroundings& around, const char* name, const Listing& listing);
 
   void Form_KeyDown(int KeyCode, int Shift) override;
   /// Lists what the dialog is set to.

@@ -5,8 +5,8 @@
 
 namespace karvenis {
 
-frmRLPrint::frmRLPrint(Surroundings& around, Forms& forms)
-    : frmListing(around, forms, "frmRLPrint", randomColumnListing) {
+frmRLPrint::frmRLPrint(Surroundings& around)
+    : frmListing(around, "frmRLPrint", randomColumnListing) {
   layOut(new QGridLayout(this));
   Command1->setFocus();
 }

@@ -6,8 +6,10 @@ namespace karvenis {
 
 /// Lists all random columns.
 class frmRLPrint final : public frmListing {
+  Q_OBJECT
+
  public:
-  frmRLPrint(Surroundings& around, Forms& forms);
+  explicit frmRLPrint(Surroundings& around);
 
  private:
   void Command1_Click() override;

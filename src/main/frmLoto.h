@@ -22,8 +22,10 @@ class Picture;
 
 /// The main window: shows the drawn column and is the hub of all menus and function keys.
 class frmLoto final : public Form, private BallStage {
+  Q_OBJECT
+
  public:
-  frmLoto(Surroundings& around, Forms& forms);
+  explicit frmLoto(Surroundings& around);
 
   void Form_Load() override;
   void Form_Activate() override;

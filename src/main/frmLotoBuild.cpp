@@ -71,8 +71,8 @@ QLabel* dressed(QLabel* label, int pixels, unsigned colour) {
 
 }  // namespace
 
-frmLoto::frmLoto(Surroundings& around, Forms& forms)
-    : Form(forms, "frmLoto"), around_(around), animation_(*this, around.state.Drawn) {
+frmLoto::frmLoto(Surroundings& around)
+    : Form(around.windows, "frmLoto"), around_(around), animation_(*this, around.state.Drawn) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, margin);
   whole->setSpacing(margin - 4);
@@ -161,7 +161,7 @@ void frmLoto::buildStage() {
   Picture0->resize(stageSize);
   Picture0->setAttribute(Qt::WA_OpaquePaintEvent);
   Picture0->setCursor(Qt::PointingHandCursor);
-  Picture0->clicked = [this] { run([this] { Picture0_Click(); }); };
+  on(Picture0, &Picture::clicked, [this] { Picture0_Click(); });
   auto* row = new QHBoxLayout;
   row->setContentsMargins(margin, 0, margin, 0);
   row->addWidget(stage_);

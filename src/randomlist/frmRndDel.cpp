@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmRndDel::frmRndDel(Surroundings& around, Forms& forms)
-    : Form(forms, "frmRndDel"),
+frmRndDel::frmRndDel(Surroundings& around)
+    : Form(around.windows, "frmRndDel"),
       deletion_(around),
       Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
       Text1(control<QLineEdit>(u"Text1"_s)),

@@ -13,8 +13,10 @@ namespace karvenis {
 /// The dialog that deletes one random column by its number. The list behind it stays usable, so
 /// that the user can look the number up.
 class frmRndDel final : public Form {
+  Q_OBJECT
+
  public:
-  frmRndDel(Surroundings& around, Forms& forms);
+  explicit frmRndDel(Surroundings& around);
 
   void Form_Load() override;
 

@@ -8,8 +8,8 @@
 
 namespace karvenis {
 
-frmRndLst::frmRndLst(Surroundings& around, Forms& forms)
-    : Form(forms, "frmRndLst"), around_(around), surface_(new Surface(this)) {
+frmRndLst::frmRndLst(Surroundings& around)
+    : Form(around.windows, "frmRndLst"), around_(around), surface_(new Surface(this)) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);

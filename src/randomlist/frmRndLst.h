@@ -11,8 +11,10 @@ class Surface;
 /// The list of random columns: pages through the file and carries the commands on all of it. It has
 /// no controls; it prints on its own surface.
 class frmRndLst final : public Form {
+  Q_OBJECT
+
  public:
-  frmRndLst(Surroundings& around, Forms& forms);
+  explicit frmRndLst(Surroundings& around);
 
   void Form_Activate() override;
 

@@ -3,17 +3,8 @@
 #include <QMenuBar>
 #include <QRadioButton>
 
-#include "bag/frmBalls.h"
-#include "bag/frmBanko.h"
-#include "bag/frmList.h"
-#include "comblist/frmComLst.h"
-#include "comblist/frmRnd.h"
+#include "AllWindows.h"
 #include "doubles/Columns.h"
-#include "listing/frmCLPrint.h"
-#include "listing/frmRLPrint.h"
-#include "main/frmLoto.h"
-#include "randomlist/frmRndDel.h"
-#include "randomlist/frmRndLst.h"
 #include "windows/WindowTest.h"
 
 // No text of any window is cut, with letters up to twice as large as usual. The tests run this once
@@ -41,16 +32,7 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
     QFont larger = usual_;
     larger.setPointSizeF(usual_.pointSizeF() * std::get<double>(GetParam()));
     QApplication::setFont(larger);
-    add<frmLoto>("frmLoto");
-    add<frmBalls>("frmBalls");
-    add<frmBanko>("frmBanko");
-    add<frmList>("frmList");
-    add<frmRndLst>("frmRndLst");
-    add<frmRndDel>("frmRndDel");
-    add<frmRLPrint>("frmRLPrint");
-    add<frmRnd>("frmRnd");
-    add<frmComLst>("frmComLst");
-    add<frmCLPrint>("frmCLPrint");
+    addWindows(forms, around);
     const ColumnRecord widest{-1, column(44, 45, 46, 47, 48, 49)};
     world.files.folder["KARVENIS.RND"] = columnBytes(std::vector<ColumnRecord>(12345, widest));
     world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];

@@ -27,7 +27,7 @@ class WindowTest : public testing::Test {
   /// Makes a window known under its name.
   template <typename Window>
   void add(const char* name) {
-    forms.add(name, [this] { return new Window(around, forms); });
+    forms.add(name, [this] { return new Window(around); });
   }
   /// Shows the window and waits until it has the focus; null when it closed itself at once.
   Form* open(const char* name) {

@@ -13,7 +13,7 @@ constexpr char unwantedPrompt[] = "İstemediğiniz sayıları (aralarına virgü
 /// The window that the list is opened from.
 class Opener final : public Form {
  public:
-  Opener(Surroundings&, Forms& windows) : Form(windows, "opener") {}
+  explicit Opener(Surroundings& around) : Form(around.windows, "opener") {}
   void Form_Activate() override { ++activations; }
   int activations = 0;
 };
@@ -35,7 +35,7 @@ class FrmComLst : public ListWindowTest {
 };
 
 TEST_F(FrmComLst, CarriesItsDesignTitleUntilTheFirstRedraw) {
-  frmComLst window(around, forms);
+  frmComLst window(around);
   EXPECT_EQ(window.caption(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
 }
 

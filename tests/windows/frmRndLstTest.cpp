@@ -17,7 +17,7 @@ class FrmRndLst : public ListWindowTest {
 };
 
 TEST_F(FrmRndLst, CarriesItsDesignTitleUntilTheFirstRedraw) {
-  frmRndLst window(around, forms);
+  frmRndLst window(around);
   EXPECT_EQ(window.caption(), " RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
 }
 

@@ -41,7 +41,7 @@ class FrmRnd : public WindowTest {
   /// The window that the generator is opened from.
   class Opener final : public Form {
    public:
-    Opener(Surroundings&, Forms& windows) : Form(windows, "opener") {}
+    explicit Opener(Surroundings& around) : Form(around.windows, "opener") {}
     void Form_Activate() override { ++activations; }
     void Form_KeyDown(int, int) override { ++keys; }
     int activations = 0;

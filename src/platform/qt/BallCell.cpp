@@ -56,13 +56,13 @@ void BallCell::paintEvent(QPaintEvent*) {
 void BallCell::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Left:
-      return stepped(-1, 0);
+      return Q_EMIT stepped(-1, 0);
     case Qt::Key_Right:
-      return stepped(1, 0);
+      return Q_EMIT stepped(1, 0);
     case Qt::Key_Up:
-      return stepped(0, -1);
+      return Q_EMIT stepped(0, -1);
     case Qt::Key_Down:
-      return stepped(0, 1);
+      return Q_EMIT stepped(0, 1);
     default:
       return QPushButton::keyPressEvent(event);
   }
@@ -70,7 +70,7 @@ void BallCell::keyPressEvent(QKeyEvent* event) {
 
 void BallCell::focusInEvent(QFocusEvent* event) {
   QPushButton::focusInEvent(event);
-  entered();
+  Q_EMIT entered();
 }
 
 }  // namespace karvenis

@@ -1,22 +1,24 @@
 #pragma once
 
 #include <QPushButton>
-#include <functional>
 
 namespace karvenis {
 
 /// One ball of the bag window's coupon. A marked ball is told by its bold font, and so it is drawn:
 /// bold, ringed and on bright white.
 class BallCell final : public QPushButton {
+  Q_OBJECT
+
  public:
   BallCell(const QString& caption, QWidget* parent);
 
-  /// An arrow key asks for the cell that many columns and rows away.
-  std::function<void(int columns, int rows)> stepped;
-  /// The cell has got the focus.
-  std::function<void()> entered;
-
   QSize sizeHint() const override;
+
+ Q_SIGNALS:
+  /// An arrow key asks for the cell that many columns and rows away.
+  void stepped(int columns, int rows);
+  /// The cell has got the focus.
+  void entered();
 
  protected:
   void paintEvent(QPaintEvent* event) override;

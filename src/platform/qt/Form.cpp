@@ -23,7 +23,9 @@ bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != n
 
 }  // namespace
 
-Form::Form(Forms& forms, const char* name) : forms_(forms) { setObjectName(QLatin1String(name)); }
+Form::Form(Windows& windows, const char* name) : forms_(dynamic_cast<Forms&>(windows)) {
+  setObjectName(QLatin1String(name));
+}
 
 void Form::setCaption(std::string_view caption) {
   caption_ = caption;

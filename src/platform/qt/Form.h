@@ -18,12 +18,16 @@ class QPushButton;
 namespace karvenis {
 
 class Forms;
+class Windows;
 
 /// The base of every window. A window builds its controls, connects them with on() and answers the
 /// events below; each event procedure runs inside run(), so that a fault never crosses the toolkit.
 class Form : public QWidget, public TitleBar {
+  Q_OBJECT
+
  public:
-  Form(Forms& forms, const char* name);
+  /// `windows` are the program's Forms.
+  Form(Windows& windows, const char* name);
 
   std::string name() const { return objectName().toStdString(); }
   /// The exact caption at once; while a procedure runs, the screen is told of the newest one now

@@ -12,6 +12,8 @@ namespace karvenis {
 /// moment; the toolkit knows the two for a repeat only where it happens to read them together, and
 /// else takes them for a key pressed anew.
 class HeldKeys final : public QObject {
+  Q_OBJECT
+
  public:
   HeldKeys();
 

@@ -1,5 +1,6 @@
 #include "platform/qt/Picture.h"
 
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -14,15 +15,19 @@ void Picture::paintEvent(QPaintEvent*) {
   QPainter(this).drawPixmap(0, 0, artwork_.pixmap(file_, element_, size(), devicePixelRatioF()));
 }
 
+bool Picture::isClickable() const {
+  return isSignalConnected(QMetaMethod::fromSignal(&Picture::clicked));
+}
+
 void Picture::mousePressEvent(QMouseEvent* event) {
-  pressed_ = clicked && event->button() == Qt::LeftButton;
-  if (!clicked) event->ignore();
+  pressed_ = isClickable() && event->button() == Qt::LeftButton;
+  if (!isClickable()) event->ignore();
 }
 
 void Picture::mouseReleaseEvent(QMouseEvent* event) {
   const bool click = pressed_ && rect().contains(event->pos());
   pressed_ = false;
-  if (click) clicked();
+  if (click) Q_EMIT clicked();
 }
 
 }  // namespace karvenis

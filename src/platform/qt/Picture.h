@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <QWidget>
-#include <functional>
 
 namespace karvenis {
 
@@ -10,13 +9,16 @@ class Artwork;
 
 /// A widget that shows a drawing, as large as the widget is.
 class Picture final : public QWidget {
+  Q_OBJECT
+
  public:
   /// `element` is a named part of the drawing `file`; empty for all of it.
   Picture(Artwork& artwork, QString file, QString element, QWidget* parent);
 
-  /// What a left click (press and release) on the picture does; without it the click passes
-  /// through.
-  std::function<void()> clicked;
+ Q_SIGNALS:
+  /// A left click (press and release) on the picture. A picture whose signal is not connected lets
+  /// the click through to what lies behind it.
+  void clicked();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -24,6 +26,8 @@ class Picture final : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  bool isClickable() const;
+
   Artwork& artwork_;
   QString file_;
   QString element_;

@@ -7,6 +7,8 @@ namespace karvenis {
 /// What the program's controls look like where the toolkit's plain style is not warm enough: raised
 /// buttons, panels, menu heads and a focus that shows.
 class Style final : public QProxyStyle {
+  Q_OBJECT
+
  public:
   Style();
 

@@ -10,6 +10,8 @@ namespace karvenis {
 /// A widget that text is printed on. It keeps what was printed and replays it when it must be
 /// painted. Assistive technology reads its lines, in the order they were printed, as its children.
 class Surface final : public QWidget, public TextSurface {
+  Q_OBJECT
+
  public:
   explicit Surface(QWidget* parent);
 
