@@ -14,6 +14,7 @@ from desktop_case import EXECUTABLE, HOUSE, STANDARD_TITLE
 from screen import Screen, wait_for
 
 BUILD = os.path.dirname(EXECUTABLE)
+PICTURES = os.path.join(HOUSE, "docs/pictures")
 ICON_SIZES = (16, 22, 24, 32, 48, 64, 128, 256)
 
 
@@ -51,18 +52,33 @@ class Contents(PackageCase):
         found = sorted(os.path.relpath(os.path.join(folder, name), self.root)
                        for folder, _, names in os.walk(self.root) for name in names)
         icons = [f"usr/share/icons/hicolor/{size}x{size}/apps/karvenis.png" for size in ICON_SIZES]
-        self.assertEqual(found, sorted(icons + [
+        pictures = [f"usr/share/doc/karvenis/pictures/{name}" for name in os.listdir(PICTURES)]
+        self.assertEqual(found, sorted(icons + pictures + [
             "usr/bin/karvenis",
             "usr/share/applications/karvenis.desktop",
+            "usr/share/doc/karvenis/KULLANIM.html",
             "usr/share/doc/karvenis/changelog.gz",
             "usr/share/doc/karvenis/copyright",
             "usr/share/icons/hicolor/scalable/apps/karvenis.svg",
+            "usr/share/lintian/overrides/karvenis",
             "usr/share/man/man6/karvenis.6.gz",
             "usr/share/man/tr/man6/karvenis.6.gz",
             "usr/share/metainfo/org.example.karvenis.metainfo.xml"]))
 
-    def test_it_takes_less_than_a_megabyte(self):
-        self.assertLess(int(output_of("dpkg-deb", "-f", self.package, "Installed-Size")), 1024)
+    def test_it_takes_little_room_beside_the_guide(self):
+        size = int(output_of("dpkg-deb", "-f", self.package, "Installed-Size"))
+        guide = os.path.join(self.root, "usr/share/doc/karvenis")
+        of_guide = int(output_of("du", "--apparent-size", "-sk", guide).split()[0])
+        self.assertLess(size - of_guide, 1280)
+
+    def test_the_guide_shows_its_pictures_and_leads_to_its_chapters(self):
+        with open(self.installed("share/doc/karvenis/KULLANIM.html"), encoding="utf-8") as file:
+            page = file.read()
+        shown = set(re.findall(r'<img [^>]*src="([^"]+)"', page))
+        self.assertEqual(shown, {f"pictures/{name}" for name in os.listdir(PICTURES)})
+        chapters = set(re.findall(r'<h2 id="([^"]+)"', page)) - {"i\u0307çindekiler"}
+        self.assertEqual(set(re.findall(r'<a href="#([^"]+)"', page)), chapters)
+        self.assertEqual(page.count("<table>"), 5)
 
     def test_it_depends_on_the_toolkit_and_not_on_tools(self):
         depends = output_of("dpkg-deb", "-f", self.package, "Depends")
