@@ -18,17 +18,20 @@ class DesktopCase(unittest.TestCase):
     """A failing test leaves a picture of the screen and the words of the windows."""
 
     maxDiff = None
+    executable = EXECUTABLE
+    pictures = PICTURES
+    screen_type = Screen
 
     @classmethod
     def setUpClass(cls):
-        if not os.access(EXECUTABLE, os.X_OK):
-            raise FileNotFoundError(f"build it first: {EXECUTABLE}")
-        cls.screen = Screen()
+        if not os.access(cls.executable, os.X_OK):
+            raise FileNotFoundError(f"build it first: {cls.executable}")
+        cls.screen = cls.screen_type()
         cls.addClassCleanup(cls.screen.close)
 
     def start(self, files=None, **options):
         """Starts the program in a fresh folder that holds `files`; its main window is active."""
-        self.program = Program(self.screen, EXECUTABLE, files, **options)
+        self.program = Program(self.screen, self.executable, files, **options)
         self.addCleanup(self.program.close)
         self.main = self.program.window(STANDARD_TITLE)
         self.program.activated(STANDARD_TITLE)
@@ -79,7 +82,7 @@ class DesktopCase(unittest.TestCase):
             raise
 
     def _leave_evidence(self):
-        path = os.path.join(PICTURES, self.id().split(".", 1)[1] + ".png")
+        path = os.path.join(self.pictures, self.id().split(".", 1)[1] + ".png")
         self.screen.picture(path)
         print(f"picture of the failure: {path}", file=sys.stderr)
         program = getattr(self, "program", None)

@@ -1,0 +1,45 @@
+"""The base of the tests that listen: what the screen reader says, line by line."""
+
+from desktop_case import DesktopCase
+from screen import TooLate
+from speaking import SpeakingScreen, Voice
+from unprivileged import leave_root
+
+
+class SpeakingCase(DesktopCase):
+    screen_type = SpeakingScreen
+    pictures = "/tmp/karvenis-pictures"  # where a user other than the caller may write
+
+    @classmethod
+    def setUpClass(cls):
+        (cls.executable,) = leave_root(cls.executable)
+        super().setUpClass()
+
+    def start(self, files=None, **options):
+        self._heard = len(self.screen.voice.lines)  # how many lines the test has told of
+        program = super().start(files, **options)
+        self.hear("KARVENIS 2005 Randomizer.", "Kolon düğme.", "Yeni Kolon.")
+        return program
+
+    def hear(self, *lines):
+        """Exactly these lines come next, and none of them is cut off by the one behind it."""
+        end = 0
+
+        def spoken():
+            nonlocal end
+            coming = self.screen.voice.lines[self._heard:]
+            first = next((i for i, line in enumerate(coming) if line is not Voice.CUT),
+                         len(coming))
+            end = first + len(lines)
+            return coming[first:end]
+        try:
+            self.program.until(lambda: len(spoken()) == len(lines), "words")
+        except TooLate:
+            pass
+        self.assertEqual(spoken(), list(lines), self.screen.voice.lines[self._heard:])
+        self._heard += end
+
+    def press(self, keys, *lines):
+        """Keys, and what is spoken then."""
+        self.program.keys(*keys.split())
+        self.hear(*lines)
