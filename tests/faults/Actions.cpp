@@ -188,8 +188,7 @@ std::vector<Action> listActions() {
   using enum Action::OnFault;
   return {
       {"make the kept columns the list", full(), ChangeRndFile, mayGoOn},
-      {"make the kept columns the first list", without(combinationList), ChangeRndFile,
-       mayGoOn},
+      {"make the kept columns the first list", without(combinationList), ChangeRndFile, mayGoOn},
       {"delete the kept columns", full(), DeleteRndFile, mayGoOn},
       {"delete the kept columns in their window", full(), [](auto& a, auto&) { DeleteRndList(a); },
        mayGoOn},
