@@ -7,27 +7,26 @@ namespace {
 
 /// The marked balls in ascending order; the bankos among them stay.
 void takeMarked(SharedState& state, const BallButtons& buttons) {
-  std::int16_t count = 0;
+  state.Bag.clear();
   for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
-    if (buttons.isMarked(ball)) state.Bag[static_cast<std::size_t>(++count)] = ball;
+    if (buttons.isMarked(ball)) state.Bag.add(ball);
   }
-  state.Bag[0] = count;
 }
 
 void markBag(const SharedState& state, BallButtons& buttons) {
-  for (const std::int16_t ball : state.balls()) {
+  for (const std::int16_t ball : state.Bag.balls()) {
     if (isBall(ball)) buttons.setMarked(ball, true);
   }
 }
 
 /// Reads a bag of `count` balls, where the file is known to be long enough for them.
 void takeBag(Surroundings& around, BagFile& file, std::int16_t count) {
-  around.state.Bag[0] = 0;
+  around.state.Bag.clear();
   if (count <= 0) return;
   around.boxes.beep();
   if (count > ballsInAll) return;
   file.readBag(around.state, count);
-  removeBankos(around.state);
+  around.state.Bag.remove(around.state.Banko);
 }
 
 }  // namespace
@@ -45,7 +44,7 @@ void applyBag(Surroundings& around, BallButtons& buttons) {
   takeMarked(around.state, buttons);
   buttons.markAll(false);
   around.boxes.beep();
-  removeBankos(around.state);
+  around.state.Bag.remove(around.state.Banko);
   markBag(around.state, buttons);
 }
 
@@ -73,12 +72,7 @@ void saveBag(Surroundings& around, const BallButtons& buttons) {
 
   takeMarked(around.state, buttons);
   BagFile file(around.files);
-  const std::int16_t count = around.state.Bag[0];
-  for (std::int16_t i = 0; i <= ballsInAll; ++i) {
-    const bool filler = i > count;
-    file.put(bagCountRecord + i,
-             filler ? std::int16_t{0} : around.state.Bag[static_cast<std::size_t>(i)]);
-  }
+  file.writeBag(around.state.Bag.balls());
   file.close();
   around.boxes.beep();
   around.boxes.message(bagFileSaved);

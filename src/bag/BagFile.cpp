@@ -1,6 +1,5 @@
 #include "bag/BagFile.h"
 
-#include <algorithm>
 #include <array>
 
 #include "core/LittleEndian.h"
@@ -20,22 +19,34 @@ void BagFile::put(std::int64_t record, std::int16_t word) {
 }
 
 void BagFile::readBag(SharedState& state, std::int16_t count) {
-  state.Bag[0] = count;
-  for (std::int16_t i = 1; i <= count; ++i) {
+  state.Bag.clear();
+  for (std::int64_t i = 1; i <= count; ++i) {
     const std::int16_t ball = get(bagCountRecord + i);
-    if (!isBall(ball)) {
-      state.Bag[0] = static_cast<std::int16_t>(i - 1);
-      return;
-    }
-    state.Bag[static_cast<std::size_t>(i)] = ball;
+    if (!isBall(ball)) return;
+    state.Bag.add(ball);
   }
 }
 
 void BagFile::readBanko(SharedState& state, std::int16_t count) {
-  state.Banko[0] = count >= 1 && count <= mostBankos ? count : std::int16_t{0};
-  for (std::int16_t i = 1; i <= state.Banko[0]; ++i) {
-    state.Banko[static_cast<std::size_t>(i)] = get(bankoCountRecord + i);
-  }
+  state.Banko.clear();
+  if (count > mostBankos) return;
+  for (std::int64_t i = 1; i <= count; ++i) state.Banko.add(get(bankoCountRecord + i));
+}
+
+void BagFile::writeBag(std::span<const std::int16_t> balls) {
+  writeCounted(bagCountRecord, balls);
+  const auto behind = bagCountRecord + 1 + static_cast<std::int64_t>(balls.size());
+  for (std::int64_t record = behind; record < bankoCountRecord; ++record) put(record, 0);
+}
+
+void BagFile::writeBanko(std::span<const std::int16_t> balls) {
+  writeCounted(bankoCountRecord, balls);
+}
+
+/// Writes the number of `balls` as word `record` and the balls behind it.
+void BagFile::writeCounted(std::int64_t record, std::span<const std::int16_t> balls) {
+  put(record, static_cast<std::int16_t>(balls.size()));
+  for (const std::int16_t ball : balls) put(++record, ball);
 }
 
 bool BagFile::holdsBanko(std::int16_t count) const {
@@ -46,16 +57,6 @@ bool reachesBanko(Files& files) {
   return lengthOrNone(files, bagFileName) >= BagFile::recordLength * bankoCountRecord;
 }
 
-void removeBankos(SharedState& state) {
-  const auto banko = state.bankos();
-  const auto bag = std::span(state.Bag).subspan(1, state.balls().size());
-  const auto isBanko = [&](std::int16_t ball) {
-    return std::ranges::find(banko, ball) != banko.end();
-  };
-  const auto end = std::remove_if(bag.begin(), bag.end(), isBanko);
-  state.Bag[0] = static_cast<std::int16_t>(end - bag.begin());
-}
-
 void LoadBagFromFile(Surroundings& around) {
   SharedState& state = around.state;
   BagFile file(around.files);
@@ -64,10 +65,10 @@ void LoadBagFromFile(Surroundings& around) {
   if (count > 0 && length > std::int64_t{BagFile::recordLength} * count) {
     around.boxes.beep();
     if (count > ballsInAll) {
-      state.Bag[0] = 0;
+      state.Bag.clear();
     } else {
       file.readBag(state, count);
-      removeBankos(state);
+      state.Bag.remove(state.Banko);
     }
   }
   file.close();
@@ -81,7 +82,7 @@ void LoadBankoFromFile(Surroundings& around) {
     if (file.holdsBanko(count)) file.readBanko(around.state, count);
   }
   file.close();
-  removeBankos(around.state);
+  around.state.Bag.remove(around.state.Banko);
   around.boxes.beep();
 }
 

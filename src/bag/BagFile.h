@@ -39,21 +39,24 @@ class BagFile {
   void readBag(SharedState& state, std::int16_t count);
   /// Reads `count` bankos as they stand; a count outside 1..5 leaves none.
   void readBanko(SharedState& state, std::int16_t count);
+  /// Writes `balls` (49 at most) as the bag; the rest of the bag's part becomes 0. Throws
+  /// RunTimeError(write).
+  void writeBag(std::span<const std::int16_t> balls);
+  /// Writes `balls` (5 at most) as the bankos; words behind them stay. Throws RunTimeError(write).
+  void writeBanko(std::span<const std::int16_t> balls);
   /// Whether the file is long enough for `count` bankos.
   bool holdsBanko(std::int16_t count) const;
   /// Returns with everything on disk and the file closed. Throws RunTimeError(write).
   void close() { file_.close(); }
 
  private:
+  void writeCounted(std::int64_t record, std::span<const std::int16_t> balls);
+
   RecordFile file_;
 };
 
 /// Whether the file is there and reaches the banko count.
 bool reachesBanko(Files& files);
-
-/// Takes every banko out of the bag; the rest keeps its order. Nothing happens where either set is
-/// empty.
-void removeBankos(SharedState& state);
 
 /// Takes the bag from the file, without its bankos. A file that holds no whole bag leaves the bag
 /// as it is; a count of 50 or more empties it. Beeps: twice where a bag was found, else once.

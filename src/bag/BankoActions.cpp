@@ -22,12 +22,10 @@ void clearBoxes(BankoBoxes& boxes) {
 
 /// The numbers of the boxes in use become the bankos, each once.
 void takeTyped(SharedState& state, const BankoBoxes& boxes) {
-  state.Banko[0] = 0;
+  state.Banko.clear();
   for (int index = 0; index < boxes.count(); ++index) {
     const std::int16_t ball = ballAtStart(boxes.text(index));
-    const auto kept = state.bankos();
-    if (ball == 0 || std::ranges::find(kept, ball) != kept.end()) continue;
-    state.Banko[static_cast<std::size_t>(++state.Banko[0])] = ball;
+    if (ball > 0 && !state.Banko.contains(ball)) state.Banko.add(ball);
   }
 }
 
@@ -45,7 +43,7 @@ std::string bankoText(std::string_view typed) {
 }
 
 void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes) {
-  const auto bankos = state.bankos();
+  const auto bankos = state.Banko.balls();
   boxes.chooseCount(static_cast<int>(bankos.size()));
   for (int index = 0; const std::int16_t banko : bankos) {
     boxes.setText(index++, std::to_string(banko));
@@ -56,11 +54,11 @@ void applyBanko(Surroundings& around, BankoBoxes& boxes) {
   around.boxes.beep();
   takeTyped(around.state, boxes);
   clearBoxes(boxes);
-  removeBankos(around.state);
+  around.state.Bag.remove(around.state.Banko);
   ShowBankoSelection(around.state, boxes);
 }
 
-void clearBanko(SharedState& state) { state.Banko[0] = 0; }
+void clearBanko(SharedState& state) { state.Banko.clear(); }
 
 void loadBanko(Surroundings& around, BankoBoxes& boxes) {
   around.boxes.beep();
@@ -77,7 +75,7 @@ void loadBanko(Surroundings& around, BankoBoxes& boxes) {
     around.boxes.warn(bagFileBroken, errorTitle);
   }
   file.close();
-  removeBankos(around.state);
+  around.state.Bag.remove(around.state.Banko);
 }
 
 void saveBanko(Surroundings& around, BankoBoxes& boxes) {
@@ -89,12 +87,8 @@ void saveBanko(Surroundings& around, BankoBoxes& boxes) {
   applyBanko(around, boxes);
 
   BagFile file(around.files);
-  if (file.length() < 2) {
-    for (int record = bagCountRecord; record < bankoCountRecord; ++record) file.put(record, 0);
-  }
-  for (std::int16_t i = 0; i <= around.state.Banko[0]; ++i) {
-    file.put(bankoCountRecord + i, around.state.Banko[static_cast<std::size_t>(i)]);
-  }
+  if (file.length() < 2) file.writeBag({});
+  file.writeBanko(around.state.Banko.balls());
   file.close();
   around.boxes.beep();
   around.boxes.message(bagFileSaved);

@@ -9,11 +9,11 @@ GeneratorDraw::GeneratorDraw(const SharedState& state) {
   const auto mark = [this](std::int16_t ball, std::int16_t value) {
     if (isBall(ball)) full_[static_cast<std::size_t>(ball)] = value;
   };
-  if (state.balls().empty()) {
+  if (state.Bag.empty()) {
     for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) mark(ball, ball);
   }
-  for (const std::int16_t ball : state.balls()) mark(ball, ball);
-  for (const std::int16_t banko : state.bankos()) {
+  for (const std::int16_t ball : state.Bag.balls()) mark(ball, ball);
+  for (const std::int16_t banko : state.Banko.balls()) {
     bankos_[firstDrawn_] = banko;
     ++firstDrawn_;
     mark(banko, 0);

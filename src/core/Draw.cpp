@@ -1,32 +1,25 @@
 #include "core/Draw.h"
 
-#include <algorithm>
-#include <bitset>
+#include <set>
 #include <utility>
 
 namespace karvenis {
 namespace {
 
 void fillBag(SharedState& state) {
-  const auto kept = state.bankos();
-  std::int16_t count = 0;
-  for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
-    if (std::ranges::find(kept, ball) != kept.end()) continue;
-    ++count;
-    state.Bag[static_cast<std::size_t>(count)] = ball;
-  }
-  state.Bag[0] = count;
+  for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) state.Bag.add(ball);
+  state.Bag.remove(state.Banko);
 }
 
 }  // namespace
 
 std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position) {
-  const auto banko = state.bankos();
+  const auto bankos = state.Banko.balls();
   const auto place = static_cast<std::size_t>(position);
-  if (place <= banko.size()) return banko[place - 1];
-  if (state.Bag[0] <= 0) fillBag(state);
-  const auto bag = state.balls();
-  return bag[static_cast<std::size_t>(chance.index(static_cast<std::int32_t>(bag.size())) - 1)];
+  if (place <= bankos.size()) return bankos[place - 1];
+  if (state.Bag.empty()) fillBag(state);
+  const auto bag = state.Bag.balls();
+  return bag[chance.index(bag.size()) - 1];
 }
 
 void SortColumn(Column& column) {
@@ -38,15 +31,13 @@ void SortColumn(Column& column) {
 }
 
 bool canDraw(const SharedState& state) {
-  std::bitset<65536> taken;
-  const auto bit = [](std::int16_t ball) { return static_cast<std::uint16_t>(ball); };
-  for (const std::int16_t banko : state.bankos()) {
-    if (taken.test(bit(banko))) return false;
-    taken.set(bit(banko));
-  }
-  if (state.balls().empty()) return true;  // it stands for all balls
-  for (const std::int16_t ball : state.balls()) taken.set(bit(ball));
-  return taken.count() >= ballsInColumn;
+  const auto bankos = state.Banko.balls();
+  std::set<std::int16_t> offered(bankos.begin(), bankos.end());
+  if (offered.size() < bankos.size()) return false;  // a banko repeats
+  if (state.Bag.empty()) return true;                // it stands for all balls
+  const auto bag = state.Bag.balls();
+  offered.insert(bag.begin(), bag.end());
+  return offered.size() >= ballsInColumn;
 }
 
 void drawDistinct(SharedState& state, Chance& chance) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <concepts>
 #include <cstdint>
 
 #include "platform/Clock.h"
@@ -17,11 +18,13 @@ class Chance {
   virtual float next() = 0;
 
   void seedFrom(Clock& clock) { seed(clock.sinceMidnight()); }
-  /// A uniform index 1..count; 1 where count is below 1. In single precision r x count + 1 may
-  /// round up to count + 1, so it is computed in double precision.
-  std::int32_t index(std::int32_t count) {
-    const auto picked = static_cast<std::int32_t>(static_cast<double>(next()) * count) + 1;
-    return std::clamp(picked, 1, std::max(count, 1));
+  /// A uniform index 1..count; 1 if count is below 1. In single precision r x count + 1 may round
+  /// up to count + 1, so it is computed in double precision.
+  template <std::integral Int>
+  Int index(Int count) {
+    const auto picked =
+        static_cast<Int>(static_cast<double>(next()) * static_cast<double>(count) + 1);
+    return std::clamp<Int>(picked, 1, std::max<Int>(count, 1));
   }
 };
 

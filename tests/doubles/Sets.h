@@ -11,22 +11,22 @@ namespace karvenis {
 using Set = std::vector<std::int16_t>;
 
 inline void setBag(SharedState& state, const Set& balls) {
-  state.Bag[0] = static_cast<std::int16_t>(balls.size());
-  std::ranges::copy(balls, state.Bag.begin() + 1);
+  state.Bag.clear();
+  for (const std::int16_t ball : balls) state.Bag.add(ball);
 }
 
 inline void setBanko(SharedState& state, const Set& balls) {
-  state.Banko[0] = static_cast<std::int16_t>(balls.size());
-  std::ranges::copy(balls, state.Banko.begin() + 1);
+  state.Banko.clear();
+  for (const std::int16_t ball : balls) state.Banko.add(ball);
 }
 
 inline Set bagOf(const SharedState& state) {
-  const auto balls = state.balls();
+  const auto balls = state.Bag.balls();
   return {balls.begin(), balls.end()};
 }
 
 inline Set bankoOf(const SharedState& state) {
-  const auto balls = state.bankos();
+  const auto balls = state.Banko.balls();
   return {balls.begin(), balls.end()};
 }
 

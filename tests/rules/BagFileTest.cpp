@@ -44,44 +44,6 @@ TEST(BagFile, WordsAreLittleEndianAndSigned) {
   EXPECT_EQ(again.get(4), 0) << "past the end";
 }
 
-struct Removal {
-  const char* name;
-  Set bag;
-  Set banko;
-  Set left;
-};
-
-class RemoveBankos : public testing::TestWithParam<Removal> {};
-
-TEST_P(RemoveBankos, KeepsTheOtherBallsInTheirOrder) {
-  World world;
-  setBag(world.state, GetParam().bag);
-  setBanko(world.state, GetParam().banko);
-  removeBankos(world.state);
-  EXPECT_EQ(bagOf(world.state), GetParam().left);
-  EXPECT_EQ(bankoOf(world.state), GetParam().banko);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Sets, RemoveBankos,
-    testing::Values(Removal{"TwoOfFour", {7, 12, 30, 44}, {7, 30}, {12, 44}},
-                    Removal{"DescendingOrder", {44, 30, 12, 7}, {12}, {44, 30, 7}},
-                    Removal{"RepeatedBall", {7, 12, 7}, {7}, {12}},
-                    Removal{"NothingLeft", {1, 2}, {2, 1}, {}},
-                    Removal{"NoBanko", {1, 2}, {}, {1, 2}}, Removal{"NoBag", {}, {1, 2}, {}},
-                    Removal{"BankoNotInTheBag", {1, 2}, {3}, {1, 2}},
-                    Removal{"BankosOutsideTheBalls", {1, 2}, {77, -5}, {1, 2}}),
-    [](const auto& row) { return row.param.name; });
-
-TEST(RemoveBankos, EntriesPastTheCountsAreStale) {
-  World world;
-  setBag(world.state, {7, 12, 30});
-  setBanko(world.state, {7, 12});
-  world.state.Banko[0] = 1;
-  removeBankos(world.state);
-  EXPECT_EQ(bagOf(world.state), (Set{12, 30}));
-}
-
 struct BagLoad {
   const char* name;
   Bytes file;

@@ -137,7 +137,7 @@ TEST_F(CouponTest, AnEmptyBagIsFilledForGood) {
   setBanko(world.state, {7});
   coupon.start();
   tick(1);
-  EXPECT_EQ(world.state.Bag[0], 48);
+  EXPECT_EQ(bagOf(world.state).size(), 48U);
 }
 
 TEST_F(CouponTest, NothingSeedsTheSequence) {

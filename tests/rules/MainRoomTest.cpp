@@ -5,6 +5,7 @@
 
 #include "core/Draw.h"
 #include "doubles/Doubles.h"
+#include "doubles/Sets.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
 #include "platform/SystemChance.h"
@@ -84,16 +85,16 @@ TEST(SystemChanceTest, TwoSeedingsOfOneMomentGiveTwoSequences) {
 TEST(CanDraw, AsksForSixDistinctBallsOfBagAndBankos) {
   World world;
   EXPECT_TRUE(canDraw(world.state)) << "an empty bag stands for all balls";
-  world.state.Banko = {5, 1, 2, 3, 4, 5};
+  setBanko(world.state, {1, 2, 3, 4, 5});
   EXPECT_TRUE(canDraw(world.state));
-  world.state.Bag = {1, 6};
+  setBag(world.state, {6});
   EXPECT_TRUE(canDraw(world.state)) << "1 + 5";
-  world.state.Bag = {1, 5};
+  setBag(world.state, {5});
   EXPECT_FALSE(canDraw(world.state)) << "1 + 5, but not distinct";
-  world.state.Banko = {2, 7, 20};
-  world.state.Bag = {3, 1, 2, 3};
+  setBanko(world.state, {7, 20});
+  setBag(world.state, {1, 2, 3});
   EXPECT_FALSE(canDraw(world.state)) << "3 + 2";
-  world.state.Bag = {4, 7, 20, 1, 2};
+  setBag(world.state, {7, 20, 1, 2});
   EXPECT_FALSE(canDraw(world.state)) << "4 + 2, two of them the same";
 }
 
@@ -131,7 +132,7 @@ TEST(PickFromListTest, BallsAreTakenAsTheyStand) {
 
 TEST(PickFromListTest, BagAndBankosAreNotAsked) {
   World world;
-  world.state.Bag = {1, 5};
+  setBag(world.state, {5});
   world.files.folder["KARVENIS.LST"] = columnBytes({{1, column(1, 2, 3, 4, 5, 6)}});
   world.boxes.expectBeep();
   EXPECT_TRUE(PickFromList(world.around).has_value());

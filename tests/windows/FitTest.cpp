@@ -5,6 +5,7 @@
 
 #include "AllWindows.h"
 #include "doubles/Columns.h"
+#include "doubles/Sets.h"
 #include "windows/WindowTest.h"
 
 // No text of any window is cut, with letters up to twice as large as usual. The tests run this once
@@ -36,7 +37,7 @@ class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<con
     const ColumnRecord widest{-1, column(44, 45, 46, 47, 48, 49)};
     world.files.folder["KARVENIS.RND"] = columnBytes(std::vector<ColumnRecord>(12345, widest));
     world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];
-    world.state.Banko = {5, 45, 46, 47, 48, 49};
+    setBanko(world.state, {45, 46, 47, 48, 49});
   }
   /// Lets the coupon type itself to its end.
   static void typeWhole(Form* coupon) {

@@ -5,6 +5,7 @@
 #include <QRadioButton>
 
 #include "core/Draw.h"
+#include "doubles/Sets.h"
 #include "main/Texts.h"
 #include "windows/WindowTest.h"
 
@@ -77,8 +78,8 @@ TEST_F(FrmLoto, DrawsFromTheBagBallByBall) {
 }
 
 TEST_F(FrmLoto, RefusesWhereSixBallsAreMissing) {
-  world.state.Bag = {3, 1, 2, 3};
-  world.state.Banko = {2, 7, 8};
+  setBag(world.state, {1, 2, 3});
+  setBanko(world.state, {7, 8});
   loto->setCaption(" KARVENIS.RND Kayıt No= 3");
   world.boxes.expectWarning("En az 6 top seçmiş olmanız gerekiyor!", " ! Eksik top seçimi !");
   pressKolon();
@@ -89,8 +90,8 @@ TEST_F(FrmLoto, RefusesWhereSixBallsAreMissing) {
 }
 
 TEST_F(FrmLoto, RefusesWhereTheBallsAreNotDistinct) {
-  world.state.Bag = {4, 7, 20, 1, 2};
-  world.state.Banko = {2, 7, 20};
+  setBag(world.state, {7, 20, 1, 2});
+  setBanko(world.state, {7, 20});
   world.boxes.expectWarning(tooFewBalls, tooFewBallsTitle);
   pressKolon();
 }
@@ -192,7 +193,7 @@ TEST_F(FrmLoto, TheCheckMayBeSetByWhateverMeans) {
 }
 
 TEST_F(FrmLoto, EveryPressOfKolonStampsTheMinuteAndTakesThePicture) {
-  world.state.Bag = {1, 5};
+  setBag(world.state, {5});
   world.clock.minuteOfHour = 7;
   const QImage before = loto->grab(QRect(2, loto->height() - 8, 8, 6)).toImage();
   world.boxes.expectWarning(tooFewBalls, tooFewBallsTitle);
@@ -235,8 +236,8 @@ TEST_F(FrmLoto, AFileOfBagAndBankosIsNotReadAtStart) {
   settle();
   world.files.folder["KARVENIS.DAT"] = words({2, 5, 9});
   loto = open("frmLoto");
-  EXPECT_EQ(world.state.Bag[0], 0);
-  EXPECT_EQ(world.state.Banko[0], 0);
+  EXPECT_TRUE(world.state.Bag.empty());
+  EXPECT_TRUE(world.state.Banko.empty());
 }
 
 TEST_F(FrmLoto, APlaceOnNoScreenBecomesTheNearestOne) {

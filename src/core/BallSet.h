@@ -1,0 +1,48 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "core/Column.h"
+
+namespace karvenis {
+
+/// Chosen balls in the order in which they were added; at most `most` of them. Starts empty.
+template <std::size_t most>
+class BallSet {
+ public:
+  /// The balls, in order. Valid until the set is changed.
+  [[nodiscard]] std::span<const std::int16_t> balls() const {
+    return std::span(elements_).subspan(1, static_cast<std::size_t>(elements_[0]));
+  }
+  [[nodiscard]] bool empty() const { return elements_[0] == 0; }
+  [[nodiscard]] bool contains(std::int16_t ball) const {
+    return std::ranges::find(balls(), ball) != balls().end();
+  }
+
+  /// Puts `ball` behind the others, whatever its number and also when it is in the set already. A
+  /// full set stays as it is.
+  void add(std::int16_t ball) {
+    if (balls().size() < most) elements_[static_cast<std::size_t>(++elements_[0])] = ball;
+  }
+  void clear() { elements_[0] = 0; }
+  /// Takes out every ball that is in `others`; the rest keeps its order.
+  template <std::size_t others_most>
+  void remove(const BallSet<others_most>& others) {
+    const BallSet before = *this;
+    clear();
+    for (const std::int16_t ball : before.balls()) {
+      if (!others.contains(ball)) add(ball);
+    }
+  }
+
+  bool operator==(const BallSet& other) const { return std::ranges::equal(balls(), other.balls()); }
+
+ private:
+  std::array<std::int16_t, most + 1> elements_{};  // element 0: how many; 1..count: the balls
+};
+
+}  // namespace karvenis
