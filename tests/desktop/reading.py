@@ -60,6 +60,10 @@ class Node:
         arguments = GLib.Variant("(u)", (0,))
         return self._call("org.a11y.atspi.Component", "GetExtents", arguments)[0]
 
+    def press(self):
+        """Does what a click on the control does, where no pointer can be moved."""
+        self._call("org.a11y.atspi.Action", "DoAction", GLib.Variant("(i)", (0,)))
+
     def walk(self):
         """This control and everything in it, in reading order."""
         yield self

@@ -84,16 +84,23 @@ class Screen:
             "XDG_RUNTIME_DIR": runtime,
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "NO_AT_BRIDGE": "1",  # the window manager's own dialogs stay off the bus
+            "PULSE_SERVER": "unix:" + os.path.join(runtime, "silence"),  # so that none is started
         }
-        self.environment["DISPLAY"] = ":" + self._first_line(
-            lambda pipe: ["Xvfb", "-displayfd", str(pipe), "-screen", "0", size + "x24",
-                          "-nolisten", "tcp", "-noreset"])
+        self._open_display(size)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._first_line(
             lambda pipe: ["dbus-daemon", "--session", "--nofork", f"--print-address={pipe}"])
         self._start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"])
+        self._manage()
+        self.bus = wait_for(self._reading_bus, "the bus for assistive technology")
+
+    def _open_display(self, size):
+        self.environment["DISPLAY"] = ":" + self._first_line(
+            lambda pipe: ["Xvfb", "-displayfd", str(pipe), "-screen", "0", size + "x24",
+                          "-nolisten", "tcp", "-noreset"])
+
+    def _manage(self):
         managed = os.path.join(self.home, "managed")
         self._start(["openbox", "--sm-disable", "--startup", f"touch {managed}"])
-        self.bus = wait_for(self._reading_bus, "the bus for assistive technology")
         wait_for(lambda: os.path.exists(managed), "the window manager")
 
     def _start(self, command, **options):

@@ -5,6 +5,7 @@ import os
 import re
 import shutil
 import signal
+import socket
 import subprocess
 import tempfile
 import unittest
@@ -55,6 +56,7 @@ class Contents(PackageCase):
         pictures = [f"usr/share/doc/karvenis/pictures/{name}" for name in PICTURES]
         self.assertEqual(found, sorted(icons + pictures + [
             "usr/bin/karvenis",
+            "usr/libexec/karvenis/karvenis-bell",
             "usr/share/applications/karvenis.desktop",
             "usr/share/doc/karvenis/KULLANIM.html",
             "usr/share/doc/karvenis/changelog.gz",
@@ -86,6 +88,13 @@ class Contents(PackageCase):
         self.assertLessEqual({"libc6", "libqt6core6", "libqt6gui6", "libqt6svg6", "libqt6widgets6"},
                              names)
         self.assertFalse([name for name in names if not name.startswith("lib")])
+
+    def test_what_it_recommends_is_called_so_by_this_system(self):
+        recommends = output_of("dpkg-deb", "-f", self.package, "Recommends").strip().split(", ")
+        self.assertLessEqual({"libcanberra0", "libcanberra-pulse"}, set(recommends))
+        told = output_of("dpkg-query", "-W", "-f", "${binary:Package} ${db:Status-Status}\n",
+                         *recommends)
+        self.assertEqual(told.count(" installed\n"), len(recommends), told)
 
     def test_icons_have_their_size(self):
         for size in ICON_SIZES:
@@ -126,7 +135,11 @@ class MenuEntry(PackageCase):
     def test_it_starts_the_program_in_a_folder_of_the_user(self):
         screen = Screen()
         self.addCleanup(screen.close)
-        environment = {**screen.environment,
+        silence = socket.socket(socket.AF_UNIX)  # a sound server that never answers
+        self.addCleanup(silence.close)
+        silence.bind(os.path.join(screen.home, "silence"))
+        silence.listen()
+        environment = {**screen.environment, "PULSE_SERVER": "unix:" + silence.getsockname(),
                        "PATH": os.path.join(self.root, "usr/bin") + ":/usr/bin:/bin"}
         entry = self.installed("share/applications/karvenis.desktop")
         subprocess.run(["gio", "launch", entry], env=environment, cwd="/", check=True, timeout=60,
@@ -140,6 +153,20 @@ class MenuEntry(PackageCase):
                          os.path.join(screen.home, "KARVENIS"))
         self.assertEqual(os.readlink(f"/proc/{process}/exe"),
                          os.path.join(self.root, "usr/bin/karvenis"))
+        self.assertEqual(self.player_of(process, program.children[0]),
+                         os.path.join(self.root, "usr/libexec/karvenis/karvenis-bell"))
+
+    @staticmethod
+    def player_of(process, main):
+        """The program that plays the beeps, which is started by the first one: a refusal's."""
+        main.find("radio button", "Listeden Çek").press()
+        main.find("push button", "Kolon").press()
+
+        def player():
+            with open(f"/proc/{process}/task/{process}/children", encoding="ascii") as file:
+                started = [os.readlink(f"/proc/{child}/exe") for child in file.read().split()]
+            return next((path for path in started if path.endswith("karvenis-bell")), None)
+        return wait_for(player, "the player")
 
 
 if __name__ == "__main__":

@@ -121,7 +121,7 @@ std::string QtBoxes::input(const std::string& prompt, const std::string& title,
   return box.exec() == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
 }
 
-void QtBoxes::beep() { QApplication::beep(); }
+void QtBoxes::beep() { bell_.ring(); }
 
 void QtBoxes::pointer(Pointer shape) {
   while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();

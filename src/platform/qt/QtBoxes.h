@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/Boxes.h"
+#include "platform/qt/Bell.h"
 
 class QWidget;
 
@@ -26,6 +27,8 @@ class QtBoxes final : public Boxes {
 
  private:
   QWidget* prepare() const;
+
+  Bell bell_;
 };
 
 }  // namespace karvenis

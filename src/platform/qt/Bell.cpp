@@ -1,0 +1,84 @@
+#include "platform/qt/Bell.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QFileInfo>
+#include <cerrno>
+#include <csignal>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace karvenis {
+namespace {
+
+/// Starts `program` with `input` as its standard input and without an output; 0 where it cannot.
+pid_t started(const QString& program, int input) {
+  QByteArray path = QFile::encodeName(program);
+  char* const arguments[] = {path.data(), nullptr};
+  posix_spawn_file_actions_t files;
+  ::posix_spawn_file_actions_init(&files);
+  ::posix_spawn_file_actions_adddup2(&files, input, STDIN_FILENO);
+  for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
+    ::posix_spawn_file_actions_addopen(&files, output, "/dev/null", O_WRONLY, 0);
+  }
+  pid_t process = 0;
+  const int failure = ::posix_spawn(&process, path, &files, nullptr, arguments, environ);
+  ::posix_spawn_file_actions_destroy(&files);
+  return failure == 0 ? process : 0;
+}
+
+}  // namespace
+
+Bell::Bell(QString player, std::function<void()> otherwise)
+    : player_(std::move(player)), otherwise_(std::move(otherwise)) {}
+
+Bell::~Bell() {
+  if (pipe_ >= 0) ::close(pipe_);
+}
+
+/// Beside this program in a build folder, else where it is installed.
+QString Bell::installedPlayer() {
+  const QString here = QCoreApplication::applicationDirPath();
+  const QString beside = here + u"/karvenis-bell"_s;
+  return QFileInfo::exists(beside) ? beside : here + u"/" KARVENIS_LIBEXEC "/karvenis-bell"_s;
+}
+
+void Bell::ring() {
+  if (!started_) start();
+  if (passOn()) return;
+  giveUp();
+  otherwise_();
+}
+
+void Bell::start() {
+  started_ = true;
+  int ends[2];  // a socket, since a write to a broken pipe would end the program
+  if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return;
+  process_ = started(player_, ends[1]);
+  ::close(ends[1]);
+  pipe_ = ends[0];
+  ended_ = std::make_unique<QSocketNotifier>(pipe_, QSocketNotifier::Read);
+  QObject::connect(ended_.get(), &QSocketNotifier::activated, [this] { giveUp(); });
+}
+
+/// Whether the player has the ring, or is too busy for it.
+bool Bell::passOn() const {
+  return ::send(pipe_, "", 1, MSG_DONTWAIT | MSG_NOSIGNAL) == 1 || errno == EAGAIN;
+}
+
+/// The player has ended, or never began.
+void Bell::giveUp() {
+  if (pipe_ < 0) return;
+  ended_->setEnabled(false);
+  ::close(std::exchange(pipe_, -1));
+  if (process_ == 0) return;
+  ::kill(process_, SIGKILL);  // so that the next line never waits
+  ::waitpid(process_, nullptr, 0);
+}
+
+}  // namespace karvenis

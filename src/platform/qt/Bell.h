@@ -1,0 +1,44 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QString>
+#include <functional>
+#include <memory>
+
+namespace karvenis {
+
+/// The beep as a sound of the desktop, played by a program of its own. The first ring starts it; a
+/// sound server that hangs holds up that program only. It ends by itself where it cannot play, and
+/// from then on the window system's own bell rings.
+class Bell {
+ public:
+  /// `player` plays one sound for each byte of its standard input and ends with it; `otherwise`
+  /// rings once it is gone.
+  explicit Bell(QString player = installedPlayer(),
+                std::function<void()> otherwise = QApplication::beep);
+  /// Ends the player.
+  ~Bell();
+  Bell(const Bell&) = delete;
+  Bell& operator=(const Bell&) = delete;
+
+  /// Never waits: a ring that the player has no room for is dropped.
+  void ring();
+
+ private:
+  static QString installedPlayer();
+  void start();
+  bool passOn() const;
+  void giveUp();
+
+  QString player_;
+  std::function<void()> otherwise_;
+  bool started_ = false;
+  int pipe_ = -1;                           // to the player; -1 while there is none
+  pid_t process_ = 0;                       // the player
+  std::unique_ptr<QSocketNotifier> ended_;  // tells that the player has ended
+};
+
+}  // namespace karvenis

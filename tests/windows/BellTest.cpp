@@ -1,0 +1,111 @@
+#include "platform/qt/Bell.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <cerrno>
+
+namespace karvenis {
+namespace {
+
+/// A bell whose player is a shell script, in a folder of its own.
+class BellTest : public testing::Test {
+ protected:
+  QTemporaryDir folder;
+  int otherwise = 0;  // rings of the other bell
+
+  QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
+  QString player(const QByteArray& script) {
+    QFile file(path("player"));
+    EXPECT_TRUE(file.open(QFile::WriteOnly));
+    file.write("#!/bin/sh\ncd '" + QFile::encodeName(folder.path()) + "'\n" + script + "\n");
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return file.fileName();
+  }
+  std::function<void()> counted() {
+    return [this] { ++otherwise; };
+  }
+  QByteArray content(const char* name) const {
+    QFile file(path(name));
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  template <typename Condition>
+  static bool waitFor(Condition condition) {
+    return QTest::qWaitFor(condition, 20000);
+  }
+  static bool hasChild() { return ::waitpid(-1, nullptr, WNOHANG) == 0 || errno != ECHILD; }
+};
+
+TEST_F(BellTest, StartsItsPlayerAtTheFirstRingAndGivesItEachRing) {
+  Bell bell(player("echo started >>starts; exec cat >rings"), counted());
+  EXPECT_FALSE(hasChild());
+  for (int ring = 0; ring < 6; ++ring) bell.ring();
+  EXPECT_TRUE(waitFor([&] { return content("rings").size() == 6; }));
+  EXPECT_EQ(content("starts"), "started\n");
+  EXPECT_EQ(otherwise, 0);
+}
+
+TEST_F(BellTest, EndsItsPlayerWhenItGoes) {
+  {
+    Bell bell(player("cat >rings; : >ended"), counted());
+    bell.ring();
+  }
+  EXPECT_TRUE(waitFor([&] { return QFile::exists(path("ended")); }));
+  EXPECT_EQ(content("rings").size(), 1);
+  EXPECT_TRUE(waitFor([&] { return !hasChild() || ::waitpid(-1, nullptr, WNOHANG) > 0; }));
+}
+
+TEST_F(BellTest, RingsOtherwiseOnceItsPlayerHasEndedAndLeavesNoZombie) {
+  Bell bell(player("exit 1"), counted());
+  bell.ring();
+  EXPECT_TRUE(waitFor([&] { return !hasChild(); }));
+  EXPECT_EQ(otherwise, 0) << "what the player has taken is not rung again";
+  bell.ring();
+  bell.ring();
+  EXPECT_EQ(otherwise, 2);
+}
+
+// The ring comes before the event loop can tell that the player has ended.
+TEST_F(BellTest, ABrokenPipeDoesNotEndTheProgram) {
+  Bell bell(player(": >ended"), counted());
+  bell.ring();
+  for (int ring = 0; otherwise == 0; ++ring) {
+    ASSERT_LT(ring, 100000);
+    bell.ring();
+    QThread::yieldCurrentThread();
+  }
+  EXPECT_FALSE(hasChild());
+}
+
+TEST_F(BellTest, RingsOtherwiseWhereThereIsNoPlayer) {
+  Bell bell(path("nothing"), counted());
+  bell.ring();
+  EXPECT_EQ(otherwise, 1);
+  bell.ring();
+  EXPECT_EQ(otherwise, 2);
+  EXPECT_FALSE(hasChild());
+}
+
+TEST_F(BellTest, DropsWhatAPlayerThatHangsHasNoRoomFor) {
+  Bell bell(player("echo $$ >process; exec sleep 1000"), counted());
+  for (int ring = 0; ring < 100000; ++ring) bell.ring();
+  EXPECT_EQ(otherwise, 0);
+  EXPECT_TRUE(waitFor([&] { return content("process").endsWith('\n'); }));
+  ::kill(content("process").toInt(), SIGKILL);
+  EXPECT_TRUE(waitFor([&] { return !hasChild(); }));
+}
+
+// Another program that is started later, such as a print filter, would keep the player alive.
+TEST_F(BellTest, NoOtherProgramInheritsThePipe) {
+  Bell bell(player("cat; : >ended"), counted());
+  bell.ring();
+  const QString list = path("files");
+  ASSERT_EQ(std::system(("ls -l /proc/self/fd >" + list).toLocal8Bit()), 0);
+  EXPECT_FALSE(content("files").contains("socket:"));
+}
+
+}  // namespace
+}  // namespace karvenis
