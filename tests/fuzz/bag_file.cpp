@@ -16,7 +16,8 @@ bool isBag(const SharedState& state) { return std::ranges::all_of(state.Bag.ball
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   PlainWorld world;
   world.files.folder[bagFileName] = bytesOf(data, size);
-  for (const std::int16_t banko : {7, 12}) world.state.Banko.add(banko);
+  world.state.Banko.add(7);
+  world.state.Banko.add(12);
   allowingFaults([&] { LoadBagFromFile(world.around); });
   require(isBag(world.state));
   allowingFaults([&] { LoadBankoFromFile(world.around); });

@@ -14,7 +14,7 @@ namespace karvenis {
 namespace {
 
 QPalette palette() {
-  QPalette colours(QColor(look::sand), QColor(look::ground));
+  QPalette colours(QColor{look::sand}, QColor{look::ground});
   for (const auto role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
     colours.setColor(role, QColor(look::ink));
