@@ -12,6 +12,7 @@
 #include "QuietWorld.h"
 #include "comblist/Filters.h"
 #include "comblist/GeneratorDraw.h"
+#include "core/ColumnFile.h"
 
 namespace {
 
@@ -19,11 +20,10 @@ using namespace karvenis;
 
 void makeList(QuietWorld& world, std::int32_t count) {
   std::filesystem::remove(combinationList);
-  ColumnFile list(world.files, combinationList, world.state.Record);
+  ColumnFile list(world.state, world.files, combinationList);
   GeneratorDraw random(world.state);
   for (std::int32_t n = 1; n <= count; ++n) {
-    world.state.Record = {.Word = n, .Balls = random.draw(world.chance)};
-    list.put(n);
+    list.put(n, {.Word = n, .Balls = random.draw(world.chance)});
   }
   list.close();
 }

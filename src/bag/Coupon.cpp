@@ -33,7 +33,7 @@ void Coupon::tick() {
 void Coupon::typeBall() {
   ++ball_;
   around_.boxes.beep();
-  surface_.print(padded(around_.state.Drawn[static_cast<std::size_t>(ball_)], 2) + "  ");
+  surface_.print(padded(ballAt(around_.state.Drawn, ball_), 2) + "  ");
 }
 
 void Coupon::startColumn() {

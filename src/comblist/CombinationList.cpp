@@ -39,15 +39,16 @@ bool mayReplaceRandomColumns(Surroundings& around) {
 
 void ShowPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
   if (!around.files.exists(combinationList)) return;
-  SharedState& state = around.state;
-  page.fit(state.FileNo.emplace(around.files, combinationList, state.Record).count());
-  const bool empty = page.RecordCount < 1;
-  if (!empty) {
-    title.setCaption(pageTitle("Kombinasyon Listesi", page.PageNo));
-    drawPage(page, state, surface);
+  ColumnFile list(around.state, around.files, combinationList);
+  page.fit(list.count());
+  if (page.RecordCount < 1) {
+    list.close();
+    around.boxes.warn("Kombinasyon listesi dosyası 'KARVENIS.LST' boş!");
+    return;
   }
-  state.closeFile();
-  if (empty) around.boxes.warn("Kombinasyon listesi dosyası 'KARVENIS.LST' boş!");
+  title.setCaption(pageTitle("Kombinasyon Listesi", page.PageNo));
+  drawPage(page, list, surface);
+  list.close();
 }
 
 bool findList(Surroundings& around) {

@@ -17,24 +17,23 @@ constexpr std::int32_t keepWord = 417;
 constexpr std::int32_t deleteWord = -1;
 
 bool hasNoneMarked(const FilterMarks& marks, const Column& column) {
-  return std::none_of(column.begin() + 1, column.end(),
-                      [&](std::int16_t ball) { return marks.has(ball); });
+  return std::ranges::none_of(column, [&](std::int16_t ball) { return marks.has(ball); });
 }
 
 /// The third ball is not looked up but compared with the mark itself, so that it never counts.
 bool hasAnyMarked(const FilterMarks& marks, const Column& column) {
-  return marks.has(column[1]) || marks.has(column[2]) || column[3] == FilterMarks::set ||
-         marks.has(column[4]) || marks.has(column[5]) || marks.has(column[6]);
+  const auto [b1, b2, b3, b4, b5, b6] = column;
+  return marks.has(b1) || marks.has(b2) || b3 == FilterMarks::set || marks.has(b4) ||
+         marks.has(b5) || marks.has(b6);
 }
 
 bool hasAtMostOneMarked(const FilterMarks& marks, const Column& column) {
-  return std::count_if(column.begin() + 1, column.end(),
-                       [&](std::int16_t ball) { return marks.has(ball); }) <= 1;
+  return std::ranges::count_if(column, [&](std::int16_t ball) { return marks.has(ball); }) <= 1;
 }
 
 bool hasAnyPair(const FilterMarks& marks, const Column& column) {
-  for (std::size_t i = 1; i < ballsInColumn; ++i) {
-    for (std::size_t j = i + 1; j <= ballsInColumn; ++j) {
+  for (std::size_t i = 0; i < column.size(); ++i) {
+    for (std::size_t j = i + 1; j < column.size(); ++j) {
       if (marks.hasPair(column[i], column[j])) return true;
     }
   }
@@ -124,18 +123,18 @@ class Rewrite {
   /// False where the list turned out to be empty and was left alone.
   bool run() {
     files_.copy(combinationList, listBackup);
-    list().emplace(files_, combinationList, state_.Record);
-    ListCount = list()->count();
+    ColumnFile list(state_, files_, combinationList);
+    ListCount = list.count();
     if (ListCount < 1 && kind_.onEmptyList == OnEmptyList::stop) {
-      state_.closeFile();
+      list.close();
       return false;
     }
-    markRecords();
+    markRecords(list);
     if (KeepCount < 1) {
-      state_.closeFile();
+      list.close();
       files_.remove(combinationList);
     } else {
-      copyKept();
+      copyKept(list);
       replaceList();
     }
     title_.setCaption(listTitle);
@@ -143,39 +142,38 @@ class Rewrite {
   }
 
  private:
-  std::optional<ColumnFile>& list() { return state_.FileNo; }
-
-  void markRecords() {
+  void markRecords(ColumnFile& list) {
     KeepCount = ListCount;
     for (std::int64_t number = 1; number <= ListCount; ++number) {
-      list()->get(number);
-      if (kind_.firstWord) putWord(number, *kind_.firstWord);
-      const bool kept = kind_.keeps(marks_, state_.Record.Balls);
+      ColumnRecord record = list.at(number);
+      if (kind_.firstWord) {
+        record.Word = *kind_.firstWord;
+        list.put(number, record);
+      }
+      const bool kept = kind_.keeps(marks_, record.Balls);
       const std::int32_t Word = kept ? keepWord : deleteWord;
-      if (kind_.firstWord != Word) putWord(number, Word);
+      if (kind_.firstWord != Word) {
+        record.Word = Word;
+        list.put(number, record);
+      }
       if (!kept) KeepCount -= 1;
       show(" FAZ 1 - Kolon :", KeepCount, number);
     }
   }
 
-  void putWord(std::int64_t number, std::int32_t Word) {
-    state_.Record.Word = Word;
-    list()->put(number);
-  }
-
-  void copyKept() {
+  void copyKept(ColumnFile& list) {
     startScratch(files_, tmpScratch);
-    ColumnFile TmpFileNo(files_, tmpScratch, state_.Record);
+    ColumnFile TmpFileNo(state_, files_, tmpScratch);
     std::int32_t WrittenCount = 0;
     for (std::int64_t number = 1; number <= ListCount; ++number) {
-      list()->get(number);
-      if (kind_.copies(state_.Record.Word)) {
+      const ColumnRecord record = list.at(number);
+      if (kind_.copies(record.Word)) {
         WrittenCount += 1;
-        TmpFileNo.put(WrittenCount);
+        TmpFileNo.put(WrittenCount, record);
       }
       show(kind_.secondPass, WrittenCount, KeepCount);
     }
-    state_.closeFile();
+    list.close();
     TmpFileNo.close();
   }
 

@@ -63,47 +63,46 @@ bool Generator::mayReplaceList() {
 /// Writes records 1..WantedCount. Records of a longer old list stay behind them.
 void Generator::GenerateNewList(GeneratorDraw& draw) {
   backUpList(around_.files);
-  open();
+  ColumnFile list = open();
   RecordNo = 0;
   do {
     const std::int64_t number = std::int64_t{RecordNo} + 1;
     title_.setCaption(caption_.start("KOLON=").addWithBlank(number).text());
-    write(draw.draw(around_.chance), number);
+    write(list, number, draw.draw(around_.chance));
   } while (RecordNo < WantedCount);
-  finish(RecordNo, " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+  finish(list, RecordNo, " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
 }
 
 /// Writes WantedCount records behind those that the list has by now.
 void Generator::AppendToList(GeneratorDraw& draw) {
-  open();
-  const std::int32_t Start = around_.state.FileNo->count();
+  ColumnFile list = open();
+  const std::int32_t Start = list.count();
   RecordNo = checked<std::int16_t>(Start);
   do {
     const std::int64_t number = std::int64_t{RecordNo} + 1;
     caption_.start("KOLON=").addWithBlank(number);
     caption_.add("  [").add(number - Start).add("]");
     title_.setCaption(caption_.text());
-    write(draw.draw(around_.chance), number);
+    write(list, number, draw.draw(around_.chance));
   } while (RecordNo < std::int64_t{Start} + WantedCount);
-  finish(RecordNo - Start, " kolon 'KARVENIS.LST' dosyasına eklendi.");
+  finish(list, RecordNo - Start, " kolon 'KARVENIS.LST' dosyasına eklendi.");
 }
 
 /// The columns are written to a copy of the list, which takes the list's place when it is whole, so
 /// that the list holds its old or its new bytes whatever happens.
-void Generator::open() {
+ColumnFile Generator::open() {
   copyListTo(around_.files, tmpScratch);
-  around_.state.FileNo.emplace(around_.files, tmpScratch, around_.state.Record);
+  return {around_.state, around_.files, tmpScratch};
 }
 
 /// Writes `drawn` as record `number`, which is also its word.
-void Generator::write(const Column& drawn, std::int64_t number) {
+void Generator::write(ColumnFile& list, std::int64_t number, const Column& drawn) {
   RecordNo = checked<std::int16_t>(number);
-  around_.state.Record = {.Word = RecordNo, .Balls = drawn};
-  around_.state.FileNo->put(RecordNo);
+  list.put(RecordNo, {.Word = RecordNo, .Balls = drawn});
 }
 
-void Generator::finish(std::int32_t written, const char* words) {
-  around_.state.closeFile();
+void Generator::finish(ColumnFile& list, std::int32_t written, const char* words) {
+  list.close();
   around_.files.rename(tmpScratch, combinationList);
   around_.boxes.beep();
   around_.boxes.message(withBlank(written) + words);

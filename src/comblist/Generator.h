@@ -6,6 +6,7 @@
 
 #include "comblist/GeneratorDraw.h"
 #include "core/CaptionLine.h"
+#include "core/ColumnFile.h"
 #include "core/Surroundings.h"
 #include "platform/TitleBar.h"
 
@@ -44,9 +45,9 @@ class Generator {
   bool mayReplaceList();
   void GenerateNewList(GeneratorDraw& draw);
   void AppendToList(GeneratorDraw& draw);
-  void open();
-  void write(const Column& drawn, std::int64_t number);
-  void finish(std::int32_t written, const char* words);
+  ColumnFile open();
+  void write(ColumnFile& list, std::int64_t number, const Column& drawn);
+  void finish(ColumnFile& list, std::int32_t written, const char* words);
 
   Surroundings& around_;
   TitleBar& title_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <span>
 
 namespace karvenis {
 
@@ -14,24 +15,24 @@ GeneratorDraw::GeneratorDraw(const SharedState& state) {
   }
   for (const std::int16_t ball : state.Bag.balls()) mark(ball, ball);
   for (const std::int16_t banko : state.Banko.balls()) {
-    bankos_[firstDrawn_] = banko;
-    ++firstDrawn_;
+    bankos_[bankoCount_] = banko;
+    ++bankoCount_;
     mark(banko, 0);
   }
   const auto end = std::remove(full_.begin() + 1, full_.end(), std::int16_t{0});
   full_[0] = static_cast<std::int16_t>(end - full_.begin() - 1);
 }
 
-const karvenis::Column& GeneratorDraw::draw(Chance& chance) {
+Column GeneratorDraw::draw(Chance& chance) {
   std::copy(full_.begin(), full_.end(), Pool.begin());
-  Column = bankos_;
-  for (std::size_t position = firstDrawn_; position <= ballsInColumn; ++position) {
+  Column column = bankos_;
+  for (std::int16_t& ball : std::span(column).subspan(bankoCount_)) {
     const std::int32_t drawn = chance.index(Pool[0]);
-    Column[position] = Pool[static_cast<std::size_t>(drawn)];
+    ball = Pool[static_cast<std::size_t>(drawn)];
     take(drawn);
   }
-  sortByPresence();
-  return Column;
+  sortByPresence(column);
+  return column;
 }
 
 /// Takes entry `drawn` out of the pool. The entries behind it move up; where none is behind it, the
@@ -50,13 +51,13 @@ void GeneratorDraw::take(std::int32_t drawn) {
   }
 }
 
-void GeneratorDraw::sortByPresence() {
+void GeneratorDraw::sortByPresence(Column& column) {
   std::uint64_t present = 0;
-  for (std::size_t i = 1; i <= ballsInColumn; ++i) {
-    if (isBall(Column[i])) present |= std::uint64_t{1} << static_cast<unsigned>(Column[i]);
+  for (const std::int16_t ball : column) {
+    if (isBall(ball)) present |= std::uint64_t{1} << static_cast<unsigned>(ball);
   }
-  for (std::size_t i = 1; present != 0; ++i) {
-    Column[i] = static_cast<std::int16_t>(std::countr_zero(present));
+  for (std::size_t i = 0; present != 0; ++i) {
+    column[i] = static_cast<std::int16_t>(std::countr_zero(present));
     present &= present - 1;
   }
 }

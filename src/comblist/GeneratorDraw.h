@@ -23,20 +23,19 @@ class GeneratorDraw {
 
   /// The next column: every banko and otherwise balls of the pool, ascending. Where numbers are
   /// missing, because they repeat or are no balls, the last positions stay as they were drawn.
-  const karvenis::Column& draw(Chance& chance);
+  [[nodiscard]] Column draw(Chance& chance);
 
  private:
   void take(std::int32_t drawn);
-  void sortByPresence();
+  static void sortByPresence(Column& column);
 
   using Table = std::array<std::int16_t, ballsInAll + 1>;
 
   Table full_{};  // the pool that every column starts with
   // Element 0: how many entries can be drawn. Stale ones stand above them, and room to move from.
   std::array<std::int16_t, 2 * ballsInAll> Pool{};
-  karvenis::Column bankos_{};
-  karvenis::Column Column{};
-  std::size_t firstDrawn_ = 1;  // the position behind the bankos
+  Column bankos_{};  // in the first positions of every column
+  std::size_t bankoCount_ = 0;
 };
 
 }  // namespace karvenis

@@ -10,10 +10,10 @@ void deleteListColumn(SharedState& state, Files& files, std::int32_t number, std
     files.remove(combinationList);
     return;
   }
-  ColumnFile& list = state.FileNo.emplace(files, combinationList, state.Record);
-  ColumnFile YlsFileNo(files, ylsScratch, state.Record);
+  ColumnFile list(state, files, combinationList);
+  ColumnFile YlsFileNo(state, files, ylsScratch);
   copyColumnsWithout(number, count, list, YlsFileNo);
-  state.closeFile();
+  list.close();
   YlsFileNo.close();
   files.rename(ylsScratch, combinationList);  // one step: nothing of the scratch file stays behind
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace karvenis {
@@ -12,7 +13,15 @@ inline constexpr int mostBankos = 5;
 /// Whether `number` is a ball: 1..49.
 constexpr bool isBall(std::int16_t number) { return number >= 1 && number <= ballsInAll; }
 
-/// Six ball numbers at the positions 1..6; element 0 is not used.
-using Column = std::array<std::int16_t, ballsInColumn + 1>;
+/// Six ball numbers in their order.
+using Column = std::array<std::int16_t, ballsInColumn>;
+
+/// The ball of `column` at `position`, which is 1..6.
+constexpr std::int16_t& ballAt(Column& column, int position) {
+  return column[static_cast<std::size_t>(position - 1)];
+}
+constexpr std::int16_t ballAt(const Column& column, int position) {
+  return column[static_cast<std::size_t>(position - 1)];
+}
 
 }  // namespace karvenis

@@ -6,15 +6,24 @@
 
 namespace karvenis {
 
-void ColumnFile::get(std::int64_t number) {
-  std::array<std::byte, ColumnRecord::size> bytes{};
-  file_.read(number, bytes);
-  buffer_ = decodeColumn(bytes);
+ColumnFile::ColumnFile(SharedState& state, Files& files, const std::string& name)
+    : state_(state), file_(files, name, ColumnRecord::size) {
+  ++state_.FileNo;
 }
 
-void ColumnFile::put(std::int64_t number) {
+ColumnFile::~ColumnFile() { --state_.FileNo; }
+
+ColumnRecord ColumnFile::at(std::int64_t number) {
   std::array<std::byte, ColumnRecord::size> bytes{};
-  encode(buffer_, bytes);
+  file_.read(number, bytes);
+  state_.Record = decodeColumn(bytes);
+  return state_.Record;
+}
+
+void ColumnFile::put(std::int64_t number, const ColumnRecord& record) {
+  state_.Record = record;
+  std::array<std::byte, ColumnRecord::size> bytes{};
+  encode(state_.Record, bytes);
   file_.write(number, bytes);
 }
 
@@ -35,8 +44,7 @@ void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& fr
   std::int64_t next = 1;
   for (std::int64_t number = 1; number <= count; ++number) {
     if (number == leftOut) continue;
-    from.get(number);
-    to.put(next);
+    to.put(next, from.at(number));
     ++next;
   }
 }

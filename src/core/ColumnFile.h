@@ -4,6 +4,7 @@
 
 #include "core/ColumnRecord.h"
 #include "core/RecordFile.h"
+#include "core/SharedState.h"
 
 namespace karvenis {
 
@@ -19,40 +20,47 @@ inline constexpr char yndScratch[] = "KARVENIS.YND";  ///< of the kept columns' 
 /// not cut off first.
 inline constexpr char ylsScratch[] = "KARVENIS.YLS";
 
-/// An open column file. Records pass through the column record buffer it was made with.
+/// An open column file: records are read and written as values, each by way of the one record
+/// buffer of the shared state. Takes the next file number while it lives.
 class ColumnFile {
  public:
-  /// Opens `name`, creating it where it is missing. Throws RunTimeError(open).
-  ColumnFile(Files& files, const std::string& name, ColumnRecord& buffer)
-      : buffer_(buffer), file_(files, name, ColumnRecord::size) {}
+  /// Opens `name`, and creates it if it is missing. Throws RunTimeError(open).
+  ColumnFile(SharedState& state, Files& files, const std::string& name);
+  /// Closes; a failure is not reported. After writing, call close() first.
+  ~ColumnFile();
+  ColumnFile(const ColumnFile&) = delete;
+  ColumnFile& operator=(const ColumnFile&) = delete;
 
-  std::uint64_t length() const { return file_.length(); }
-  /// Records in the file: length / 16, halves to even.
-  std::int32_t count() const { return file_.count(); }
-  /// Reads record `number` (from 1) into the buffer; past the end it is all 0. Throws
-  /// RunTimeError(read).
-  void get(std::int64_t number);
-  /// Writes the buffer as record `number`. Throws RunTimeError(write).
-  void put(std::int64_t number);
-  /// Returns with everything on disk and the file closed. Throws RunTimeError(write).
+  /// Records in the file: its length / 16, halves to even. Throws RunTimeError(overflow) if that is
+  /// beyond 32 bits.
+  [[nodiscard]] std::int32_t count() const { return file_.count(); }
+  /// Whether all bytes of record `number` (from 1) are in the file.
+  [[nodiscard]] bool holdsWhole(std::int64_t number) const { return file_.holdsWhole(number); }
+  /// Record `number` (from 1); bytes past the end are 0. Throws RunTimeError(read).
+  [[nodiscard]] ColumnRecord at(std::int64_t number);
+  /// Writes `record` as record `number` (from 1); a gap before it reads as 0. Throws
+  /// RunTimeError(write).
+  void put(std::int64_t number, const ColumnRecord& record);
+  /// Returns when everything is on disk and the file is closed. The file is not used any more then.
+  /// Throws RunTimeError(write).
   void close() { file_.close(); }
 
  private:
-  ColumnRecord& buffer_;
+  SharedState& state_;
   RecordFile file_;
 };
 
 /// Records of `name`, which must exist. Throws RunTimeError(read, overflow).
-std::int32_t columnCount(Files& files, const std::string& name);
+[[nodiscard]] std::int32_t columnCount(Files& files, const std::string& name);
 
-/// The same; 0 where there is no such file.
-std::int32_t columnCountOrNone(Files& files, const std::string& name);
+/// The same; 0 if there is no such file.
+[[nodiscard]] std::int32_t columnCountOrNone(Files& files, const std::string& name);
 
 /// Whether `name` exists and is at least one record (16 bytes) long. Throws RunTimeError(read).
-bool holdsColumns(Files& files, const std::string& name);
+[[nodiscard]] bool holdsColumns(Files& files, const std::string& name);
 
 /// Copies the records 1..`count` of `from`, without record `leftOut`, to the records 1, 2, ... of
-/// `to`, words included. Both must share one buffer; neither is closed.
+/// `to`, words included. Neither is closed.
 void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from, ColumnFile& to);
 
 /// Starts an empty scratch file; what an interrupted run left in it is gone then. Neither it nor

@@ -4,34 +4,44 @@
 #include "platform/RunTimeError.h"
 
 namespace karvenis {
+namespace {
+
+constexpr std::size_t wordSize = 4;
+constexpr std::size_t ballSize = 2;
+
+}  // namespace
 
 void encode(const ColumnRecord& record, std::span<std::byte, ColumnRecord::size> bytes) {
-  putLittleEndian(bytes.first<4>(), static_cast<std::uint32_t>(record.Word));
-  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    putLittleEndian(bytes.subspan(2 + 2 * k, 2), static_cast<std::uint16_t>(record.Balls[k]));
+  putLittleEndian(bytes.first<wordSize>(), record.Word);
+  std::span<std::byte> place = bytes.subspan<wordSize>();
+  for (const std::int16_t ball : record.Balls) {
+    putLittleEndian(place.first<ballSize>(), ball);
+    place = place.subspan(ballSize);
   }
 }
 
 ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes) {
   ColumnRecord record;
-  record.Word = static_cast<std::int32_t>(getLittleEndian<std::uint32_t>(bytes.first<4>()));
-  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    record.Balls[k] =
-        static_cast<std::int16_t>(getLittleEndian<std::uint16_t>(bytes.subspan(2 + 2 * k, 2)));
+  record.Word = getLittleEndian<std::int32_t>(bytes.first<wordSize>());
+  std::span<const std::byte> place = bytes.subspan<wordSize>();
+  for (std::int16_t& ball : record.Balls) {
+    ball = getLittleEndian<std::int16_t>(place.first<ballSize>());
+    place = place.subspan(ballSize);
   }
   return record;
 }
 
 std::int16_t columnSum(const Column& column, std::int64_t number) {
-  std::int32_t sum = 0;
-  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    sum += column[k];
-    if (sum != static_cast<std::int16_t>(sum)) {
+  std::int16_t ColumnSum = 0;
+  for (const std::int16_t ball : column) {
+    const int sum = ColumnSum + ball;
+    ColumnSum = static_cast<std::int16_t>(sum);
+    if (ColumnSum != sum) {
       throw RunTimeError(Fault::overflow, std::to_string(sum),
                          std::to_string(number) + ". kolon bozuk, sayılarının toplamı sığmıyor");
     }
   }
-  return static_cast<std::int16_t>(sum);
+  return ColumnSum;
 }
 
 }  // namespace karvenis

@@ -24,7 +24,7 @@ std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position)
 
 void SortColumn(Column& column) {
   for (int pass = 1; pass <= ballsInColumn; ++pass) {
-    for (std::size_t k = 1; k < ballsInColumn; ++k) {
+    for (std::size_t k = 0; k + 1 < column.size(); ++k) {
       if (column[k + 1] < column[k]) std::swap(column[k], column[k + 1]);
     }
   }
@@ -41,16 +41,16 @@ bool canDraw(const SharedState& state) {
 }
 
 void drawDistinct(SharedState& state, Chance& chance) {
-  Column& column = state.Drawn;
-  for (std::int16_t position = 1; position <= ballsInColumn; ++position) {
-    column[static_cast<std::size_t>(position)] = PickBall(state, chance, position);
-  }
-  // A repeat restarts the comparisons, the rest of the inner loop included, at position 1. Only the
-  // later ball of a pair is drawn again, so a banko is never replaced.
-  for (std::size_t i = 1; i < ballsInColumn; ++i) {
-    for (std::size_t j = i + 1; j <= ballsInColumn; ++j) {
-      while (column[j] == column[i]) {
-        column[j] = PickBall(state, chance, static_cast<std::int16_t>(j));
+  const auto pick = [&](std::int16_t position) {
+    ballAt(state.Drawn, position) = PickBall(state, chance, position);
+  };
+  for (std::int16_t position = 1; position <= ballsInColumn; ++position) pick(position);
+  // After a repeat the comparisons, the rest of the inner loop included, go on with position 1.
+  // Only the later ball of a pair is drawn again, so a banko is never replaced.
+  for (std::int16_t i = 1; i < ballsInColumn; ++i) {
+    for (std::int16_t j = i; ++j <= ballsInColumn;) {
+      while (ballAt(state.Drawn, j) == ballAt(state.Drawn, i)) {
+        pick(j);
         i = 1;
       }
     }

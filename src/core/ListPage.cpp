@@ -34,15 +34,17 @@ std::string bracketed(std::int16_t sum) {
 }
 
 void drawRow(TextSurface& surface, std::int64_t number, const Column& balls) {
-  const std::int16_t sum = columnSum(balls, number);
+  const std::int16_t ColumnSum = columnSum(balls, number);
   const double firstBall = printLabel(surface, number);
   surface.foreColor(QBColor::lightBlue);
-  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    surface.currentX(firstBall + ballPitch * static_cast<double>(k - 1));
-    surface.print(withBlank(balls[k]) + "  ");
+  double x = firstBall;
+  for (const std::int16_t ball : balls) {
+    surface.currentX(x);
+    surface.print(withBlank(ball) + "  ");
+    x += ballPitch;
   }
   surface.currentX(firstBall + sumOffset);
-  surface.printLine(bracketed(sum));
+  surface.printLine(bracketed(ColumnSum));
 }
 
 }  // namespace
@@ -89,13 +91,12 @@ std::string pageTitle(const std::string& list, std::int32_t PageNo) {
   return " " + list + " - Sayfa" + withBlank(PageNo) + "  [ F10= Yardım ]";
 }
 
-void drawPage(const ListPage& page, SharedState& state, TextSurface& surface) {
+void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface) {
   surface.cls();
   surface.currentY(pageMargin);
   for (std::int32_t RowNo = 1; RowNo <= page.PageRows; ++RowNo) {
     const std::int64_t number = std::int64_t{page.PageStart} + RowNo;
-    state.FileNo->get(number);
-    drawRow(surface, number, state.Record.Balls);
+    drawRow(surface, number, file.at(number).Balls);
   }
 }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/SharedState.h"
+#include "core/ColumnFile.h"
 #include "platform/TextSurface.h"
 
 namespace karvenis {
@@ -36,9 +36,9 @@ struct ListPage {
 std::string pageTitle(const std::string& list, std::int32_t PageNo);
 
 /// Clears the surface and prints the page's rows on it: a record's number in light red, then its
-/// balls and their sum in light blue. Reads the records from the open `state.FileNo`. Throws
-/// RunTimeError(overflow) where the sum of a damaged record outgrows 16 bits.
-void drawPage(const ListPage& page, SharedState& state, TextSurface& surface);
+/// balls and their sum in light blue. `page` fits `file`. Throws RunTimeError(read), and (overflow)
+/// if the sum of a damaged record outgrows 16 bits.
+void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface);
 
 /// The right edge, in twips, of the widest row that any record can give on `surface`; clears it.
 double widestRow(TextSurface& surface);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Files.h"
@@ -29,6 +30,10 @@ class RecordFile {
   /// Length in bytes, with what has been written and is still in memory.
   std::uint64_t length() const { return length_; }
   std::int32_t count() const { return recordCount(length_, recordLength_); }
+  /// Whether all bytes of record `number` (from 1) are in the file.
+  bool holdsWhole(std::int64_t number) const {
+    return std::cmp_less_equal(number, length_ / recordLength_);
+  }
 
   /// `record` is recordLength bytes. Throws RunTimeError(read), also for a number below 1.
   void read(std::int64_t number, std::span<std::byte> record);

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <optional>
+#include <cstdint>
 
 #include "core/BallSet.h"
 #include "core/Column.h"
-#include "core/ColumnFile.h"
 #include "core/ColumnRecord.h"
 
 namespace karvenis {
@@ -18,17 +17,10 @@ struct SharedState {
   BallSet<mostBankos> Banko;
   /// The drawn column: what the main window shows and F1 saves.
   Column Drawn{};
-  /// The buffer through which every column record is read and written.
+  /// The buffer through which every column record is read and written, and the number of the column
+  /// file that was opened last (0: none is open). ColumnFile keeps both; nobody else touches them.
   ColumnRecord Record;
-  /// The file number that every window opens its column file on; empty while none is open.
-  std::optional<ColumnFile> FileNo;
-  /// Returns with the file of FileNo, where one is open, on disk and closed. Throws
-  /// RunTimeError(write).
-  void closeFile() {
-    if (!FileNo) return;
-    FileNo->close();
-    FileNo.reset();
-  }
+  std::int16_t FileNo = 0;
 };
 
 }  // namespace karvenis

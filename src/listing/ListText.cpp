@@ -37,9 +37,10 @@ void appendColumnLine(std::string& text, std::int32_t number, std::size_t digits
   char* end = put(line.data(), "Kolon ");
   end = putPadded(end, number, digits);
   end = put(end, " - ");
-  for (std::size_t k = 1; k <= ballsInColumn; ++k) {
-    if (k > 1) end = put(end, ", ");
-    end = putPadded(end, balls[k], 2);
+  const char* between = "";
+  for (const std::int16_t ball : balls) {
+    end = putPadded(put(end, between), ball, 2);
+    between = ", ";
   }
   end = put(end, "  [");
   const bool threeCharacters = sum >= 100 || sum <= -10;

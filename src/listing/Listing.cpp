@@ -37,9 +37,9 @@ bool askToList(Boxes& boxes, const Listing& listing, Output output) {
 }
 
 /// Whatever fails while printing, the source included, is told as a printer that is not ready.
-void printTrapped(Surroundings& around, const Listing& listing, ListRange range) {
+void printTrapped(Surroundings& around, ColumnFile& list, const Listing& listing, ListRange range) {
   try {
-    PrintList(around, listing, range);
+    PrintList(around, list, listing, range);
   } catch (const RunTimeError&) {
     around.printer.killDocument();
     around.boxes.beep();
@@ -49,14 +49,13 @@ void printTrapped(Surroundings& around, const Listing& listing, ListRange range)
 
 void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Output output,
                ListRange range) {
-  SharedState& state = around.state;
-  state.FileNo.emplace(around.files, listing.source, state.Record);
+  ColumnFile list(around.state, around.files, listing.source);
   if (output == Output::text) {
-    WriteListText(around, title, listing, range);
+    WriteListText(around, title, list, listing, range);
   } else {
-    printTrapped(around, listing, range);
+    printTrapped(around, list, listing, range);
   }
-  state.closeFile();
+  list.close();
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "core/ColumnFile.h"
 #include "core/Surroundings.h"
 #include "platform/TitleBar.h"
 
@@ -47,12 +48,13 @@ RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output outp
 /// Records of the list; none where its file is gone.
 std::int32_t listedCount(Files& files, const Listing& listing);
 
-/// Writes the range of the open `around.state.FileNo` to the text file, replacing it; the title
+/// Writes the range of `list` to the text file, replacing it; the title
 /// tells the progress byte by byte in head and tail and once a line between. Ends with a box that
 /// tells the file's length. Throws RunTimeError.
-void WriteListText(Surroundings& around, TitleBar& title, const Listing& listing, ListRange range);
+void WriteListText(Surroundings& around, TitleBar& title, ColumnFile& list, const Listing& listing,
+                   ListRange range);
 
-/// Prints the range of the open `around.state.FileNo`. Throws RunTimeError.
-void PrintList(Surroundings& around, const Listing& listing, ListRange range);
+/// Prints the range of `list`. Throws RunTimeError.
+void PrintList(Surroundings& around, ColumnFile& list, const Listing& listing, ListRange range);
 
 }  // namespace karvenis

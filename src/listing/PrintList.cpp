@@ -15,7 +15,7 @@ void printIndented(Printer& printer, const std::string& line) {
 
 }  // namespace
 
-void PrintList(Surroundings& around, const Listing& listing, ListRange range) {
+void PrintList(Surroundings& around, ColumnFile& list, const Listing& listing, ListRange range) {
   Printer& printer = around.printer;
   printer.fontSize(textPoints);
   printer.currentY(topMargin);
@@ -23,13 +23,11 @@ void PrintList(Surroundings& around, const Listing& listing, ListRange range) {
   printIndented(printer, listing.heading + around.clock.date() + " ] ");
   printer.printLine("");
 
-  SharedState& state = around.state;
   const std::size_t digits = digitCount(range.last);
   std::string line;
   for (std::int64_t number = range.first; number <= range.last; ++number) {
-    state.FileNo->get(number);
     line.clear();
-    appendColumnLine(line, static_cast<std::int32_t>(number), digits, state.Record.Balls);
+    appendColumnLine(line, static_cast<std::int32_t>(number), digits, list.at(number).Balls);
     printIndented(printer, line);
   }
 

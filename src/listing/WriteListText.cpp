@@ -64,13 +64,12 @@ void putCharacters(TextFile& file, Progress& progress, std::string_view text) {
 }
 
 /// Puts a line for each record and shows, behind each, the number of the next free byte.
-void putColumns(SharedState& state, TextFile& file, Progress& progress, ListRange range) {
+void putColumns(ColumnFile& list, TextFile& file, Progress& progress, ListRange range) {
   const std::size_t digits = digitCount(range.last);
   std::string line;
   for (std::int64_t number = range.first; number <= range.last; ++number) {
-    state.FileNo->get(number);
     line.clear();
-    appendColumnLine(line, static_cast<std::int32_t>(number), digits, state.Record.Balls);
+    appendColumnLine(line, static_cast<std::int32_t>(number), digits, list.at(number).Balls);
     line += lineEnd;
     file.put(line);
     progress.show(file.written() + 1);
@@ -79,7 +78,8 @@ void putColumns(SharedState& state, TextFile& file, Progress& progress, ListRang
 
 }  // namespace
 
-void WriteListText(Surroundings& around, TitleBar& title, const Listing& listing, ListRange range) {
+void WriteListText(Surroundings& around, TitleBar& title, ColumnFile& list, const Listing& listing,
+                   ListRange range) {
   if (around.files.exists(textFile)) around.files.discard(textFile);
   TextFile file(around.files);
   std::string head = std::string("< KARVENIS 2005 Randomizer >") + lineEnd;
@@ -89,7 +89,7 @@ void WriteListText(Surroundings& around, TitleBar& title, const Listing& listing
   title.setCaption(listing.startTitle);
   Progress progress(title, listing.progress);
   putCharacters(file, progress, head);
-  putColumns(around.state, file, progress, range);
+  putColumns(list, file, progress, range);
   Progress totalProgress(title, "BYTE=");
   putCharacters(file, totalProgress, lineEnd + totalLine(range.count()) + lineEnd);
   file.close();

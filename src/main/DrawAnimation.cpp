@@ -7,9 +7,7 @@ constexpr std::int16_t lastPhase = 15;
 constexpr std::int16_t lastFrame = 16;
 constexpr std::int16_t startDelay = 10;
 
-std::string number(const Column& drawn, int k) {
-  return std::to_string(drawn[static_cast<std::size_t>(k)]);
-}
+std::string number(const Column& drawn, int k) { return std::to_string(ballAt(drawn, k)); }
 
 }  // namespace
 

@@ -7,13 +7,9 @@ namespace karvenis {
 namespace {
 
 void takeRecord(Surroundings& around, std::int32_t number) {
-  SharedState& state = around.state;
-  state.FileNo.emplace(around.files, combinationList, state.Record);
-  if (state.FileNo->length() / ColumnRecord::size >= static_cast<std::uint64_t>(number)) {
-    state.FileNo->get(number);
-    state.Drawn = state.Record.Balls;
-  }
-  state.closeFile();
+  ColumnFile list(around.state, around.files, combinationList);
+  if (list.holdsWhole(number)) around.state.Drawn = list.at(number).Balls;
+  list.close();
 }
 
 }  // namespace

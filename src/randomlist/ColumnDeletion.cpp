@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/ColumnFile.h"
 #include "core/IgnoringFaults.h"
 #include "core/Numbers.h"
 
@@ -41,8 +42,8 @@ bool ColumnDeletion::remove(std::int32_t DelNo) {
 /// Returns with the scratch file on disk.
 void ColumnDeletion::copyWithout(std::int32_t DelNo) {
   startScratch(around_.files, yndScratch);
-  ColumnFile RndFileNo(around_.files, randomColumns, around_.state.Record);
-  ColumnFile YndFileNo(around_.files, yndScratch, around_.state.Record);
+  ColumnFile RndFileNo(around_.state, around_.files, randomColumns);
+  ColumnFile YndFileNo(around_.state, around_.files, yndScratch);
   copyColumnsWithout(DelNo, RndCount, RndFileNo, YndFileNo);
   RndFileNo.close();
   YndFileNo.close();

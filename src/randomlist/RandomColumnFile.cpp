@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/ColumnFile.h"
 #include "core/Draw.h"
 #include "core/IgnoringFaults.h"
 #include "core/Numbers.h"
@@ -10,15 +11,14 @@ namespace karvenis {
 namespace {
 
 bool isComplete(const Column& column) {
-  return std::all_of(column.begin() + 1, column.end(), [](std::int16_t ball) { return ball >= 1; });
+  return std::ranges::all_of(column, [](std::int16_t ball) { return ball >= 1; });
 }
 
 /// Writes the drawn column as record `number` of the random column file.
 void writeDrawn(SharedState& state, Files& files, std::int32_t number) {
-  ColumnFile& file = state.FileNo.emplace(files, randomColumns, state.Record);
-  state.Record = {.Word = 0, .Balls = state.Drawn};
-  file.put(number);
-  state.closeFile();
+  ColumnFile file(state, files, randomColumns);
+  file.put(number, {.Word = 0, .Balls = state.Drawn});
+  file.close();
 }
 
 }  // namespace

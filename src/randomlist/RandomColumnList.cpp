@@ -1,5 +1,6 @@
 #include "randomlist/RandomColumnList.h"
 
+#include "core/ColumnFile.h"
 #include "core/IgnoringFaults.h"
 #include "core/Numbers.h"
 
@@ -23,29 +24,28 @@ constexpr char keys[] =
     "\r"
     "ESC= Kapat/Çık";
 
-/// Writes all random columns behind record `page.PageStart` of the open file. Returns with it on
-/// disk and closed.
+/// Writes all random columns behind the last record of `list` and says in `page` how many records
+/// either file held. Returns with both on disk and closed.
 void appendAll(Surroundings& around, ListPage& page) {
-  SharedState& state = around.state;
-  ColumnFile AppendFileNo(around.files, randomColumns, state.Record);
+  ColumnFile list(around.state, around.files, yndScratch);
+  page.PageStart = list.count();
+  ColumnFile AppendFileNo(around.state, around.files, randomColumns);
   page.RecordCount = AppendFileNo.count();
   for (std::int64_t AppendIndex = 1; AppendIndex <= page.RecordCount; ++AppendIndex) {
-    AppendFileNo.get(AppendIndex);
-    state.FileNo->put(page.PageStart + AppendIndex);
+    list.put(page.PageStart + AppendIndex, AppendFileNo.at(AppendIndex));
   }
   AppendFileNo.close();
-  state.closeFile();
+  list.close();
 }
 
 }  // namespace
 
 void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
-  SharedState& state = around.state;
-  state.FileNo.emplace(around.files, randomColumns, state.Record);
-  page.fit(state.FileNo->count());
+  ColumnFile file(around.state, around.files, randomColumns);
+  page.fit(file.count());
   title.setCaption(pageTitle("Rastgele Kolon Listesi", page.PageNo));
-  drawPage(page, state, surface);
-  state.closeFile();
+  drawPage(page, file, surface);
+  file.close();
 }
 
 void AppendToCombinationList(Surroundings& around, ListPage& page) {
@@ -57,9 +57,6 @@ void AppendToCombinationList(Surroundings& around, ListPage& page) {
   }
   // The list grows in a scratch file, so that it holds its old or its new bytes whatever happens.
   copyListTo(around.files, yndScratch);
-  SharedState& state = around.state;
-  state.FileNo.emplace(around.files, yndScratch, state.Record);
-  page.PageStart = state.FileNo->count();
   appendAll(around, page);
   around.files.rename(yndScratch, combinationList);
   around.boxes.beep();

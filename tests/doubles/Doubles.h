@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/ColumnFile.h"
 #include "core/Surroundings.h"
 #include "doubles/MemoryFiles.h"
 #include "doubles/ScriptedBoxes.h"
@@ -95,9 +96,6 @@ struct World {
   RecordingTitle title;
   Surroundings around{state, boxes, clock, chance, files, printer, windows};
 
-  /// A fault may have left a file open.
-  ~World() { state.FileNo.reset(); }
-
   /// The same over other files.
   Surroundings over(Files& other) { return {state, boxes, clock, chance, other, printer, windows}; }
 };
@@ -105,7 +103,7 @@ struct World {
 /// A column from six balls.
 inline Column column(std::int16_t a, std::int16_t b, std::int16_t c, std::int16_t d, std::int16_t e,
                      std::int16_t f) {
-  return {0, a, b, c, d, e, f};
+  return {a, b, c, d, e, f};
 }
 
 /// The bytes of column records.

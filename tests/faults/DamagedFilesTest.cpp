@@ -79,9 +79,9 @@ TEST(DamagedFiles, EveryFlippedBitOfAListShowsAndDrawsOrFaultsInOrder) {
 TEST(DamagedFiles, BallsThatAreNoBallsPassEveryCommand) {
   for (const int ball : {-32768, -1, 0, 50, 32767}) {
     const auto odd = static_cast<std::int16_t>(ball);
-    for (std::size_t place = 1; place <= 6; ++place) {
+    for (int place = 1; place <= 6; ++place) {
       ColumnRecord record{1, column(1, 2, 3, 4, 5, 6)};
-      record.Balls[place] = odd;
+      ballAt(record.Balls, place) = odd;
       surviveEverywhere(columnBytes({{7, column(8, 9, 10, 11, 12, 13)}, record}));
     }
     surviveEverywhere(columnBytes({{ball, column(odd, odd, odd, odd, odd, odd)}}));

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <tuple>
 
+#include "core/ColumnFile.h"
 #include "faults/DiskFolder.h"
 #include "platform/SystemFiles.h"
 

@@ -31,7 +31,7 @@ struct Model {
 };
 
 bool holds(const ColumnRecord& record, std::int16_t ball) {
-  return std::find(record.Balls.begin() + 1, record.Balls.end(), ball) != record.Balls.end();
+  return std::ranges::find(record.Balls, ball) != record.Balls.end();
 }
 
 std::optional<Columns> columnsIn(const MemoryFiles& files, const char* name) {
@@ -53,7 +53,6 @@ class Walk {
         &Walk::addRandom,    &Walk::unwanted,   &Walk::wanted,  &Walk::unwantedPair,
         &Walk::wantedPairs,  &Walk::writeText,  &Walk::pickOne,
     };
-    world_.state.FileNo.reset();
     (this->*moves[below(std::size(moves))])();
   }
   /// What differs between the files and the model; empty where nothing does.
@@ -81,10 +80,8 @@ class Walk {
     SaveRndColumn(world_.around, world_.title, false);
     if (!model_.kept) model_.kept.emplace();
     if (model_.kept->size() >= recordLimit) return;
-    std::sort(world_.state.Drawn.begin() + 1, world_.state.Drawn.end());
-    Column saved = world_.state.Drawn;
-    saved[0] = 0;
-    model_.kept->push_back({0, saved});
+    std::ranges::sort(world_.state.Drawn);
+    model_.kept->push_back({0, world_.state.Drawn});
   }
   void deleteKept() {
     move("delete a kept column");
@@ -182,7 +179,7 @@ class Walk {
     model_.list->resize(std::max(model_.list->size(), start + wanted));
     for (std::size_t i = start; i < start + wanted && now && i < now->size(); ++i) {
       const Column& drawn = (*now)[i].Balls;
-      EXPECT_TRUE(std::is_sorted(drawn.begin() + 1, drawn.end()));
+      EXPECT_TRUE(std::ranges::is_sorted(drawn));
       (*model_.list)[i] = {static_cast<std::int32_t>(i + 1), drawn};
     }
   }
@@ -212,7 +209,7 @@ class Walk {
       typed += std::to_string(balls.back()) + (i < 14 ? "," : "");
     }
     thinOut(Filter::FilterWantedNumbers, typed, [=](ColumnRecord r) {
-      r.Balls[3] = 0;  // the third one is never looked up
+      r.Balls[2] = 0;  // the third one is never looked up
       return std::ranges::any_of(balls, [&](std::int16_t wished) { return holds(r, wished); });
     });
   }
@@ -222,8 +219,8 @@ class Walk {
     const auto b = static_cast<std::int16_t>(a % 49 + 1);
     thinOut(Filter::FilterUnwantedPair, std::to_string(a) + "-" + std::to_string(b),
             [=](const ColumnRecord& r) {
-              return std::count_if(r.Balls.begin() + 1, r.Balls.end(),
-                                   [=](std::int16_t x) { return x == a || x == b; }) < 2;
+              return std::ranges::count_if(r.Balls,
+                                           [=](std::int16_t x) { return x == a || x == b; }) < 2;
             });
   }
   void wantedPairs() {

@@ -33,11 +33,10 @@ inline Bytes soundList(std::int16_t count) {
   Bytes bytes(static_cast<std::size_t>(count) * ColumnRecord::size);
   for (std::int16_t i = 0; i < count; ++i) {
     const auto n = static_cast<std::int16_t>(i % 40);
-    const ColumnRecord record{
-        i,
-        {0, static_cast<std::int16_t>(n + 1), static_cast<std::int16_t>(n + 2),
-         static_cast<std::int16_t>(n + 4), static_cast<std::int16_t>(n + 6),
-         static_cast<std::int16_t>(n + 8), static_cast<std::int16_t>(n + 9)}};
+    const ColumnRecord record{i,
+                              {static_cast<std::int16_t>(n + 1), static_cast<std::int16_t>(n + 2),
+                               static_cast<std::int16_t>(n + 4), static_cast<std::int16_t>(n + 6),
+                               static_cast<std::int16_t>(n + 8), static_cast<std::int16_t>(n + 9)}};
     encode(record, std::span(bytes)
                        .subspan(static_cast<std::size_t>(i) * ColumnRecord::size)
                        .first<ColumnRecord::size>());

@@ -25,12 +25,9 @@ void look(PlainWorld& world) {
   ListPage page;
   NoSurface surface;
   allowingFaults([&] { ShowRndPage(world.around, page, surface, world.title); });
-  world.state.FileNo.reset();
   allowingFaults([&] { ShowPage(world.around, page, surface, world.title); });
-  world.state.FileNo.reset();
   allowingFaults([&] { PickFromList(world.around); });
   allowingFaults([&] { listRandomColumns(world.around, world.title, Output::text); });
-  world.state.FileNo.reset();
 }
 
 }  // namespace

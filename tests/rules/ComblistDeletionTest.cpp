@@ -40,7 +40,7 @@ TEST_P(DeleteListColumn, LeavesTheOthersWithTheirWordsAndTheOldListInTheBackup) 
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(without(listOf(count), number)));
   EXPECT_EQ(world.files.bytes(listBackup), before);
   EXPECT_FALSE(world.files.exists(ylsScratch));
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Places, DeleteListColumn,
@@ -79,7 +79,7 @@ TEST(DeleteListColumn, FillsARaggedLastRecordWithZeros) {
   world.files.folder[combinationList].resize(44);
   deleteListColumn(world.state, world.files, 1, 3);
   auto expected = listOf(3);
-  expected[2].Balls[5] = expected[2].Balls[6] = 0;
+  ballAt(expected[2].Balls, 5) = ballAt(expected[2].Balls, 6) = 0;
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(without(expected, 1)));
 }
 
@@ -98,7 +98,6 @@ TEST(DeleteListColumn, ARefusalAtAnyStepLeavesTheOldListOrTheNewOne) {
     } catch (const RunTimeError&) {
       ++refusals;
     }
-    world.state.FileNo.reset();
     const Bytes left = world.files.bytes(combinationList);
     EXPECT_TRUE(left == before || left == after) << "refused call " << failing;
     if (failing > 1) {

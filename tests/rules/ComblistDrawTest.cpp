@@ -25,12 +25,11 @@ class WrittenRule {
     for (int p = static_cast<int>(Column_[0]) + 1; p <= 6; ++p) pick(p, chance);
     sortByPresence();
     Column drawn{};
-    for (int i = 1; i <= 6; ++i) at(drawn, i) = static_cast<std::int16_t>(Column_[i]);
+    for (int i = 1; i <= 6; ++i) ballAt(drawn, i) = static_cast<std::int16_t>(Column_[i]);
     return drawn;
   }
 
  private:
-  static std::int16_t& at(Column& column, int i) { return column[static_cast<std::size_t>(i)]; }
   static bool inTable(int n) { return n >= 0 && n <= 49; }
 
   void fill(const SharedState& state) {
@@ -178,8 +177,8 @@ TEST(GeneratorDraw, HoldsEveryBankoAmongBallsOfTheBagAscending) {
   GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
-    ASSERT_TRUE(std::is_sorted(column.begin() + 1, column.end()));
-    const std::set<std::int16_t> balls(column.begin() + 1, column.end());
+    ASSERT_TRUE(std::is_sorted(column.begin(), column.end()));
+    const std::set<std::int16_t> balls(column.begin(), column.end());
     ASSERT_EQ(balls.size(), 6U);
     ASSERT_TRUE(balls.contains(5) && balls.contains(40));
   }
@@ -192,7 +191,7 @@ TEST(GeneratorDraw, ABankoInTheBagIsHarmless) {
   GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
-    ASSERT_EQ(std::count(column.begin() + 1, column.end(), 7), 1);
+    ASSERT_EQ(std::count(column.begin(), column.end(), 7), 1);
   }
 }
 
@@ -226,7 +225,7 @@ TEST(GeneratorDraw, TheIndexStaysInsidePoolsWhoseSizeIsAPowerOfTwo) {
     setBag(world.state, balls);
     setBanko(world.state, {45, 46, 47, 48, 49});
     world.chance.script = {largest};
-    EXPECT_EQ(drawn(world)[1], balls.back());
+    EXPECT_EQ(drawn(world).front(), balls.back());
   }
 }
 
@@ -267,8 +266,8 @@ TEST(GeneratorDraw, BagNumbersThatAreNoBallsAreNeverDrawn) {
   GeneratorDraw random(world.state);
   for (int i = 0; i < 1000; ++i) {
     const Column column = random.draw(world.chance);
-    ASSERT_GE(*std::min_element(column.begin() + 1, column.end()), 1);
-    ASSERT_LE(*std::max_element(column.begin() + 1, column.end()), 11);
+    ASSERT_GE(*std::min_element(column.begin(), column.end()), 1);
+    ASSERT_LE(*std::max_element(column.begin(), column.end()), 11);
   }
 }
 
@@ -283,7 +282,7 @@ double spoiltShare(std::size_t balls) {
   int spoilt = 0;
   for (int i = 0; i < columns; ++i) {
     const Column column = random.draw(world.chance);
-    const std::set<std::int16_t> distinct(column.begin() + 1, column.end());
+    const std::set<std::int16_t> distinct(column.begin(), column.end());
     if (distinct.size() < 6 || distinct.contains(0)) ++spoilt;
   }
   return static_cast<double>(spoilt) / columns;
@@ -315,8 +314,8 @@ TEST(GeneratorDraw, BallsComeAsOftenOverAMillionColumnsAsTheRuleMakesThem) {
   GeneratorDraw random(world.state);
   std::array<int, 50> came{};
   for (int i = 0; i < static_cast<int>(columns); ++i) {
-    const Column& column = random.draw(world.chance);
-    for (std::size_t k = 1; k <= 6; ++k) ++came.at(static_cast<std::size_t>(column[k]));
+    const Column column = random.draw(world.chance);
+    for (const std::int16_t ball : column) ++came.at(static_cast<std::size_t>(ball));
   }
   EXPECT_EQ(came[0], 0);
   double all = 0;

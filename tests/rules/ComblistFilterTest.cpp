@@ -93,7 +93,7 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   EXPECT_EQ(list(world), columnBytes({record(417, all[0].Balls), record(417, all[3].Balls)}));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(all));
   EXPECT_FALSE(world.files.exists(tmpScratch));
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
   const std::string second = passes.secondPass;
   EXPECT_EQ(
       world.title.captions,
@@ -214,7 +214,6 @@ void refuseEachStep(Filter filter, const char* typed, const Records& records) {
     } catch (const RunTimeError&) {
       ++refusals;
     }
-    world.state.FileNo.reset();
     EXPECT_TRUE(world.files.bytes(listBackup) == columnBytes(records) ||
                 list(world) == columnBytes(records))
         << "refused call " << failing;

@@ -46,7 +46,7 @@ TEST(ShowPage, TellsOfAnEmptyListEachTimeAndKeepsThePage) {
   EXPECT_EQ(world.surface.lines(), shown);
   EXPECT_EQ(world.title.captions.size(), 1U);
   EXPECT_EQ(world.page.RecordCount, 0);
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 TEST(ShowPage, HalfARecordCountsAsNone) {
@@ -78,7 +78,7 @@ TEST_P(ShownPage, IsTitledAndCorrected) {
   EXPECT_TRUE(world.surface.lines().front().starts_with("Kolon - " +
                                                         std::to_string(row.corrected + 1) + " : "));
   EXPECT_EQ(world.title.captions, std::vector<std::string>{row.caption});
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(

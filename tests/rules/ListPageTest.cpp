@@ -148,12 +148,11 @@ struct PageWorld : World {
   /// Draws the page of `records` that starts behind `start`.
   void draw(const std::vector<ColumnRecord>& records, std::int32_t start = 0) {
     files.folder["L"] = columnBytes(records);
-    state.FileNo.emplace(files, "L", state.Record);
+    ColumnFile file(state, files, "L");
     ListPage page;
     page.PageStart = start;
-    page.fit(state.FileNo->count());
-    drawPage(page, state, surface);
-    state.FileNo.reset();
+    page.fit(file.count());
+    drawPage(page, file, surface);
   }
 };
 
@@ -257,10 +256,10 @@ TEST(DrawPage, ASumBeyond16BitsIsAFault) {
 TEST(DrawPage, BytesMissingFromTheLastRecordAre0) {
   PageWorld world;
   world.files.folder["L"] = Bytes(16 + 10, std::byte{1});
-  world.state.FileNo.emplace(world.files, "L", world.state.Record);
+  ColumnFile file(world.state, world.files, "L");
   ListPage page;
-  page.fit(world.state.FileNo->count());
-  drawPage(page, world.state, world.surface);
+  page.fit(file.count());
+  drawPage(page, file, world.surface);
   EXPECT_EQ(world.surface.lines().back(), "Kolon - 2 :  257   257   257   0   0   0  [ 771 ]");
 }
 

@@ -57,7 +57,7 @@ TEST(ListText, OfRandomColumnsByteByByte) {
   world.listRandom(Output::text);
   EXPECT_EQ(world.text(), expected);
   EXPECT_EQ(world.files.folder.size(), 2U);
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 TEST(ListText, OfARangeOfCombinationsByteByByte) {
@@ -181,7 +181,7 @@ TEST(ListText, TheLastBoxFindsTheTitleBackAndTheSourceOpen) {
   world.boxes.whileOpen = [&] {
     if (!world.boxes.finished()) return;
     EXPECT_EQ(world.title.captions.back(), " Rastgele Kolonlar");
-    EXPECT_TRUE(world.state.FileNo.has_value());
+    EXPECT_EQ(world.state.FileNo, 1);
   };
   world.listRandom(Output::text);
 }
@@ -252,7 +252,7 @@ TEST(ListPrinter, ARefusalIsToldAndTheSourceClosed) {
       .expectMessage("Printer hazır değil !", errorTitle, Icon::none);
   world.listRandom(Output::printer);
   EXPECT_TRUE(world.printer.killed);
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 TEST(ListPrinter, AnyOtherFaultIsToldAsThePrintersToo) {

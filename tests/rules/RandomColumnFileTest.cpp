@@ -28,7 +28,7 @@ TEST(SaveRndColumn, MakesTheFileAndItsFirstRecordAscending) {
   EXPECT_EQ(world.title.captions,
             (Captions{" Kolon kayıtlanıyor...", " KARVENIS.RND Kayıt No= 1"}));
   EXPECT_EQ(world.boxes.pointers, (std::vector{Pointer::hourglass, Pointer::normal}));
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 TEST(SaveRndColumn, WritesTheArrayAsItStandsWhereTheDrawSorts) {
@@ -97,10 +97,10 @@ INSTANTIATE_TEST_SUITE_P(Lengths, SaveBehind,
                          [](const auto& length) { return length.param.name; });
 
 TEST(SaveRndColumn, DoesNothingWhileTheDrawIsNotComplete) {
-  for (std::size_t missing = 1; missing <= ballsInColumn; ++missing) {
+  for (int missing = 1; missing <= ballsInColumn; ++missing) {
     World world;
     world.state.Drawn = column(1, 2, 3, 4, 5, 6);
-    world.state.Drawn[missing] = 0;
+    ballAt(world.state.Drawn, missing) = 0;
     SaveRndColumn(world.around, world.title, false);
     EXPECT_TRUE(world.files.folder.empty());
     EXPECT_TRUE(world.title.captions.empty());

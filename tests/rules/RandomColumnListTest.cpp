@@ -33,7 +33,7 @@ TEST(ShowRndPage, CreatesAMissingFileAndShowsPage0) {
   EXPECT_EQ(world.files.folder, (Folder{{"KARVENIS.RND", {}}}));
   EXPECT_EQ(world.title.captions.back(), " Rastgele Kolon Listesi - Sayfa 0  [ F10= Yardım ]");
   EXPECT_TRUE(world.surface.runs.empty());
-  EXPECT_FALSE(world.state.FileNo.has_value());
+  EXPECT_EQ(world.state.FileNo, 0);
 }
 
 TEST(ShowRndPage, ShowsTheFileAsItIsNow) {

@@ -15,8 +15,6 @@ struct WholeProgram {
       : forms(boxes), around{state, boxes, clock, chance, files, printer, forms} {
     addWindows(forms, around);
   }
-  /// A fault may have left a file open.
-  ~WholeProgram() { state.FileNo.reset(); }
   WholeProgram(const WholeProgram&) = delete;
   WholeProgram& operator=(const WholeProgram&) = delete;
 

@@ -67,7 +67,7 @@ TEST_F(FrmLoto, DrawsFromTheBagBallByBall) {
   drawToTheEnd();
   EXPECT_TRUE(hidden("Picture0"));
   for (int k = 1; k <= 6; ++k) {
-    const std::string ball = std::to_string(world.state.Drawn[static_cast<std::size_t>(k)]);
+    const std::string ball = std::to_string(ballAt(world.state.Drawn, k));
     EXPECT_EQ(caption(2 * k - 2), ball);
     EXPECT_EQ(caption(2 * k - 1), ball);
     EXPECT_FALSE(number(2 * k - 2)->isHidden());
