@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
@@ -6,6 +5,7 @@
 #include "core/Surroundings.h"
 #include "platform/SystemChance.h"
 #include "platform/SystemFiles.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Form.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
@@ -23,7 +23,7 @@ namespace {
 /// language.
 void speakTurkish(QTranslator& words) {
   if (words.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QApplication::installTranslator(&words);
+    QCoreApplication::installTranslator(&words);
   }
 }
 
@@ -31,9 +31,9 @@ void speakTurkish(QTranslator& words) {
 
 int main(int argc, char** argv) {
   using namespace karvenis;
-  QApplication application(argc, argv);
-  QApplication::setApplicationName(u"KARVENIS"_s);
-  QApplication::setDesktopFileName(u"karvenis"_s);
+  Application application(argc, argv);
+  Application::setApplicationName(u"KARVENIS"_s);
+  Application::setDesktopFileName(u"karvenis"_s);
   applyLook();
   QTranslator turkish;
   speakTurkish(turkish);

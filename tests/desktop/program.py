@@ -3,6 +3,7 @@
 import os
 import re
 import shutil
+import signal
 import subprocess
 import tempfile
 
@@ -184,6 +185,14 @@ class Program:
     def type(self, text):
         self.screen.run("xdotool", "type", "--delay", "5", text)
 
+    def while_stopped(self, action):
+        """Does something that the program finds all at once when it goes on."""
+        self.process.send_signal(signal.SIGSTOP)
+        try:
+            action()
+        finally:
+            self.process.send_signal(signal.SIGCONT)
+
     def click(self, node, times=1):
         left, top, width, height = (round(self._scale * length) for length in node.place)
         self.click_at(left + width // 2, top + height // 2, times)
@@ -191,6 +200,30 @@ class Program:
     def click_at(self, left, top, times=1):
         self.screen.run("xdotool", "mousemove", str(left), str(top), "click", "--repeat",
                         str(times), "--delay", "30", "1")
+
+    def id_of(self, title):
+        """The window of this title, as the window manager knows it."""
+        told = self.screen.run("xprop", "-root", "_NET_CLIENT_LIST")
+        (found,) = [window_id for window_id in re.findall(r"0x[0-9a-f]+", told)
+                    if self.title_of(window_id) == title]
+        return found
+
+    def go_to(self, title):
+        """Chooses a window in a taskbar, which also brings it back from being minimised."""
+        self.screen.run("wmctrl", "-i", "-a", self.id_of(title))
+        self.activated(title)
+
+    def close_by_taskbar(self, title):
+        self.screen.run("wmctrl", "-i", "-c", self.id_of(title))
+        self.gone(title)
+
+    def minimise(self, title):
+        self.screen.run("xdotool", "windowminimize", self.id_of(title))
+        self.until(lambda: self.is_minimised(title), f"«{title}» to be minimised")
+
+    def is_minimised(self, title):
+        told = self.screen.run("xprop", "-id", self.id_of(title), "_NET_WM_STATE")
+        return "_NET_WM_STATE_HIDDEN" in told
 
     def close_by_frame(self, title):
         """Asks the window manager to close the active window, as its cross does."""

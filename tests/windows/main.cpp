@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTimer>
 #include <cstdio>
 
+#include "platform/qt/Application.h"
 #include "platform/qt/Look.h"
 
 namespace {
@@ -30,7 +30,7 @@ class QuitCleared final : public testing::EmptyTestEventListener {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
+  karvenis::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   karvenis::applyLook();
   qInstallMessageHandler(onComplaint);

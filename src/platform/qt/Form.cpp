@@ -98,7 +98,7 @@ QAction* Form::menuEntry(QMenu* head, const char* entryName, const QString& text
 
 void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
   on(box, &QLineEdit::returnPressed, [this, procedure = std::move(procedure)] {
-    if (!forms_.heldKeys().repeats()) procedure();
+    if (!keyRepeats_) procedure();
   });
 }
 
@@ -140,9 +140,11 @@ bool Form::handleKey(const QKeyEvent& key) {
   if (inMenus) return false;
   if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
     return true;
+  if (isOfScreenReader(key)) return true;
   const int code = keyCodeOf(key);
   const bool once = isFunctionKey(code) || code == keyEscape;
-  if (once && forms_.heldKeys().repeats()) return true;
+  keyRepeats_ = key.isAutoRepeat();
+  if (once && keyRepeats_) return true;
   if (code == keyEscape && forms_.isLosing(*this)) return true;  // meant for the new window
 
   const int shift = shiftOf(key);
@@ -166,7 +168,7 @@ bool Form::pressesFocused(int code) const {
 /// focus to is not pressed. Returns whether the key was one that presses.
 bool Form::pressFocused(int code, QWidget* focused) {
   if (focused != focusWidget() || !pressesFocused(code)) return false;
-  if (!forms_.heldKeys().repeats()) qobject_cast<QAbstractButton*>(focused)->click();
+  if (!keyRepeats_) qobject_cast<QAbstractButton*>(focused)->click();
   return true;
 }
 

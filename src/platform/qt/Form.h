@@ -115,6 +115,7 @@ class Form : public QWidget, public TitleBar {
   QSize lastSize_;
   int running_ = 0;
   bool closing_ = false;
+  bool keyRepeats_ = false;  // the key that is being handled is a repeat
   bool clickArmed_ = false;
   bool pressWasFree_ = false;        // the last press was on the window's own surface
   bool pressBeforeWasFree_ = false;  // and so was the one before

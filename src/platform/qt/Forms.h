@@ -11,7 +11,6 @@
 
 #include "platform/Boxes.h"
 #include "platform/Windows.h"
-#include "platform/qt/HeldKeys.h"
 
 namespace karvenis {
 
@@ -63,7 +62,6 @@ class Forms final : public Windows {
   /// not become commands after it.
   void dropInput();
   bool droppingInput() const { return *dropping_; }
-  const HeldKeys& heldKeys() const { return heldKeys_; }
 
  private:
   Form* open(std::string_view form);
@@ -77,7 +75,6 @@ class Forms final : public Windows {
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
   QElapsedTimer sincePresented_;
-  HeldKeys heldKeys_;
   int running_ = 0;  // event procedures that have not ended
   bool ending_ = false;
   int status_ = 0;

@@ -1,5 +1,6 @@
 #include "platform/qt/KeyCodes.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 
 #include "platform/Keys.h"
@@ -46,6 +47,12 @@ int shiftOf(const QKeyEvent& key) {
   return (held.testFlag(Qt::ShiftModifier) ? shiftKey : 0) |
          (held.testFlag(Qt::ControlModifier) ? ctrlKey : 0) |
          (held.testFlag(Qt::AltModifier) ? altKey : 0);
+}
+
+bool isOfScreenReader(const QKeyEvent& key) {
+  if (!QAccessible::isActive()) return false;
+  return key.key() == Qt::Key_Control || key.key() == Qt::Key_CapsLock ||
+         (key.key() == Qt::Key_Insert && shiftOf(key) == 0);
 }
 
 }  // namespace karvenis
