@@ -84,6 +84,8 @@ class Screen:
             "XDG_RUNTIME_DIR": runtime,
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "NO_AT_BRIDGE": "1",  # the window manager's own dialogs stay off the bus
+            # The bridge to that bus writes a warning where a window that is asked has just gone.
+            "QT_LOGGING_RULES": "qt.accessibility.atspi.warning=false",
             "PULSE_SERVER": "unix:" + os.path.join(runtime, "silence"),  # so that none is started
         }
         self._open_display(size)

@@ -9,9 +9,9 @@ import html
 import os
 import re
 import socketserver
-import subprocess
 import threading
 
+from locales import compiled
 from screen import Screen, wait_for
 
 LANGUAGE = "tr_TR.UTF-8"
@@ -77,19 +77,11 @@ class SpeakingScreen(Screen):
         super()._open(size)
         del self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]  # Orca itself asks to be served
         self.voice = Voice(os.path.join(self.home, "voice"))
-        self.environment |= {"LANG": LANGUAGE, "LOCPATH": self._turkish(),
+        self.environment |= {"LANG": LANGUAGE, "LOCPATH": compiled(os.path.join(self.home, "locale"), LANGUAGE),
                              "GSETTINGS_BACKEND": "memory",
                              "SPEECHD_ADDRESS": f"unix_socket:{self.voice.server_address}"}
         self._start(["orca", "--disable", "key-echo"])
         wait_for(lambda: "Ekran okuyucusu açık." in self.voice.lines, "Orca to say that it is on")
-
-    def _turkish(self):
-        """A folder with the Turkish locale, which a system need not have."""
-        folder = os.path.join(self.home, "locale")
-        os.mkdir(folder)
-        subprocess.run(["localedef", "-i", "tr_TR", "-f", "UTF-8", os.path.join(folder, LANGUAGE)],
-                       check=True)
-        return folder
 
     def close(self):
         super().close()

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bitset>
 
 #include "bag/Texts.h"
@@ -167,8 +168,7 @@ TEST_P(LoadBagInWindow, TakesAndShowsTheFile) {
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   Set sorted = GetParam().bag;
   std::ranges::sort(sorted);
-  const auto repeats = std::ranges::unique(sorted);
-  sorted.erase(repeats.begin(), repeats.end());
+  sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
   EXPECT_EQ(buttons.marked(), sorted);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
 }
