@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "QuietWorld.h"
+#include "BenchWorld.h"
 #include "main/frmLoto.h"
 #include "platform/qt/Bell.h"
 #include "platform/qt/Forms.h"
@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   applyLook();
-  QuietWorld world;
+  BenchWorld world;
   Forms forms(world.boxes);
   Surroundings around{world.state, world.boxes,   world.clock, world.chance,
                       world.files, world.printer, forms};

@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "QuietWorld.h"
+#include "BenchWorld.h"
 #include "comblist/Filters.h"
 #include "comblist/GeneratorDraw.h"
 #include "core/ColumnFile.h"
@@ -18,7 +18,7 @@ namespace {
 
 using namespace karvenis;
 
-void makeList(QuietWorld& world, std::int32_t count) {
+void makeList(BenchWorld& world, std::int32_t count) {
   std::filesystem::remove(combinationList);
   ColumnFile list(world.state, world.files, combinationList);
   GeneratorDraw random(world.state);
@@ -50,7 +50,8 @@ constexpr Run runs[] = {{"F5 7,13", Filter::FilterUnwantedNumbers, "7,13"},
 
 int main(int argc, char** argv) {
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 5;
-  QuietWorld world;
+  BenchWorld world;
+  ListPage page;
   for (const auto& [name, filter, typed] : runs) {
     world.boxes.typed = typed;
     double smallest = 0;
@@ -58,7 +59,7 @@ int main(int argc, char** argv) {
       std::vector<double> seconds;
       for (int round = 0; round < rounds; ++round) {
         makeList(world, count);
-        seconds.push_back(secondsOf([&] { filterList(filter, world.around, world.title); }));
+        seconds.push_back(secondsOf([&] { filterList(filter, world.around, page, world.title); }));
       }
       const double perRecord = median(seconds) / count;
       if (smallest == 0) smallest = perRecord;

@@ -13,7 +13,7 @@
 #include <numeric>
 #include <random>
 
-#include "QuietWorld.h"
+#include "BenchWorld.h"
 #include "comblist/Generator.h"
 
 namespace {
@@ -22,7 +22,7 @@ using namespace karvenis;
 
 constexpr int columns = 32767;
 
-void generate(QuietWorld& world) {
+void generate(BenchWorld& world) {
   Generator list(world.around, world.title);
   list.start(Generator::Mode::newList, std::to_string(columns));
 }
@@ -84,7 +84,7 @@ void report(const char* what, double seconds, double ours) {
 
 int main(int argc, char** argv) {
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 21;
-  QuietWorld world;
+  BenchWorld world;
   std::mt19937 random(649);
   std::vector<double> ours;
   std::vector<double> least;

@@ -13,7 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "QuietWorld.h"
+#include "BenchWorld.h"
 #include "listing/frmRLPrint.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
@@ -119,7 +119,7 @@ void report(const char* what, double seconds, const char* least, double leastSec
 }
 
 /// A page turn in the window: the key, the file and the painting.
-double pageTurn(QuietWorld& world, int count, int rounds) {
+double pageTurn(BenchWorld& world, int count, int rounds) {
   makeList(randomColumns, count);
   Forms forms(world.boxes);
   Surroundings around{world.state, world.boxes,   world.clock, world.chance,
@@ -139,7 +139,7 @@ double pageTurn(QuietWorld& world, int count, int rounds) {
 }
 
 /// The dialog's whole action: the click, the text file, its title and its boxes.
-double windowText(QuietWorld& world, int rounds) {
+double windowText(BenchWorld& world, int rounds) {
   Forms forms(world.boxes);
   Surroundings around{world.state, world.boxes,   world.clock, world.chance,
                       world.files, world.printer, forms};
@@ -158,7 +158,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   applyLook();
-  QuietWorld world;
+  BenchWorld world;
 
   report("page turn, 3 000 000 columns", pageTurn(world, 3'000'000, rounds));
   report("page turn, 32767 columns", pageTurn(world, columns, rounds));
@@ -178,11 +178,11 @@ int main(int argc, char** argv) {
   const auto oneColumn = [] { makeList(combinationList, 1); };
   const auto fullList = [] { makeList(combinationList, columns); };
   ListPage page;
-  const auto append = [&] { AppendToCombinationList(world.around, page); };
+  const auto append = [&] { appendToCombinationList(world.around, page); };
   report("append to no list", medianOf(rounds, noList, append), "the copy", copy);
   report("append to one column", medianOf(rounds, oneColumn, append), "the copy", copy);
   report("append to 32767 columns", medianOf(rounds, fullList, append), "the copy", copy);
-  report("copy to no list", medianOf(rounds, noList, [&] { SaveAsCombinationList(world.around); }),
+  report("copy to no list", medianOf(rounds, noList, [&] { saveAsCombinationList(world.around); }),
          "the copy", copy);
   const auto freshColumns = [] { makeList(randomColumns, columns); };
   report("deletion of one column",

@@ -1,8 +1,7 @@
 #include "comblist/CombinationList.h"
 
-#include "comblist/ListDeletion.h"
-#include "core/ColumnFile.h"
 #include "core/Numbers.h"
+#include "core/ReplaceList.h"
 
 namespace karvenis {
 namespace {
@@ -57,12 +56,12 @@ bool findList(Surroundings& around) {
   return false;
 }
 
-void OpenListing(Surroundings& around) {
+void openListing(Surroundings& around) {
   around.boxes.beep();
   if (holdsColumns(around.files, combinationList)) around.windows.show("frmCLPrint");
 }
 
-bool CopyToRandomColumns(Surroundings& around) {
+bool copyToRandomColumns(Surroundings& around) {
   around.boxes.beep();
   if (!holdsColumns(around.files, combinationList)) return true;
   if (!mayReplaceRandomColumns(around)) return false;
@@ -81,11 +80,13 @@ void DeleteColumn(Surroundings& around, ListPage& page) {
   if (number < 1) return;
   const std::int32_t count = columnCount(files, combinationList);
   if (number > count) return;
-  deleteListColumn(around.state, files, number, count);
+  backUpList(files);
+  removeColumn(around.state, files, {combinationList, ylsScratch, ScratchStart::leftOver}, number,
+               count);
   page.PageStart = number - 1;
 }
 
-void DeleteList(Surroundings& around) {
+void deleteList(Surroundings& around) {
   around.boxes.beep();
   if (!around.files.exists(combinationList)) return;
   if (!around.boxes.ask("'KARVENIS.LST' dosyasını silmek istiyormusunuz ?")) return;
@@ -94,7 +95,7 @@ void DeleteList(Surroundings& around) {
   around.boxes.message("'KARVENIS.LST' silindi...");
 }
 
-void ShowListKeys(Boxes& boxes) {
+void showListKeys(Boxes& boxes) {
   boxes.beep();
   boxes.message(keys, " Kombinasyon Listesi FONKSİYON TUŞLARI");
 }

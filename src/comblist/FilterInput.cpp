@@ -24,7 +24,7 @@ std::string joined(const FilterMarks& marks, const char* separator) {
 std::string joinedPairs(const FilterMarks& marks) {
   std::string list;
   for (std::int16_t a = 1; a < ballsInAll; ++a) {
-    for (auto b = static_cast<std::int16_t>(a + 1); b <= ballsInAll; ++b) {
+    for (std::int16_t b = a; ++b <= ballsInAll;) {
       if (!marks.hasPair(a, b)) continue;
       if (!list.empty()) list += ", ";
       list += std::to_string(a) + "-" + std::to_string(b);
@@ -33,8 +33,8 @@ std::string joinedPairs(const FilterMarks& marks) {
   return list;
 }
 
-/// Marks the pair that `rest` begins with and moves `rest` behind the comma that follows it. False
-/// where `rest` begins with none; empty where no further pair can follow.
+/// Marks the pair that `rest` begins with and moves `rest` behind the comma that follows it; `rest`
+/// becomes empty if no further pair can follow. Returns false if `rest` begins with no pair.
 bool takePair(std::string_view& rest, FilterMarks& marks) {
   const std::size_t dash = rest.find('-');
   if (rest.size() < shortestPair || dash == std::string_view::npos || dash + 1 == rest.size()) {
@@ -52,15 +52,13 @@ bool takePair(std::string_view& rest, FilterMarks& marks) {
 
 bool FilterMarks::mark(std::int16_t ball) {
   if (!isBall(ball)) return false;
-  Marked[static_cast<std::size_t>(ball)] = set;
+  Marked[ball] = set;
   return true;
 }
 
 bool FilterMarks::markPair(std::int16_t a, std::int16_t b) {
   if (!isBall(a) || !isBall(b)) return false;
-  const auto first = static_cast<std::size_t>(a);
-  const auto second = static_cast<std::size_t>(b);
-  PairMarked[first][second] = PairMarked[second][first] = set;
+  PairMarked[a][b] = PairMarked[b][a] = set;
   return true;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,27 +10,23 @@ namespace karvenis {
 
 /// What the user's input for a filter marks: single numbers, or pairs of numbers.
 struct FilterMarks {
-  static constexpr std::int16_t set = -1;
-  using Table = std::array<std::int16_t, ballsInAll + 1>;
+  static constexpr std::int16_t set = -1;  ///< what stands in a table for what is marked
 
-  Table Marked{};
-  std::array<Table, ballsInAll + 1> PairMarked{};  // symmetric
+  BallTable<std::int16_t> Marked;
+  BallTable<BallTable<std::int16_t>> PairMarked;  ///< symmetric
 
   /// Whether `ball` is marked; what is no ball never is.
-  bool has(std::int16_t ball) const {
-    return isBall(ball) && Marked[static_cast<std::size_t>(ball)] == set;
+  [[nodiscard]] bool has(std::int16_t ball) const { return isBall(ball) && Marked[ball] == set; }
+  [[nodiscard]] bool hasPair(std::int16_t a, std::int16_t b) const {
+    return isBall(a) && isBall(b) && PairMarked[a][b] == set;
   }
-  bool hasPair(std::int16_t a, std::int16_t b) const {
-    return isBall(a) && isBall(b) &&
-           PairMarked[static_cast<std::size_t>(a)][static_cast<std::size_t>(b)] == set;
-  }
-  /// Marks `ball`; false, and nothing marked, where it is no ball.
+  /// Marks `ball`; false, and nothing marked, if it is no ball.
   bool mark(std::int16_t ball);
   bool markPair(std::int16_t a, std::int16_t b);
 };
 
 /// The readers of what was typed. Each marks what it finds and returns the marked numbers as the
-/// question shows them, ascending; nothing where the input asks for nothing.
+/// question shows them, ascending; nothing if the input asks for nothing.
 
 /// "5, 12,30": numbers between commas, shown as "5,12,30". The first one must be a ball, later ones
 /// that are none are passed over, and so is what stands behind a second comma in a row.
@@ -42,7 +37,7 @@ std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks
 std::optional<std::string> readPair(const std::string& InputText, FilterMarks& marks);
 
 /// "3-7,40-12": pairs up to the first that is none, shown as "3-7, 12-40". A pair of one ball with
-/// itself is marked and not shown; nothing where only such pairs were typed.
+/// itself is marked and not shown; nothing if only such pairs were typed.
 std::optional<std::string> readPairs(const std::string& InputText, FilterMarks& marks);
 
 }  // namespace karvenis

@@ -5,46 +5,51 @@
 #include <string>
 
 #include "comblist/FilterInput.h"
-#include "core/CaptionLine.h"
-#include "core/ColumnFile.h"
 #include "core/Numbers.h"
+#include "core/ReplaceList.h"
 
 namespace karvenis {
 namespace {
 
-/// The words that the first pass marks records with.
+/// The words that phase 1 marks records with.
 constexpr std::int32_t keepWord = 417;
 constexpr std::int32_t deleteWord = -1;
 
-bool hasNoneMarked(const FilterMarks& marks, const Column& column) {
-  return std::ranges::none_of(column, [&](std::int16_t ball) { return marks.has(ball); });
+auto countMarked(const FilterMarks& marks, const Column& column) {
+  return std::ranges::count_if(column, [&](std::int16_t ball) { return marks.has(ball); });
+}
+
+// What each filter keeps.
+
+bool noneIsMarked(const FilterMarks& marks, const Column& column) {
+  return countMarked(marks, column) == 0;
 }
 
 /// The third ball is not looked up but compared with the mark itself, so that it never counts.
-bool hasAnyMarked(const FilterMarks& marks, const Column& column) {
+bool anyIsMarked(const FilterMarks& marks, const Column& column) {
   const auto [b1, b2, b3, b4, b5, b6] = column;
   return marks.has(b1) || marks.has(b2) || b3 == FilterMarks::set || marks.has(b4) ||
          marks.has(b5) || marks.has(b6);
 }
 
-bool hasAtMostOneMarked(const FilterMarks& marks, const Column& column) {
-  return std::ranges::count_if(column, [&](std::int16_t ball) { return marks.has(ball); }) <= 1;
+bool atMostOneIsMarked(const FilterMarks& marks, const Column& column) {
+  return countMarked(marks, column) <= 1;
 }
 
-bool hasAnyPair(const FilterMarks& marks, const Column& column) {
-  for (std::size_t i = 0; i < column.size(); ++i) {
-    for (std::size_t j = i + 1; j < column.size(); ++j) {
-      if (marks.hasPair(column[i], column[j])) return true;
+bool anyPairIsMarked(const FilterMarks& marks, const Column& column) {
+  for (auto a = column.begin(); a != column.end(); ++a) {
+    for (auto b = a + 1; b != column.end(); ++b) {
+      if (marks.hasPair(*a, *b)) return true;
     }
   }
   return false;
 }
 
-bool isNotDeleted(std::int32_t Word) { return Word != deleteWord; }
-bool isKept(std::int32_t Word) { return Word == keepWord; }
+/// Which records phase 2 copies.
+enum class Copies { allButDeleted, onlyKept };
 
-enum class OnEmptyList { stop, remove };
-enum class LastStep { copyBack, rename };
+/// What happens to a list that lost its records while the question was open.
+enum class EmptyList { stays, isDeleted };
 
 /// What one filter does in its own way.
 struct Kind {
@@ -53,11 +58,10 @@ struct Kind {
   const char* questionOne;      // follows the quoted list: of one number,
   const char* questionSeveral;  // of several
   bool (*keeps)(const FilterMarks& marks, const Column& column);
-  std::optional<std::int32_t> firstWord;  // every record's before it is judged; none: one write
-  bool (*copies)(std::int32_t Word);
-  const char* secondPass;
-  OnEmptyList onEmptyList;  // where the list lost its records while the question was open
-  LastStep lastStep;
+  std::optional<std::int32_t> firstWord;  // what phase 1 writes before the word that stays
+  Copies copies;
+  const char* phase2;
+  EmptyList emptyList;
 };
 
 constexpr Kind kinds[] = {
@@ -65,48 +69,44 @@ constexpr Kind kinds[] = {
      .read = readNumbers,
      .questionOne = "' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "' numaralı topların yer aldığı kolonları silmek istiyormusunuz?",
-     .keeps = hasNoneMarked,
+     .keeps = noneIsMarked,
      .firstWord = keepWord,
-     .copies = isNotDeleted,
-     .secondPass = " Faz 2 - Kolon :",
-     .onEmptyList = OnEmptyList::stop,
-     .lastStep = LastStep::copyBack},
+     .copies = Copies::allButDeleted,
+     .phase2 = " Faz 2 - Kolon :",
+     .emptyList = EmptyList::stays},
     {.prompt = "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
                "(Herhangi biri olan kolonlar seçilecek.)",
      .read = readNumbers,
      .questionOne = "' numaralı topun yer almadığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "' numaralı topların hiç birinin yer almadığı kolonları silmek "
                         "istiyormusunuz?",
-     .keeps = hasAnyMarked,
+     .keeps = anyIsMarked,
      .firstWord = deleteWord,
-     .copies = isNotDeleted,
-     .secondPass = " FAZ 2 - Kolon :",
-     .onEmptyList = OnEmptyList::stop,
-     .lastStep = LastStep::copyBack},
+     .copies = Copies::allButDeleted,
+     .phase2 = " FAZ 2 - Kolon :",
+     .emptyList = EmptyList::stays},
     {.prompt = "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
      .read = readPair,
      .questionOne = "' numaralı topların (ikisinin de) yer aldığı kolonları silmek "
                     "istiyormusunuz?",
      .questionSeveral = "' numaralı topların (ikisinin de) yer aldığı kolonları silmek "
                         "istiyormusunuz?",
-     .keeps = hasAtMostOneMarked,
+     .keeps = atMostOneIsMarked,
      .firstWord = keepWord,
-     .copies = isNotDeleted,
-     .secondPass = " Faz 2 - Kolon :",
-     .onEmptyList = OnEmptyList::stop,
-     .lastStep = LastStep::rename},
+     .copies = Copies::allButDeleted,
+     .phase2 = " Faz 2 - Kolon :",
+     .emptyList = EmptyList::stays},
     {.prompt = "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin "
                "sayılarının arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak "
                "girin.",
      .read = readPairs,
      .questionOne = "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?",
-     .keeps = hasAnyPair,
+     .keeps = anyPairIsMarked,
      .firstWord = std::nullopt,
-     .copies = isKept,
-     .secondPass = " Faz 2 - Kolon :",
-     .onEmptyList = OnEmptyList::remove,
-     .lastStep = LastStep::copyBack},
+     .copies = Copies::onlyKept,
+     .phase2 = " Faz 2 - Kolon :",
+     .emptyList = EmptyList::isDeleted},
 };
 
 /// The question about `list`; from three characters on it holds two numbers at least.
@@ -114,106 +114,86 @@ std::string questionOf(const Kind& kind, const std::string& list) {
   return "'" + list + (list.size() >= 3 ? kind.questionSeveral : kind.questionOne);
 }
 
-/// The two passes over the list.
-class Rewrite {
- public:
-  Rewrite(const Kind& kind, const FilterMarks& marks, Surroundings& around, TitleBar& title)
-      : kind_(kind), marks_(marks), state_(around.state), files_(around.files), title_(title) {}
+void putWord(ColumnFile& list, std::int64_t number, ColumnRecord record, std::int32_t Word) {
+  record.Word = Word;
+  list.put(number, record);
+}
 
-  /// False where the list turned out to be empty and was left alone.
-  bool run() {
-    files_.copy(combinationList, listBackup);
-    ColumnFile list(state_, files_, combinationList);
-    ListCount = list.count();
-    if (ListCount < 1 && kind_.onEmptyList == OnEmptyList::stop) {
-      list.close();
-      return false;
+std::string progress(const char* phase, std::int64_t count, std::int64_t of) {
+  return phase + withBlank(count) + " [" + withBlank(of) + " ]";
+}
+
+/// Phase 1: marks every record in its word and changes nothing else. Returns how many are kept.
+std::int32_t markRecords(const Kind& kind, const FilterMarks& marks, ColumnFile& list,
+                         TitleBar& title) {
+  const std::int32_t ListCount = list.count();
+  std::int32_t KeepCount = ListCount;
+  for (std::int64_t number = 1; number <= ListCount; ++number) {
+    const ColumnRecord record = list.at(number);
+    const bool kept = kind.keeps(marks, record.Balls);
+    const std::int32_t Word = kept ? keepWord : deleteWord;
+    if (kind.firstWord) putWord(list, number, record, *kind.firstWord);
+    if (kind.firstWord != Word) putWord(list, number, record, Word);
+    if (!kept) KeepCount -= 1;
+    title.setCaption(progress(" FAZ 1 - Kolon :", KeepCount, number));
+  }
+  return KeepCount;
+}
+
+/// Phase 2: copies the kept ones among the marked records.
+void copyKept(const Kind& kind, std::int32_t KeepCount, ColumnFile& list, ColumnFile& TmpFileNo,
+              TitleBar& title) {
+  const std::int32_t ListCount = list.count();
+  std::int32_t WrittenCount = 0;
+  for (std::int64_t number = 1; number <= ListCount; ++number) {
+    const ColumnRecord record = list.at(number);
+    const bool copied =
+        kind.copies == Copies::onlyKept ? record.Word == keepWord : record.Word != deleteWord;
+    if (copied) {
+      WrittenCount += 1;
+      TmpFileNo.put(WrittenCount, record);
     }
-    markRecords(list);
-    if (KeepCount < 1) {
-      list.close();
-      files_.remove(combinationList);
-    } else {
-      copyKept(list);
-      replaceList();
-    }
-    title_.setCaption(listTitle);
+    title.setCaption(progress(kind.phase2, WrittenCount, KeepCount));
+  }
+}
+
+/// Both phases. Returns false if the list turned out to be empty and was left alone.
+bool thinOut(const Kind& kind, const FilterMarks& marks, Surroundings& around, TitleBar& title) {
+  Files& files = around.files;
+  backUpList(files);
+  ColumnFile list(around.state, files, combinationList);
+  if (list.count() < 1 && kind.emptyList == EmptyList::stays) {
+    list.close();
+    return false;
+  }
+  const std::int32_t KeepCount = markRecords(kind, marks, list, title);
+  if (KeepCount < 1) {
+    list.close();
+    files.remove(combinationList);
     return true;
   }
-
- private:
-  void markRecords(ColumnFile& list) {
-    KeepCount = ListCount;
-    for (std::int64_t number = 1; number <= ListCount; ++number) {
-      ColumnRecord record = list.at(number);
-      if (kind_.firstWord) {
-        record.Word = *kind_.firstWord;
-        list.put(number, record);
-      }
-      const bool kept = kind_.keeps(marks_, record.Balls);
-      const std::int32_t Word = kept ? keepWord : deleteWord;
-      if (kind_.firstWord != Word) {
-        record.Word = Word;
-        list.put(number, record);
-      }
-      if (!kept) KeepCount -= 1;
-      show(" FAZ 1 - Kolon :", KeepCount, number);
-    }
-  }
-
-  void copyKept(ColumnFile& list) {
-    startScratch(files_, tmpScratch);
-    ColumnFile TmpFileNo(state_, files_, tmpScratch);
-    std::int32_t WrittenCount = 0;
-    for (std::int64_t number = 1; number <= ListCount; ++number) {
-      const ColumnRecord record = list.at(number);
-      if (kind_.copies(record.Word)) {
-        WrittenCount += 1;
-        TmpFileNo.put(WrittenCount, record);
-      }
-      show(kind_.secondPass, WrittenCount, KeepCount);
-    }
+  const ListAndScratch names{combinationList, tmpScratch, ScratchStart::empty};
+  replaceList(around.state, files, names, [&](ColumnFile& TmpFileNo) {
+    copyKept(kind, KeepCount, list, TmpFileNo, title);
     list.close();
-    TmpFileNo.close();
-  }
-
-  /// Both ways leave the list with its old or its new bytes at every moment.
-  void replaceList() {
-    if (kind_.lastStep == LastStep::rename) {
-      files_.rename(tmpScratch, combinationList);
-      return;
-    }
-    files_.copy(tmpScratch, combinationList);
-    files_.remove(tmpScratch);
-  }
-
-  void show(const char* pass, std::int64_t first, std::int64_t second) {
-    caption_.start(pass).addWithBlank(first).add(" [").addWithBlank(second).add(" ]");
-    title_.setCaption(caption_.text());
-  }
-
-  const Kind& kind_;
-  const FilterMarks& marks_;
-  SharedState& state_;
-  Files& files_;
-  TitleBar& title_;
-  CaptionLine caption_;
-  std::int32_t ListCount = 0;  // records in the list
-  std::int32_t KeepCount = 0;  // columns still kept
-};
+  });
+  return true;
+}
 
 }  // namespace
 
-bool filterList(Filter filter, Surroundings& around, TitleBar& title) {
+bool filterList(Filter filter, Surroundings& around, ListPage& page, TitleBar& title) {
+  around.boxes.beep();
+  if (columnCountOrNone(around.files, combinationList) < 1) return false;
   const Kind& kind = kinds[static_cast<std::size_t>(filter)];
-  if (!around.files.exists(combinationList)) return false;
-  if (columnCount(around.files, combinationList) < 1) return false;
   const std::string InputText = around.boxes.input(kind.prompt, "Kolon SİLME", "");
   FilterMarks marks;
   const std::optional<std::string> shown = kind.read(InputText, marks);
-  if (!shown) return false;
-  if (!around.boxes.ask(questionOf(kind, *shown))) return false;
-  return Rewrite(kind, marks, around, title).run();
+  if (!shown || !around.boxes.ask(questionOf(kind, *shown))) return false;
+  if (!thinOut(kind, marks, around, title)) return false;
+  title.setCaption(listTitle);
+  page.PageStart = 1;
+  return true;
 }
 
 }  // namespace karvenis

@@ -2,12 +2,13 @@
 
 #include <cstdint>
 
+#include "core/ListPage.h"
 #include "core/Surroundings.h"
 #include "platform/TitleBar.h"
 
 namespace karvenis {
 
-/// The list window's title where no page is shown.
+/// The list window's title while it shows no page.
 inline constexpr char listTitle[] = " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]";
 
 /// The four filters of the combination list, F5 to F8.
@@ -18,11 +19,12 @@ enum class Filter : std::uint8_t {
   FilterWantedPairs,      ///< deletes the columns that hold none of some pairs
 };
 
-/// Asks for the numbers, asks whether to go on, and thins out the list in two passes: the first
-/// marks each record in its word (417 to keep, -1 to delete), the second copies the kept ones. The
-/// list as it was goes to its backup first; a list of which nothing is kept is deleted. `title`
-/// shows the progress, then the list's title again. Returns false where the list was left as it
-/// was. Throws RunTimeError; the backup then holds the list as it was.
-bool filterList(Filter filter, Surroundings& around, TitleBar& title);
+/// Beeps, asks for the numbers, asks whether to go on, and thins out the list in two phases: the
+/// first marks each record in its word (417 to keep, -1 to delete), the second copies the kept
+/// ones. The list as it was goes to its backup first; a list of which nothing is kept is deleted.
+/// `title` shows the progress, then the list's title; `page` then starts at the second column.
+/// Returns false if the list was left as it was. Throws RunTimeError; once phase 1 has begun, the
+/// backup holds the list as it was.
+bool filterList(Filter filter, Surroundings& around, ListPage& page, TitleBar& title);
 
 }  // namespace karvenis

@@ -1,8 +1,8 @@
 #include "comblist/Generator.h"
 
 #include "core/Checked.h"
-#include "core/ColumnFile.h"
 #include "core/Numbers.h"
+#include "core/ReplaceList.h"
 
 namespace karvenis {
 namespace {
@@ -10,6 +10,9 @@ namespace {
 /// A count below this one, left in the box, is taken for a slip when a first list is to be made.
 constexpr std::int32_t leastSensibleCount = 8;
 constexpr char attentionTitle[] = "! DİKKAT !";
+
+/// A new list is written over a copy of the old one too, whose last records may stay.
+constexpr ListAndScratch listAndScratch{combinationList, tmpScratch, ScratchStart::copyOfList};
 
 }  // namespace
 
@@ -37,7 +40,7 @@ Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   return Outcome::done;
 }
 
-/// Whether the wanted count cannot be; the user has heard it then.
+/// Refuses a wanted count that cannot be, with a box or a beep; returns whether it did.
 bool Generator::refuses(Mode mode) {
   if (mode == Mode::newList) {
     if (WantedCount >= 1 && WantedCount <= recordLimit) return false;
@@ -62,50 +65,41 @@ bool Generator::mayReplaceList() {
 
 /// Writes records 1..WantedCount. Records of a longer old list stay behind them.
 void Generator::GenerateNewList(GeneratorDraw& draw) {
-  backUpList(around_.files);
-  ColumnFile list = open();
-  RecordNo = 0;
-  do {
-    const std::int64_t number = std::int64_t{RecordNo} + 1;
-    title_.setCaption(caption_.start("KOLON=").addWithBlank(number).text());
-    write(list, number, draw.draw(around_.chance));
-  } while (RecordNo < WantedCount);
-  finish(list, RecordNo, " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+  backUpAnyList(around_.files);
+  replaceList(around_.state, around_.files, listAndScratch, [&](ColumnFile& list) {
+    RecordNo = 0;
+    do {
+      title_.setCaption("KOLON=" + withBlank(RecordNo + 1));
+      writeNext(list, draw.draw(around_.chance));
+    } while (RecordNo < WantedCount);
+  });
+  finish(savedInList(RecordNo));
 }
 
 /// Writes WantedCount records behind those that the list has by now.
 void Generator::AppendToList(GeneratorDraw& draw) {
-  ColumnFile list = open();
-  const std::int32_t Start = list.count();
-  RecordNo = checked<std::int16_t>(Start);
-  do {
-    const std::int64_t number = std::int64_t{RecordNo} + 1;
-    caption_.start("KOLON=").addWithBlank(number);
-    caption_.add("  [").add(number - Start).add("]");
-    title_.setCaption(caption_.text());
-    write(list, number, draw.draw(around_.chance));
-  } while (RecordNo < std::int64_t{Start} + WantedCount);
-  finish(list, RecordNo - Start, " kolon 'KARVENIS.LST' dosyasına eklendi.");
+  std::int16_t Start = 0;
+  replaceList(around_.state, around_.files, listAndScratch, [&](ColumnFile& list) {
+    RecordNo = Start = checked<std::int16_t>(list.count());
+    do {
+      title_.setCaption("KOLON=" + withBlank(RecordNo + 1) + "  [" +
+                        std::to_string(RecordNo - Start + 1) + "]");
+      writeNext(list, draw.draw(around_.chance));
+    } while (RecordNo < Start + WantedCount);
+  });
+  finish(withBlank(RecordNo - Start) + " kolon 'KARVENIS.LST' dosyasına eklendi.");
 }
 
-/// The columns are written to a copy of the list, which takes the list's place when it is whole, so
-/// that the list holds its old or its new bytes whatever happens.
-ColumnFile Generator::open() {
-  copyListTo(around_.files, tmpScratch);
-  return {around_.state, around_.files, tmpScratch};
-}
-
-/// Writes `drawn` as record `number`, which is also its word.
-void Generator::write(ColumnFile& list, std::int64_t number, const Column& drawn) {
-  RecordNo = checked<std::int16_t>(number);
+/// Writes `drawn` as the next record, whose word is its own number. Throws RunTimeError(overflow)
+/// beyond the 16 bits of RecordNo.
+void Generator::writeNext(ColumnFile& list, const Column& drawn) {
+  RecordNo = checked<std::int16_t>(RecordNo + 1);
   list.put(RecordNo, {.Word = RecordNo, .Balls = drawn});
 }
 
-void Generator::finish(ColumnFile& list, std::int32_t written, const char* words) {
-  list.close();
-  around_.files.rename(tmpScratch, combinationList);
+void Generator::finish(const std::string& told) {
   around_.boxes.beep();
-  around_.boxes.message(withBlank(written) + words);
+  around_.boxes.message(told);
   title_.setCaption(generatorTitle);
 }
 

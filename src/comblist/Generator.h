@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "comblist/GeneratorDraw.h"
-#include "core/CaptionLine.h"
 #include "core/ColumnFile.h"
 #include "core/Surroundings.h"
 #include "platform/TitleBar.h"
@@ -20,24 +19,27 @@ class Generator {
  public:
   enum class Mode { newList, append };
   enum class Outcome {
-    done,     ///< the columns are on disk and the user has been told
+    done,     ///< the columns are on disk, and a box said so
     refused,  ///< the count cannot be; the user is to type another one
-    kept,     ///< the user keeps the list he has
+    kept,     ///< the user does not want the list replaced
   };
 
-  /// `title` is the generator's window, which shows the number of the column being written. Counts
-  /// the existing list.
+  /// `title` belongs to the generator's window and shows the number of the column being written.
+  /// Counts the existing list. Throws RunTimeError(read, overflow).
   Generator(Surroundings& around, TitleBar& title);
 
   /// Whether there is a list that columns can be added to.
-  bool canAppend() const { return ExistingCount >= 1 && ExistingCount < recordLimit; }
+  [[nodiscard]] bool canAppend() const { return ExistingCount >= 1 && ExistingCount < recordLimit; }
   /// What the count box shows when "Mevcut Listeye Ekle" is chosen: the columns that still fit.
-  std::string countForAppend() const { return std::to_string(recordLimit - ExistingCount); }
+  [[nodiscard]] std::string countForAppend() const {
+    return std::to_string(recordLimit - ExistingCount);
+  }
   /// What the count box, which shows `text`, changes to when "Yeni Liste" is chosen.
-  std::string countForNewList(const std::string& text) const;
+  [[nodiscard]] std::string countForNewList(const std::string& text) const;
 
   /// Checks the count that `text` begins with, asks before a list is replaced, and writes the
-  /// columns. Throws RunTimeError; before a new list is opened, the old one is in its backup.
+  /// columns. Before a new list is begun, the old one is in its backup. Throws RunTimeError; the
+  /// list is then as it was.
   Outcome start(Mode mode, std::string_view text);
 
  private:
@@ -45,16 +47,14 @@ class Generator {
   bool mayReplaceList();
   void GenerateNewList(GeneratorDraw& draw);
   void AppendToList(GeneratorDraw& draw);
-  ColumnFile open();
-  void write(ColumnFile& list, std::int64_t number, const Column& drawn);
-  void finish(ColumnFile& list, std::int32_t written, const char* words);
+  void writeNext(ColumnFile& list, const Column& drawn);
+  void finish(const std::string& told);
 
   Surroundings& around_;
   TitleBar& title_;
   std::int32_t ExistingCount;    // records when the window was loaded
   std::int32_t WantedCount = 0;  // columns to write
   std::int16_t RecordNo = 0;     // the record being written
-  CaptionLine caption_;
 };
 
 }  // namespace karvenis

@@ -17,23 +17,23 @@ namespace karvenis {
 /// column then holds a 0, or a ball twice.
 class GeneratorDraw {
  public:
-  /// Takes the balls of the bag (all 49 where it is empty) that are no bankos, and the bankos.
-  /// Numbers outside 1..49 enter no table.
+  /// Takes the balls of the bag (all 49 if it is empty) that are no bankos, and the bankos. Numbers
+  /// outside 1..49 in the bag are left out.
   explicit GeneratorDraw(const SharedState& state);
 
-  /// The next column: every banko and otherwise balls of the pool, ascending. Where numbers are
+  /// The next column: every banko and otherwise balls of the pool, ascending. If numbers are
   /// missing, because they repeat or are no balls, the last positions stay as they were drawn.
   [[nodiscard]] Column draw(Chance& chance);
 
  private:
-  void take(std::int32_t drawn);
+  std::int16_t take(std::int16_t drawn);
   static void sortByPresence(Column& column);
 
+  // Element 0: how many entries can be drawn; stale ones stand behind them.
   using Table = std::array<std::int16_t, ballsInAll + 1>;
 
-  Table full_{};  // the pool that every column starts with
-  // Element 0: how many entries can be drawn. Stale ones stand above them, and room to move from.
-  std::array<std::int16_t, 2 * ballsInAll> Pool{};
+  Table full_{};     // the pool that every column starts with
+  Table Pool{};      // what the current column can still draw
   Column bankos_{};  // in the first positions of every column
   std::size_t bankoCount_ = 0;
 };

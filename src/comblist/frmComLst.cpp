@@ -49,17 +49,17 @@ void frmComLst::Form_KeyDown(int KeyCode, int Shift) {
 bool frmComLst::runCommand(int KeyCode, int Shift) {
   switch (KeyCode) {
     case keyF1:
-      OpenListing(around_);
+      openListing(around_);
       return true;
     case keyF2:
-      return CopyToRandomColumns(around_);
+      return copyToRandomColumns(around_);
     case keyF3:
       DeleteColumn(around_, page_);
       forms().dropInput();
       return true;
     case keyF4:
       // With Alt it is the window system's own key for closing.
-      if ((Shift & altKey) == 0) DeleteList(around_);
+      if ((Shift & altKey) == 0) deleteList(around_);
       return true;
     case keyF5:
     case keyF6:
@@ -68,7 +68,7 @@ bool frmComLst::runCommand(int KeyCode, int Shift) {
       runFilter(static_cast<Filter>(KeyCode - keyF5));
       return true;
     case keyF10:
-      ShowListKeys(around_.boxes);
+      showListKeys(around_.boxes);
       return true;
     case keyF11:
     case keyF12:
@@ -80,12 +80,8 @@ bool frmComLst::runCommand(int KeyCode, int Shift) {
   }
 }
 
-/// The page then starts at the list's second column.
 void frmComLst::runFilter(Filter filter) {
-  around_.boxes.beep();
-  if (!filterList(filter, around_, *this)) return;
-  page_.PageStart = 1;
-  forms().dropInput();
+  if (filterList(filter, around_, page_, *this)) forms().dropInput();
 }
 
 void frmComLst::redraw() { ShowPage(around_, page_, *surface_, *this); }

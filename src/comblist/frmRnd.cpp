@@ -99,7 +99,7 @@ void frmRnd::Form_KeyDown(int KeyCode, int) {
       return Command1_Click();
     case keyF10:
       boxes_.beep();
-      return boxes_.message("F1= Oluştur\r\rESC= İptal/Kapat", " FONKSİYON TUŞLARI");
+      return boxes_.message("F1= Oluştur\r\rESC= İptal/Kapat", functionKeysTitle);
     default:
       return;
   }

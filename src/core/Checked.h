@@ -1,17 +1,17 @@
 #pragma once
 
-#include <cstdint>
-#include <limits>
+#include <concepts>
 #include <string>
+#include <utility>
 
 #include "platform/RunTimeError.h"
 
 namespace karvenis {
 
-/// `number` as an integer of type Int; throws RunTimeError(overflow) where it does not fit.
-template <typename Int>
-Int checked(std::int64_t number) {
-  if (number < std::numeric_limits<Int>::min() || number > std::numeric_limits<Int>::max()) {
+/// `number` as an integer of type Int. Throws RunTimeError(overflow) if it does not fit.
+template <std::integral Int, std::integral Number>
+[[nodiscard]] Int checked(Number number) {
+  if (!std::in_range<Int>(number)) {
     throw RunTimeError(Fault::overflow, std::to_string(number),
                        std::to_string(sizeof(Int) * 8) + " bite sığmıyor");
   }

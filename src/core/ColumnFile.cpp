@@ -1,8 +1,6 @@
 #include "core/ColumnFile.h"
 
 #include <array>
-#include <memory>
-#include <vector>
 
 namespace karvenis {
 
@@ -37,40 +35,6 @@ std::int32_t columnCountOrNone(Files& files, const std::string& name) {
 
 bool holdsColumns(Files& files, const std::string& name) {
   return lengthOrNone(files, name) >= ColumnRecord::size;
-}
-
-void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from,
-                        ColumnFile& to) {
-  std::int64_t next = 1;
-  for (std::int64_t number = 1; number <= count; ++number) {
-    if (number == leftOut) continue;
-    to.put(next, from.at(number));
-    ++next;
-  }
-}
-
-void startScratch(Files& files, const std::string& scratch) {
-  if (files.exists(scratch)) files.discard(scratch);
-  files.open(scratch)->close();
-}
-
-void copyListTo(Files& files, const std::string& scratch) {
-  startScratch(files, scratch);
-  if (!files.exists(combinationList)) return;
-  const std::unique_ptr<File> from = files.open(combinationList);
-  const std::unique_ptr<File> to = files.open(scratch);
-  std::vector<std::byte> block(std::size_t{1} << 16);
-  std::uint64_t offset = 0;
-  while (const std::size_t got = from->read(offset, block)) {
-    to->write(offset, std::span(block).first(got));
-    offset += got;
-  }
-  from->close();
-  to->close();
-}
-
-void backUpList(Files& files) {
-  if (files.exists(combinationList)) files.copy(combinationList, listBackup);
 }
 
 }  // namespace karvenis

@@ -13,12 +13,11 @@ inline constexpr char randomColumns[] = "KARVENIS.RND";    ///< the columns the 
 inline constexpr char combinationList[] = "KARVENIS.LST";  ///< the combination list
 inline constexpr char listBackup[] = "KARVENIS.OLD";  ///< the combination list before its change
 
-/// Their scratch files; each exists only while a command works on a list and takes its place then.
+/// Their scratch files. Each exists only while a command writes a new list, and then takes the old
+/// list's place.
 inline constexpr char tmpScratch[] = "KARVENIS.TMP";  ///< of the generator and the filters
 inline constexpr char yndScratch[] = "KARVENIS.YND";  ///< of the kept columns' append and deletion
-/// Of the combination list's deletion. One that an interrupted run left behind is written over and
-/// not cut off first.
-inline constexpr char ylsScratch[] = "KARVENIS.YLS";
+inline constexpr char ylsScratch[] = "KARVENIS.YLS";  ///< of the combination list's deletion
 
 /// An open column file: records are read and written as values, each by way of the one record
 /// buffer of the shared state. Takes the next file number while it lives.
@@ -58,21 +57,5 @@ class ColumnFile {
 
 /// Whether `name` exists and is at least one record (16 bytes) long. Throws RunTimeError(read).
 [[nodiscard]] bool holdsColumns(Files& files, const std::string& name);
-
-/// Copies the records 1..`count` of `from`, without record `leftOut`, to the records 1, 2, ... of
-/// `to`, words included. Neither is closed.
-void copyColumnsWithout(std::int32_t leftOut, std::int32_t count, ColumnFile& from, ColumnFile& to);
-
-/// Starts an empty scratch file; what an interrupted run left in it is gone then. Neither it nor
-/// its name is waited for on disk: both are when it takes its target's place.
-/// Throws RunTimeError(remove, open).
-void startScratch(Files& files, const std::string& scratch);
-
-/// Starts a scratch file as a copy of the combination list; where there is no list, as an empty
-/// one. Throws RunTimeError.
-void copyListTo(Files& files, const std::string& scratch);
-
-/// Copies the combination list, where there is one, over its backup. Throws RunTimeError(copy).
-void backUpList(Files& files);
 
 }  // namespace karvenis

@@ -4,8 +4,8 @@
 
 namespace karvenis {
 
-/// Runs one step of a command that goes on with its next step where this one fails. Returns whether
-/// it succeeded.
+/// Runs one step of a command that goes on with its next step if this one fails. Returns whether it
+/// succeeded. Only a RunTimeError is ignored; anything else passes.
 template <typename Step>
 bool ignoringFaults(Step step) {
   try {

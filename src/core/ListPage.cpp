@@ -13,11 +13,11 @@ namespace {
 constexpr double ballPitch = 400;   // twips, as all measures here
 constexpr double sumOffset = 2500;  // from the first ball
 
-/// Where a full last page starts; 0 where the list has less than a page.
+/// The start of a full last page; 0 if the list has less than a page.
 std::int32_t lastPageStart(std::int32_t count) { return std::max(count - rowsOnPage, 0); }
 
-/// Prints the label of record `number`; returns where the first ball stands. Short labels share one
-/// ball column, longer ones push it to the right.
+/// Prints the label of record `number` and returns the place of the first ball, in twips. Short
+/// labels share one ball column, longer ones push it to the right.
 double printLabel(TextSurface& surface, std::int64_t number) {
   surface.currentX(pageMargin);
   surface.foreColor(QBColor::lightRed);
@@ -84,7 +84,7 @@ void ListPage::fit(std::int32_t count) {
   PageStart = std::max(PageStart, 0);
   PageRows = std::min(RecordCount - PageStart, rowsOnPage);
   const std::int64_t lastShown = std::int64_t{PageStart} + PageRows;
-  PageNo = static_cast<std::int32_t>((lastShown + rowsOnPage - 1) / rowsOnPage);
+  PageNo = checked<std::int32_t>((lastShown + rowsOnPage - 1) / rowsOnPage);
 }
 
 std::string pageTitle(const std::string& list, std::int32_t PageNo) {

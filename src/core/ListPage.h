@@ -16,7 +16,7 @@ inline constexpr double titleEdge = 7600;
 inline constexpr double pageMargin = 200;
 
 /// Which part of a column list a list window shows. A page may start at any record; the last page
-/// is always a full one where the list has that many columns.
+/// is always a full one if the list has that many columns.
 struct ListPage {
   std::int32_t PageStart = 0;    ///< records before the first one shown
   std::int32_t RecordCount = 0;  ///< records of the list at the last redraw
@@ -33,7 +33,7 @@ struct ListPage {
 };
 
 /// The title of a list window that shows page `PageNo` of `list`.
-std::string pageTitle(const std::string& list, std::int32_t PageNo);
+[[nodiscard]] std::string pageTitle(const std::string& list, std::int32_t PageNo);
 
 /// Clears the surface and prints the page's rows on it: a record's number in light red, then its
 /// balls and their sum in light blue. `page` fits `file`. Throws RunTimeError(read), and (overflow)
@@ -41,6 +41,6 @@ std::string pageTitle(const std::string& list, std::int32_t PageNo);
 void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface);
 
 /// The right edge, in twips, of the widest row that any record can give on `surface`; clears it.
-double widestRow(TextSurface& surface);
+[[nodiscard]] double widestRow(TextSurface& surface);
 
 }  // namespace karvenis

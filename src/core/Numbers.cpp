@@ -21,11 +21,6 @@ Int roundedInto(double number) {
 
 }  // namespace
 
-std::string withBlank(std::int64_t number) {
-  if (number < 0) return std::to_string(number);
-  return " " + std::to_string(number);
-}
-
 std::string padded(std::int64_t number, std::size_t digits) {
   std::string text = std::to_string(number);
   text.insert(0, digits - std::min(digits, text.size()), '0');

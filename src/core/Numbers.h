@@ -1,27 +1,32 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace karvenis {
 
 /// `number` as it stands in messages and titles: with a leading blank in the place of its sign.
-std::string withBlank(std::int64_t number);
+template <std::integral Number>
+[[nodiscard]] std::string withBlank(Number number) {
+  return (std::cmp_less(number, 0) ? "" : " ") + std::to_string(number);
+}
 
 /// `number` without blanks, padded on the left with "0" to at least `digits` characters.
-std::string padded(std::int64_t number, std::size_t digits);
+[[nodiscard]] std::string padded(std::int64_t number, std::size_t digits);
 
-/// The number that `text` begins with, whatever follows it; 0 where it begins with none. Blanks are
+/// The number that `text` begins with, whatever follows it; 0 if it begins with none. Blanks are
 /// skipped, also between digits ("1 2" is 12); one sign and one decimal point are understood. ASCII
 /// digits only, whatever the system's language.
-double leadingNumber(std::string_view text);
+[[nodiscard]] double leadingNumber(std::string_view text);
 
 /// leadingNumber rounded to a 32-bit integer, halves to even; a number too large for 32 bits
 /// becomes the nearest one that fits, which is out of range wherever the program asks for a range.
-std::int32_t typedNumber32(std::string_view text);
+[[nodiscard]] std::int32_t typedNumber32(std::string_view text);
 
 /// The same for 16 bits.
-std::int16_t typedNumber16(std::string_view text);
+[[nodiscard]] std::int16_t typedNumber16(std::string_view text);
 
 }  // namespace karvenis

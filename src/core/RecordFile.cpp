@@ -1,6 +1,7 @@
 #include "core/RecordFile.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "core/Checked.h"
 
@@ -10,7 +11,7 @@ std::int32_t recordCount(std::uint64_t bytes, std::size_t recordLength) {
   const std::uint64_t whole = bytes / recordLength;
   const std::uint64_t twiceRest = 2 * (bytes % recordLength);
   const bool up = twiceRest > recordLength || (twiceRest == recordLength && whole % 2 == 1);
-  return checked<std::int32_t>(static_cast<std::int64_t>(whole + (up ? 1 : 0)));
+  return checked<std::int32_t>(whole + (up ? 1 : 0));
 }
 
 RecordFile::RecordFile(Files& files, const std::string& name, std::size_t recordLength)
@@ -22,21 +23,21 @@ RecordFile::~RecordFile() {
   try {
     close();
   } catch (const RunTimeError&) {
-    // Reached only while another fault is on its way to the user.
+    // Happens only while another fault is on its way to the user.
   }
 }
 
 void RecordFile::read(std::int64_t number, std::span<std::byte> record) {
-  std::ranges::copy(inBlock(number), record.begin());
+  const std::size_t place = placeInBlock(number);
+  std::ranges::copy(std::span(block_).subspan(place, recordLength_), record.begin());
 }
 
 void RecordFile::write(std::int64_t number, std::span<const std::byte> record) {
-  const std::span<std::byte> place = inBlock(number);
-  std::ranges::copy(record, place.begin());
-  const auto from = static_cast<std::size_t>(place.data() - block_.data());
-  dirtyFrom_ = dirtyTo_ == 0 ? from : std::min(dirtyFrom_, from);
-  dirtyTo_ = std::max(dirtyTo_, from + recordLength_);
-  length_ = std::max(length_, blockStart_ + from + recordLength_);
+  const std::size_t place = placeInBlock(number);
+  std::ranges::copy(record, std::span(block_).subspan(place, recordLength_).begin());
+  dirtyFrom_ = dirtyTo_ == 0 ? place : std::min(dirtyFrom_, place);
+  dirtyTo_ = std::max(dirtyTo_, place + recordLength_);
+  length_ = std::max(length_, blockStart_ + place + recordLength_);
 }
 
 void RecordFile::close() {
@@ -48,8 +49,8 @@ void RecordFile::close() {
   closing->close();
 }
 
-/// The bytes of record `number` inside the block, which is moved there when it lies elsewhere.
-std::span<std::byte> RecordFile::inBlock(std::int64_t number) {
+/// The place of record `number` in the block; the block is moved there if it lies elsewhere.
+std::size_t RecordFile::placeInBlock(std::int64_t number) {
   if (number < 1) throw RunTimeError(Fault::read, name_, "kayıt no " + std::to_string(number));
   const std::uint64_t offset = static_cast<std::uint64_t>(number - 1) * recordLength_;
   const std::size_t blockLength = blockSize - blockSize % recordLength_;
@@ -58,18 +59,19 @@ std::span<std::byte> RecordFile::inBlock(std::int64_t number) {
     flush(*file_);
     blockStart_ = start;
     std::vector<std::byte> block(blockLength);
-    block_.clear();  // a read that fails leaves no block
-    file_->read(start, block);
+    block_.clear();                           // a read that fails leaves no block
+    std::ignore = file_->read(start, block);  // what lies past the end stays 0
     block_ = std::move(block);
   }
-  return std::span(block_).subspan(static_cast<std::size_t>(offset - start), recordLength_);
+  return offset - start;
 }
 
 void RecordFile::flush(File& file) {
   if (dirtyTo_ == 0) return;
   const auto dirty = std::span<const std::byte>(block_).subspan(dirtyFrom_, dirtyTo_ - dirtyFrom_);
+  const std::uint64_t offset = blockStart_ + dirtyFrom_;
   dirtyFrom_ = dirtyTo_ = 0;
-  file.write(blockStart_ + static_cast<std::uint64_t>(dirty.data() - block_.data()), dirty);
+  file.write(offset, dirty);
   written_ = true;
 }
 

@@ -13,39 +13,44 @@
 namespace karvenis {
 
 /// Number of records of `recordLength` bytes in `bytes` bytes, rounded to the nearest, halves to
-/// even. Throws RunTimeError(overflow) beyond 32 bits.
-std::int32_t recordCount(std::uint64_t bytes, std::size_t recordLength);
+/// even. Throws RunTimeError(overflow) if it is beyond 32 bits.
+[[nodiscard]] std::int32_t recordCount(std::uint64_t bytes, std::size_t recordLength);
 
 /// A file of fixed-length records, numbered from 1, opened for reading and writing. Bytes past the
 /// end read as 0, and so do gaps. A block around the record last used is kept in memory, so that a
 /// pass over the file costs block transfers and not a system call a record.
 class RecordFile {
  public:
+  /// Opens `name`, and creates it if it is missing. Throws RunTimeError(open, read).
   RecordFile(Files& files, const std::string& name, std::size_t recordLength);
-  /// Closes; a failure goes unheard. Whoever wrote calls close() first.
+  /// Closes; a failure is not reported. After writing, call close() first.
   ~RecordFile();
   RecordFile(const RecordFile&) = delete;
   RecordFile& operator=(const RecordFile&) = delete;
 
   /// Length in bytes, with what has been written and is still in memory.
-  std::uint64_t length() const { return length_; }
-  std::int32_t count() const { return recordCount(length_, recordLength_); }
+  [[nodiscard]] std::uint64_t length() const { return length_; }
+  /// Records in the file, as recordCount() tells.
+  [[nodiscard]] std::int32_t count() const { return recordCount(length_, recordLength_); }
   /// Whether all bytes of record `number` (from 1) are in the file.
-  bool holdsWhole(std::int64_t number) const {
+  [[nodiscard]] bool holdsWhole(std::int64_t number) const {
     return std::cmp_less_equal(number, length_ / recordLength_);
   }
 
-  /// `record` is recordLength bytes. Throws RunTimeError(read), also for a number below 1.
+  /// Reads record `number` (from 1) into `record`, which is recordLength bytes long. The file is
+  /// open. Throws RunTimeError(read), also for a number below 1.
   void read(std::int64_t number, std::span<std::byte> record);
-  /// Throws RunTimeError(write).
+  /// Writes `record`, which is recordLength bytes long, as record `number` (from 1). The file is
+  /// open. Throws RunTimeError(write).
   void write(std::int64_t number, std::span<const std::byte> record);
-  /// Returns with everything written on disk and the file closed. Throws RunTimeError(write).
+  /// Returns when everything written is on disk and the file is closed. Closing twice is harmless.
+  /// Throws RunTimeError(write).
   void close();
 
  private:
   static constexpr std::size_t blockSize = std::size_t{1} << 16;
 
-  std::span<std::byte> inBlock(std::int64_t number);
+  std::size_t placeInBlock(std::int64_t number);
   void flush(File& file);
 
   std::string name_;

@@ -2,28 +2,40 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
-#include "core/Column.h"
+#include "core/ColumnFile.h"
 
 namespace karvenis {
 
 /// The lines of a listed column list, alike on paper and in the text file; none has its line end.
 
-/// Appends the line of record `number`, which is filled up with zeros to `digits` digits:
-/// "Kolon 07 - 03, 11, 17, 25, 38, 45  [139]". Throws RunTimeError(overflow) where the sum of a
+/// The first line.
+inline constexpr char firstLine[] = "< KARVENIS 2005 Randomizer >";
+
+/// Records first..last of a list, both within it.
+struct ListRange {
+  std::int32_t first;
+  std::int32_t last;
+  [[nodiscard]] std::int32_t count() const { return last - first + 1; }
+};
+
+/// The line of record `number`, which is filled up with zeros to `digits` digits:
+/// "Kolon 07 - 03, 11, 17, 25, 38, 45  [139]". Throws RunTimeError(overflow) if the sum of a
 /// damaged record outgrows 16 bits.
-void appendColumnLine(std::string& text, std::int32_t number, std::size_t digits,
-                      const Column& balls);
+[[nodiscard]] std::string columnLine(std::int64_t number, std::size_t digits, const Column& balls);
+
+/// Reads the range of `list` and calls `take` with the line of each record in turn; all numbers
+/// have as many digits as the last. Throws RunTimeError(read, overflow), and what `take` throws.
+void eachColumnLine(ColumnFile& list, ListRange range,
+                    const std::function<void(const std::string& line)>& take);
 
 /// The last line: how many columns were listed.
-std::string totalLine(std::int32_t columns);
-
-/// Decimal digits of a number above 0.
-std::size_t digitCount(std::int32_t number);
+[[nodiscard]] std::string totalLine(std::int32_t columns);
 
 /// A UTF-8 text in one byte a character; what is not ASCII becomes "?".
-std::string singleBytes(std::string_view text);
+[[nodiscard]] std::string singleBytes(std::string_view text);
 
 }  // namespace karvenis

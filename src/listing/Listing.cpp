@@ -7,7 +7,7 @@ namespace karvenis {
 const Listing randomColumnListing = {
     .source = randomColumns,
     .title = " Rastgele Kolonlar",
-    .questionTitle = " KARVENIS 2005 Randomizer",
+    .questionTitle = standardTitle,
     .textQuestion = "Rastgele Kolon Listesi'ni KARVENIS.TXT dosyasına yazdırmak istiyormusunuz ?",
     .printerQuestion = "Rastgele Kolon Listesi'ni printere bastırmak istiyormusunuz ?",
     .startTitle = " Dosyaya yazılıyor...",
@@ -36,7 +36,7 @@ bool askToList(Boxes& boxes, const Listing& listing, Output output) {
                    listing.questionTitle);
 }
 
-/// Whatever fails while printing, the source included, is told as a printer that is not ready.
+/// Whatever fails while printing, the source included, is shown as a printer that is not ready.
 void printTrapped(Surroundings& around, ColumnFile& list, const Listing& listing, ListRange range) {
   try {
     PrintList(around, list, listing, range);
@@ -60,14 +60,10 @@ void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Ou
 
 }  // namespace
 
-std::int32_t listedCount(Files& files, const Listing& listing) {
-  return columnCountOrNone(files, listing.source);
-}
-
 void listRandomColumns(Surroundings& around, TitleBar& title, Output output) {
   const Listing& listing = randomColumnListing;
   if (!askToList(around.boxes, listing, output)) return;
-  const auto count = checked<std::int16_t>(listedCount(around.files, listing));
+  const auto count = checked<std::int16_t>(columnCountOrNone(around.files, randomColumns));
   if (count < 1) {
     around.boxes.warn("KARVENIS.RND dosyasında kayıt yok !", errorTitle);
     return;
@@ -79,7 +75,7 @@ RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output outp
                               ListRange range) {
   const Listing& listing = combinationListing;
   if (!askToList(around.boxes, listing, output)) return RangeRefusal::none;
-  const std::int32_t count = listedCount(around.files, listing);
+  const std::int32_t count = columnCountOrNone(around.files, combinationList);
   if (range.first < 1 || range.first > count) {
     around.boxes.warn("Başlangıç numarası GEÇERSİZ !", errorTitle);
     return RangeRefusal::first;

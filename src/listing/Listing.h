@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-#include "core/ColumnFile.h"
 #include "core/Surroundings.h"
+#include "listing/ListText.h"
 #include "platform/TitleBar.h"
 
 namespace karvenis {
 
-/// Where a list goes.
+/// What a list is written to.
 enum class Output { text, printer };
 
 /// All that tells the two listing dialogs apart.
@@ -27,14 +27,7 @@ struct Listing {
 extern const Listing randomColumnListing;
 extern const Listing combinationListing;
 
-/// Records first..last of a list, both within it.
-struct ListRange {
-  std::int32_t first;
-  std::int32_t last;
-  std::int32_t count() const { return last - first + 1; }
-};
-
-/// Lists all random columns, after the question. Throws RunTimeError(overflow) where they are more
+/// Lists all random columns, after the question. Throws RunTimeError(overflow) if they are more
 /// than a 16-bit number counts.
 void listRandomColumns(Surroundings& around, TitleBar& title, Output output);
 
@@ -45,12 +38,9 @@ enum class RangeRefusal { none, first, last };
 RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output output,
                               ListRange range);
 
-/// Records of the list; none where its file is gone.
-std::int32_t listedCount(Files& files, const Listing& listing);
-
-/// Writes the range of `list` to the text file, replacing it; the title
-/// tells the progress byte by byte in head and tail and once a line between. Ends with a box that
-/// tells the file's length. Throws RunTimeError.
+/// Writes the range of `list` to the text file, replacing it; the title shows the progress, byte by
+/// byte in the head and the tail and once a line between. Ends with a box that says how long the
+/// file is. Throws RunTimeError, before anything is done if the text file is protected.
 void WriteListText(Surroundings& around, TitleBar& title, ColumnFile& list, const Listing& listing,
                    ListRange range);
 

@@ -19,18 +19,10 @@ void PrintList(Surroundings& around, ColumnFile& list, const Listing& listing, L
   Printer& printer = around.printer;
   printer.fontSize(textPoints);
   printer.currentY(topMargin);
-  printIndented(printer, "< KARVENIS 2005 Randomizer >");
+  printIndented(printer, firstLine);
   printIndented(printer, listing.heading + around.clock.date() + " ] ");
   printer.printLine("");
-
-  const std::size_t digits = digitCount(range.last);
-  std::string line;
-  for (std::int64_t number = range.first; number <= range.last; ++number) {
-    line.clear();
-    appendColumnLine(line, static_cast<std::int32_t>(number), digits, list.at(number).Balls);
-    printIndented(printer, line);
-  }
-
+  eachColumnLine(list, range, [&](const std::string& line) { printIndented(printer, line); });
   printer.printLine("");
   printIndented(printer, totalLine(range.count()));
   printer.endDocument();

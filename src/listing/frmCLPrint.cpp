@@ -32,7 +32,7 @@ frmCLPrint::frmCLPrint(Surroundings& around)
 }
 
 void frmCLPrint::Form_Activate() {
-  Text2->setText(QString::number(listedCount(around_.files, combinationListing)));
+  Text2->setText(QString::number(columnCountOrNone(around_.files, combinationList)));
 }
 
 void frmCLPrint::Text1_KeyPress() { Text2->setFocus(); }

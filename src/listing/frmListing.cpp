@@ -60,7 +60,7 @@ void frmListing::Form_KeyDown(int KeyCode, int) {
       return list();
     case keyF10:
       around_.boxes.beep();
-      around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", " FONKSİYON TUŞLARI");
+      around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", functionKeysTitle);
       return;
     default:
       return;

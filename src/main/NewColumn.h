@@ -15,7 +15,7 @@ struct ListPick {
 };
 
 /// Takes a random record of the combination list as the drawn column, in its stored order and
-/// unchecked, and beeps. Warns and returns nothing where there is no list or it is empty. A record
+/// unchecked, and beeps. Warns and returns nothing if there is no list or it is empty. A record
 /// that is not whole leaves the drawn column as it was.
 std::optional<ListPick> PickFromList(Surroundings& around);
 

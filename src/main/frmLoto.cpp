@@ -102,10 +102,10 @@ void frmLoto::Timer0_Timer() {
 
 void frmLoto::ShowColumn() { showNumbers(*this, around_.state.Drawn); }
 
-void frmLoto::mnuSaveRndColumn_Click() { SaveRndColumn(around_, *this, Check1->isChecked()); }
-void frmLoto::mnuShowRndList_Click() { ShowRndList(around_, *this); }
-void frmLoto::mnuChangeRndFile_Click() { ChangeRndFile(around_, *this); }
-void frmLoto::mnuDeleteRndFile_Click() { DeleteRndFile(around_, *this); }
+void frmLoto::mnuSaveRndColumn_Click() { saveRndColumn(around_, *this, Check1->isChecked()); }
+void frmLoto::mnuShowRndList_Click() { showRndList(around_, *this); }
+void frmLoto::mnuChangeRndFile_Click() { changeRndFile(around_, *this); }
+void frmLoto::mnuDeleteRndFile_Click() { deleteRndFile(around_, *this); }
 void frmLoto::mnuShowBag_Click() { around_.windows.show("frmBalls"); }
 void frmLoto::mnuLoadBag_Click() { askAndLoadBag(around_); }
 void frmLoto::mnuShowBanko_Click() { around_.windows.show("frmBanko"); }

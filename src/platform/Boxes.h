@@ -7,11 +7,12 @@ namespace karvenis {
 enum class Icon { none, exclamation, question, critical };
 enum class Pointer { normal, hourglass };
 
-/// The title of every box and of the main window where nothing else is said.
+/// The title of every box and of the main window if nothing else is said.
 inline constexpr char standardTitle[] = " KARVENIS 2005 Randomizer";
 /// The title of a box that carries the application's own name only.
 inline constexpr char defaultTitle[] = "KARVENIS";
 inline constexpr char errorTitle[] = "! HATA !";
+inline constexpr char functionKeysTitle[] = " FONKSİYON TUŞLARI";
 
 /// The door to the user's attention: modal boxes, the beep and the pointer's shape. Texts are
 /// UTF-8; character 13 in a text is a line break.

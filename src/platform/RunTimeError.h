@@ -17,8 +17,8 @@ enum class Fault {
   printer,   ///< the printer refused
 };
 
-/// A fault that nobody expects and that ends the program with one clear box (see Forms). Refusals
-/// that a user can meet in normal work are values and never this.
+/// An unexpected fault, which ends the program with one box (see Forms). A refusal that a user can
+/// meet in normal work is a value and never this.
 class RunTimeError : public std::runtime_error {
  public:
   /// `subject` is the file concerned (or the number that overflowed), `reason` the system's words.
@@ -39,6 +39,6 @@ class RunTimeError : public std::runtime_error {
 };
 
 /// The closing box's Turkish text for `error`: which file (or number), what failed, and why.
-std::string describe(const RunTimeError& error);
+[[nodiscard]] std::string describe(const RunTimeError& error);
 
 }  // namespace karvenis

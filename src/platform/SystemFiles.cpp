@@ -53,7 +53,7 @@ class Descriptor {
   int number_;
 };
 
-/// Puts the names of a folder, the current one unless told, on disk.
+/// Puts the names of a folder on disk. Returns whether that succeeded.
 bool syncFolder(const std::string& folder = ".") {
   const Descriptor names(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   return names && uninterrupted([&] { return ::fsync(names.get()); }) == 0;
@@ -87,6 +87,28 @@ void writeAll(int descriptor, std::uint64_t offset, std::span<const std::byte> b
   }
 }
 
+struct stat statusOf(int descriptor, Fault fault, const std::string& name) {
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) fail(fault, name);
+  return status;
+}
+
+/// Gives the open file the owner, the group and the mode that `rights` tells. Only the superuser
+/// may give a file away, and a group can be set only by its members: if that is refused, the file
+/// keeps its own. The mode comes last, since a change of the owner may change it.
+void giveRights(int descriptor, const struct stat& rights, Fault fault, const std::string& name) {
+  constexpr mode_t modeBits = 07777;
+  const struct stat now = statusOf(descriptor, fault, name);
+  if (now.st_uid != rights.st_uid) {
+    std::ignore = ::fchown(descriptor, rights.st_uid, static_cast<gid_t>(-1));
+  }
+  if (now.st_gid != rights.st_gid) {
+    std::ignore = ::fchown(descriptor, static_cast<uid_t>(-1), rights.st_gid);
+  }
+  const bool hasMode = ((now.st_mode ^ rights.st_mode) & modeBits) == 0;
+  if (!hasMode && ::fchmod(descriptor, rights.st_mode & modeBits) != 0) fail(fault, name);
+}
+
 class SystemFile final : public File {
  public:
   SystemFile(Descriptor descriptor, std::string name, bool created)
@@ -95,8 +117,8 @@ class SystemFile final : public File {
   std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
     return readAll(descriptor_.get(), offset, into, name_);
   }
-  /// The bytes stand in the file whole or not at all: where only some of them could be written,
-  /// those that stood there before are put back, and the file is as long as it was.
+  /// The bytes stand in the file whole or not at all: if only some of them could be written, those
+  /// that stood there before are put back, and the file is as long as it was.
   void write(std::uint64_t offset, std::span<const std::byte> bytes) override {
     const std::uint64_t before = length();
     std::vector<std::byte> old(std::min(bytes.size(), before - std::min(before, offset)));
@@ -109,9 +131,12 @@ class SystemFile final : public File {
     }
   }
   std::uint64_t length() override {
-    struct stat status {};
-    if (::fstat(descriptor_.get(), &status) != 0) fail(Fault::read, name_);
-    return static_cast<std::uint64_t>(status.st_size);
+    return static_cast<std::uint64_t>(statusOf(descriptor_.get(), Fault::read, name_).st_size);
+  }
+  void takeRightsOf(const std::string& name) override {
+    struct stat rights {};
+    if (::stat(name.c_str(), &rights) != 0) fail(Fault::write, name);
+    giveRights(descriptor_.get(), rights, Fault::write, name_);
   }
   void sync() override {
     if (uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0) fail(Fault::write, name_);
@@ -123,7 +148,7 @@ class SystemFile final : public File {
   }
 
  private:
-  /// The fault that comes first is the one to tell; this one's own go unheard.
+  /// A failure here is not reported: the failed write is, which led here.
   void putBack(std::uint64_t offset, std::span<const std::byte> old,
                std::uint64_t length) noexcept {
     try {
@@ -142,7 +167,7 @@ class SystemFile final : public File {
 /// Never waits: a pipe or a device under the name is refused after the opening, not waited for.
 constexpr int openFlags = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
-/// Opens for reading and writing, else, where that is not allowed, for reading only.
+/// Opens for reading and writing or, if that is not allowed, for reading only.
 Descriptor openExisting(const std::string& name) {
   const int both = ::open(name.c_str(), O_RDWR | openFlags);
   if (both >= 0 || (errno != EACCES && errno != EROFS && errno != EPERM)) return Descriptor(both);
@@ -150,20 +175,19 @@ Descriptor openExisting(const std::string& name) {
 }
 
 void refuseAllButRegular(const Descriptor& descriptor, Fault fault, const std::string& name) {
-  struct stat status {};
-  if (::fstat(descriptor.get(), &status) != 0) fail(fault, name);
-  if (S_ISDIR(status.st_mode)) fail(fault, name, EISDIR);
-  if (!S_ISREG(status.st_mode)) fail(fault, name, EINVAL);
+  const mode_t mode = statusOf(descriptor.get(), fault, name).st_mode;
+  if (S_ISDIR(mode)) fail(fault, name, EISDIR);
+  if (!S_ISREG(mode)) fail(fault, name, EINVAL);
 }
 
-/// The whole path of what a name stands for; the name itself where that cannot be told.
+/// The whole path of what a name stands for; the name itself if there is no such file.
 std::string wholePath(const std::string& name) {
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(name.c_str(), nullptr),
                                                          &std::free);
   return path ? path.get() : name;
 }
 
-/// The file that a link of this name stands for; the name itself where it is no link.
+/// The file that a link of this name stands for; the name itself if it is no link.
 std::string behindLinks(const std::string& name) {
   struct stat status {};
   const bool link = ::lstat(name.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
@@ -189,15 +213,14 @@ Descriptor openAlone(const std::string& name) {
   return created;
 }
 
-/// A file that may not be written is not replaced either, though its folder would allow it.
-void refuseProtected(Fault fault, const std::string& name) {
+void failIfProtected(Fault fault, const std::string& name) {
   const bool writable = ::faccessat(AT_FDCWD, name.c_str(), W_OK, AT_EACCESS) == 0;
   if (!writable && errno != ENOENT) fail(fault, name);
 }
 
 /// A copy grows under a name of its own beside its target and takes the target's place when it is
-/// whole and on disk. Where that does not come to pass, nothing of it stays behind; what a killed
-/// process leaves, the next copy to that target clears away.
+/// whole and on disk. If it does not come to that, nothing of it stays behind; what a killed
+/// process leaves is removed by the next copy to that target.
 class Replacement {
  public:
   explicit Replacement(const std::string& target)
@@ -212,9 +235,9 @@ class Replacement {
 
   int descriptor() const { return descriptor_.get(); }
 
-  void takePlace(mode_t mode) {
-    if (::fchmod(descriptor_.get(), mode & 07777U) != 0 ||
-        uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0 ||
+  void takePlace(const struct stat& rights) {
+    giveRights(descriptor_.get(), rights, Fault::copy, target_);
+    if (uninterrupted([&] { return ::fsync(descriptor_.get()); }) != 0 ||
         descriptor_.close() != 0 || ::rename(name_.c_str(), target_.c_str()) != 0) {
       fail(Fault::copy, target_);
     }
@@ -255,16 +278,19 @@ std::uint64_t SystemFiles::length(const std::string& name) {
   return static_cast<std::uint64_t>(status.st_size);
 }
 
+void SystemFiles::refuseProtected(const std::string& name) { failIfProtected(Fault::write, name); }
+
 void SystemFiles::copy(const std::string& from, const std::string& to) {
   const Descriptor source(::open(from.c_str(), O_RDONLY | openFlags));
   if (!source) fail(Fault::copy, from);
   refuseAllButRegular(source, Fault::copy, from);
-  struct stat status {};
-  if (::fstat(source.get(), &status) != 0) fail(Fault::copy, from);
-  struct stat target {};
-  const bool replaces = ::stat(to.c_str(), &target) == 0;
-  if (replaces && !S_ISREG(target.st_mode)) fail(Fault::copy, to, EINVAL);
-  refuseProtected(Fault::copy, to);
+  struct stat rights {};
+  if (::stat(to.c_str(), &rights) != 0) {
+    rights = statusOf(source.get(), Fault::copy, from);
+    rights.st_mode |= S_IWUSR;
+  }
+  if (!S_ISREG(rights.st_mode)) fail(Fault::copy, to, EINVAL);
+  failIfProtected(Fault::copy, to);
 
   Replacement replacement(to);
   std::vector<std::byte> block(std::size_t{1} << 18);
@@ -274,21 +300,17 @@ void SystemFiles::copy(const std::string& from, const std::string& to) {
     writeAll(replacement.descriptor(), offset, std::span(block).first(got), to);
     offset += got;
   }
-  replacement.takePlace(replaces ? target.st_mode : status.st_mode | S_IWUSR);
+  replacement.takePlace(rights);
 }
 
 void SystemFiles::remove(const std::string& name) {
-  discard(name);
-  if (!syncFolder()) fail(Fault::remove, name);
-}
-
-void SystemFiles::discard(const std::string& name) {
-  if (::unlink(name.c_str()) != 0) fail(Fault::remove, name);
+  failIfProtected(Fault::remove, name);
+  if (::unlink(name.c_str()) != 0 || !syncFolder()) fail(Fault::remove, name);
 }
 
 void SystemFiles::rename(const std::string& from, const std::string& to) {
   const std::string target = behindLinks(to);
-  refuseProtected(Fault::rename, to);
+  failIfProtected(Fault::rename, to);
   if (::rename(from.c_str(), target.c_str()) != 0) {
     if (errno != EXDEV) fail(Fault::rename, from);
     copy(from, to);  // the link leads to another disk

@@ -10,9 +10,9 @@ class SystemFiles final : public Files {
   std::unique_ptr<File> open(const std::string& name) override;
   bool exists(const std::string& name) override;
   std::uint64_t length(const std::string& name) override;
+  void refuseProtected(const std::string& name) override;
   void copy(const std::string& from, const std::string& to) override;
   void remove(const std::string& name) override;
-  void discard(const std::string& name) override;
   void rename(const std::string& from, const std::string& to) override;
   std::string currentFolder() override;
 };

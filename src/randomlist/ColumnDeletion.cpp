@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "core/ColumnFile.h"
 #include "core/IgnoringFaults.h"
 #include "core/Numbers.h"
+#include "core/ReplaceList.h"
 
 namespace karvenis {
 
@@ -30,23 +30,9 @@ bool ColumnDeletion::remove(std::int32_t DelNo) {
         "! DİKKAT ! Geçersiz Kolon Numarası");
     return false;
   }
-  if (RndCount == 1) {
-    around_.files.remove(randomColumns);
-  } else {
-    copyWithout(DelNo);
-    around_.files.rename(yndScratch, randomColumns);
-  }
+  removeColumn(around_.state, around_.files, {randomColumns, yndScratch, ScratchStart::empty},
+               DelNo, RndCount);
   return true;
-}
-
-/// Returns with the scratch file on disk.
-void ColumnDeletion::copyWithout(std::int32_t DelNo) {
-  startScratch(around_.files, yndScratch);
-  ColumnFile RndFileNo(around_.state, around_.files, randomColumns);
-  ColumnFile YndFileNo(around_.state, around_.files, yndScratch);
-  copyColumnsWithout(DelNo, RndCount, RndFileNo, YndFileNo);
-  RndFileNo.close();
-  YndFileNo.close();
 }
 
 }  // namespace karvenis

@@ -6,6 +6,7 @@
 #include "core/Draw.h"
 #include "core/IgnoringFaults.h"
 #include "core/Numbers.h"
+#include "core/ReplaceList.h"
 
 namespace karvenis {
 namespace {
@@ -23,7 +24,7 @@ void writeDrawn(SharedState& state, Files& files, std::int32_t number) {
 
 }  // namespace
 
-void SaveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
+void saveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
   const std::int32_t count = columnCountOrNone(around.files, randomColumns);
   if (count >= recordLimit) {
     around.boxes.beep();
@@ -40,7 +41,7 @@ void SaveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
   title.setCaption(" KARVENIS.RND Kayıt No=" + withBlank(count + 1));
 }
 
-void ShowRndList(Surroundings& around, TitleBar& title) {
+void showRndList(Surroundings& around, TitleBar& title) {
   if (!holdsColumns(around.files, randomColumns)) {
     around.boxes.warn("Listelenecek (kayıtlı) Rastgele Kolon yok !");
     return;
@@ -49,7 +50,7 @@ void ShowRndList(Surroundings& around, TitleBar& title) {
   title.setCaption(standardTitle);
 }
 
-void ChangeRndFile(Surroundings& around, TitleBar& title) {
+void changeRndFile(Surroundings& around, TitleBar& title) {
   Files& files = around.files;
   if (!files.exists(randomColumns)) return;
   std::int32_t count = 0;
@@ -61,23 +62,29 @@ void ChangeRndFile(Surroundings& around, TitleBar& title) {
             "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?")) {
       return;
     }
-    ignoringFaults([&] { backUpList(files); });
+    ignoringFaults([&] { backUpAnyList(files); });
     ignoringFaults([&] { files.copy(randomColumns, combinationList); });
   }
   ignoringFaults([&] { files.remove(randomColumns); });
   title.setCaption(standardTitle);
-  around.boxes.beep();
-  ignoringFaults([&] {
-    around.boxes.message(withBlank(columnCount(files, combinationList)) +
-                         " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  });
+  ignoringFaults([&] { tellOfNewList(around); });
 }
 
-void DeleteRndFile(Surroundings& around, TitleBar& title) {
+bool askAndDeleteRndFile(Surroundings& around) {
   around.boxes.beep();
-  if (!around.files.exists(randomColumns)) return;
-  if (!around.boxes.ask("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?")) return;
+  if (!around.files.exists(randomColumns)) return false;
+  if (!around.boxes.ask("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?")) return false;
   ignoringFaults([&] { around.files.remove(randomColumns); });
+  return true;
+}
+
+void tellOfNewList(Surroundings& around) {
+  around.boxes.beep();
+  around.boxes.message(savedInList(columnCount(around.files, combinationList)));
+}
+
+void deleteRndFile(Surroundings& around, TitleBar& title) {
+  if (!askAndDeleteRndFile(around)) return;
   around.boxes.beep();
   around.boxes.message("KARVENIS.RND dosyası silindi.", defaultTitle);
   title.setCaption(standardTitle);

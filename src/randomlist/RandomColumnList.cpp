@@ -1,8 +1,7 @@
 #include "randomlist/RandomColumnList.h"
 
-#include "core/ColumnFile.h"
-#include "core/IgnoringFaults.h"
-#include "core/Numbers.h"
+#include "core/ReplaceList.h"
+#include "randomlist/RandomColumnFile.h"
 
 namespace karvenis {
 namespace {
@@ -24,20 +23,6 @@ constexpr char keys[] =
     "\r"
     "ESC= Kapat/Çık";
 
-/// Writes all random columns behind the last record of `list` and says in `page` how many records
-/// either file held. Returns with both on disk and closed.
-void appendAll(Surroundings& around, ListPage& page) {
-  ColumnFile list(around.state, around.files, yndScratch);
-  page.PageStart = list.count();
-  ColumnFile AppendFileNo(around.state, around.files, randomColumns);
-  page.RecordCount = AppendFileNo.count();
-  for (std::int64_t AppendIndex = 1; AppendIndex <= page.RecordCount; ++AppendIndex) {
-    list.put(page.PageStart + AppendIndex, AppendFileNo.at(AppendIndex));
-  }
-  AppendFileNo.close();
-  list.close();
-}
-
 }  // namespace
 
 void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title) {
@@ -48,32 +33,37 @@ void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, Tit
   file.close();
 }
 
-void AppendToCombinationList(Surroundings& around, ListPage& page) {
+void appendToCombinationList(Surroundings& around, ListPage& page) {
   around.boxes.beep();
   if (!holdsColumns(around.files, randomColumns)) return;
   if (!around.boxes.ask("Rastgele Kolon Listesi'ni Kombinasyon Listesi'ne eklemek "
                         "istiyormusunuz ?")) {
     return;
   }
-  // The list grows in a scratch file, so that it holds its old or its new bytes whatever happens.
-  copyListTo(around.files, yndScratch);
-  appendAll(around, page);
-  around.files.rename(yndScratch, combinationList);
+  SharedState& state = around.state;
+  const ListAndScratch names{combinationList, yndScratch, ScratchStart::copyOfList};
+  replaceList(state, around.files, names, [&](ColumnFile& list) {
+    page.PageStart = list.count();
+    ColumnFile AppendFileNo(state, around.files, randomColumns);
+    page.RecordCount = AppendFileNo.count();
+    for (std::int64_t AppendIndex = 1; AppendIndex <= page.RecordCount; ++AppendIndex) {
+      list.put(page.PageStart + AppendIndex, AppendFileNo.at(AppendIndex));
+    }
+    AppendFileNo.close();
+  });
   around.boxes.beep();
   around.boxes.message("Rastgele Kolon Listesi Kombinasyon Listesi'ne eklendi.");
 }
 
-void SaveAsCombinationList(Surroundings& around) {
+void saveAsCombinationList(Surroundings& around) {
   around.boxes.beep();
   if (!around.boxes.ask("Rastgele Kolon Listesi'ni (KARVENIS.RND) Kombinasyon Listesi "
                         "(KARVENIS.LST) olarak kayıtlamak istiyormusunuz?")) {
     return;
   }
-  backUpList(around.files);
+  backUpAnyList(around.files);
   around.files.copy(randomColumns, combinationList);
-  around.boxes.beep();
-  around.boxes.message(withBlank(columnCount(around.files, combinationList)) +
-                       " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+  tellOfNewList(around);
 }
 
 void DeleteOneColumn(Surroundings& around, ListPage& page) {
@@ -83,21 +73,14 @@ void DeleteOneColumn(Surroundings& around, ListPage& page) {
   if (page.RecordCount >= 1) around.windows.show("frmRndDel");
 }
 
-void DeleteRndList(Surroundings& around) {
-  around.boxes.beep();
-  if (!around.files.exists(randomColumns)) return;
-  if (!around.boxes.ask("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?")) return;
-  ignoringFaults([&] { around.files.remove(randomColumns); });
-}
-
-void ListRndColumns(Surroundings& around) {
+void openRndListing(Surroundings& around) {
   around.boxes.beep();
   if (holdsColumns(around.files, randomColumns)) around.windows.show("frmRLPrint");
 }
 
-void ShowRndListKeys(Boxes& boxes) {
+void showRndListKeys(Boxes& boxes) {
   boxes.beep();
-  boxes.message(keys, " FONKSİYON TUŞLARI");
+  boxes.message(keys, functionKeysTitle);
 }
 
 }  // namespace karvenis

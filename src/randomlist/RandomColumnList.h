@@ -9,28 +9,26 @@ namespace karvenis {
 
 /// The list window's redraw and its commands on the whole random column file.
 
-/// Counts the file anew, shows the page that `page` starts at (corrected where the list is shorter)
-/// and its number in the title. A missing file is created empty.
+/// Counts the file anew, shows the page that `page` starts at (corrected if the list is shorter)
+/// and its number in the title. A missing file is created empty. Throws RunTimeError.
 void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title);
 
 /// Appends all columns to the combination list, after a question and whatever the length of either.
-/// The page then starts behind as many columns as the combination list had before.
-void AppendToCombinationList(Surroundings& around, ListPage& page);
+/// The page then starts behind as many columns as the combination list had before. Throws
+/// RunTimeError; the list is then as it was.
+void appendToCombinationList(Surroundings& around, ListPage& page);
 
 /// Makes a copy of the file the combination list, after a question; the old list goes to its
-/// backup.
-void SaveAsCombinationList(Surroundings& around);
+/// backup. Throws RunTimeError.
+void saveAsCombinationList(Surroundings& around);
 
-/// Opens the dialog that deletes one column, where there is one.
+/// Opens the dialog that deletes one column, if there is one.
 void DeleteOneColumn(Surroundings& around, ListPage& page);
 
-/// Deletes the file after a question. What fails is skipped.
-void DeleteRndList(Surroundings& around);
-
-/// Opens the dialog that writes or prints the list, where there is a whole record.
-void ListRndColumns(Surroundings& around);
+/// Opens the dialog that writes or prints the list, if there is a whole record.
+void openRndListing(Surroundings& around);
 
 /// Shows the window's keys.
-void ShowRndListKeys(Boxes& boxes);
+void showRndListKeys(Boxes& boxes);
 
 }  // namespace karvenis

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/qt/Surface.h"
+#include "randomlist/RandomColumnFile.h"
 #include "randomlist/RandomColumnList.h"
 
 namespace karvenis {
@@ -38,19 +39,19 @@ void frmRndLst::Form_KeyDown(int KeyCode, int Shift) {
 void frmRndLst::runCommand(int KeyCode, int Shift) {
   switch (KeyCode) {
     case keyF1:
-      return AppendToCombinationList(around_, page_);
+      return appendToCombinationList(around_, page_);
     case keyF2:
-      return SaveAsCombinationList(around_);
+      return saveAsCombinationList(around_);
     case keyF3:
       return DeleteOneColumn(around_, page_);
     case keyF4:
       // With Alt it is the window system's own key for closing.
-      if ((Shift & altKey) == 0) DeleteRndList(around_);
+      if ((Shift & altKey) == 0) askAndDeleteRndFile(around_);
       return;
     case keyF9:
-      return ListRndColumns(around_);
+      return openRndListing(around_);
     case keyF10:
-      return ShowRndListKeys(around_.boxes);
+      return showRndListKeys(around_.boxes);
     default:
       return page_.key(KeyCode);
   }

@@ -14,7 +14,7 @@ namespace karvenis {
 
 using Bytes = std::vector<std::byte>;
 
-/// A folder in memory.
+/// A folder in memory, without rights.
 class MemoryFiles : public Files {
  public:
   std::map<std::string, Bytes> folder;
@@ -35,6 +35,7 @@ class MemoryFiles : public Files {
   std::uint64_t length(const std::string& name) override {
     return found(name, Fault::read)->second.size();
   }
+  void refuseProtected(const std::string&) override {}
   void copy(const std::string& from, const std::string& to) override {
     folder[to] = Bytes(found(from, Fault::copy)->second);
   }
@@ -67,6 +68,7 @@ class MemoryFiles : public Files {
       std::ranges::copy(data, content_.begin() + static_cast<std::ptrdiff_t>(offset));
     }
     std::uint64_t length() override { return content_.size(); }
+    void takeRightsOf(const std::string&) override {}
     void sync() override {}
     void close() override {}
 

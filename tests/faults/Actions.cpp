@@ -9,9 +9,8 @@
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
 #include "comblist/Generator.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/RecordingSurface.h"
-#include "doubles/YieldingBoxes.h"
 #include "listing/Listing.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
@@ -82,14 +81,28 @@ SharedFolder without(const std::string& name) {
   return std::make_shared<Folder>(std::move(folder));
 }
 
+/// A command that needs no title.
+template <auto command>
+void alone(Surroundings& around, TitleBar&) {
+  command(around);
+}
+
+void writeThePlace(Surroundings& around, TitleBar&) { writePlace(around.files, {1, 2}); }
+void readThePlace(Surroundings& around, TitleBar&) { readPlace(around.files); }
+
+template <Output output>
+void listKept(Surroundings& around, TitleBar& title) {
+  listRandomColumns(around, title, output);
+}
+
 void save(Surroundings& around, TitleBar& title) {
   around.state.Drawn = column(45, 7, 3, 21, 30, 12);
-  SaveRndColumn(around, title, false);
+  saveRndColumn(around, title, false);
 }
 
 void appendList(Surroundings& around, TitleBar&) {
   ListPage page;
-  AppendToCombinationList(around, page);
+  appendToCombinationList(around, page);
 }
 
 void deleteKept(Surroundings& around, TitleBar&) {
@@ -148,7 +161,8 @@ void showKept(Surroundings& around, TitleBar& title) {
 template <Filter filter, const char* typed>
 void thinOut(Surroundings& around, TitleBar& title) {
   static_cast<YieldingBoxes&>(around.boxes).typed = typed;
-  filterList(filter, around, title);
+  ListPage page;
+  filterList(filter, around, page, title);
 }
 
 constexpr char someNumbers[] = "7,10,20";
@@ -164,17 +178,11 @@ std::vector<Action> savingActions() {
   return {
       {"save", full(), save},
       {"save the first", without(randomColumns), save},
-      {"write the place", full(),
-       [](auto& a, auto&) {
-         writePlace(a.files, {1, 2});
-       }},
-      {"write the first place", without(settingsFile),
-       [](auto& a, auto&) {
-         writePlace(a.files, {1, 2});
-       }},
-      {"read the place", full(), [](auto& a, auto&) { readPlace(a.files); }},
-      {"load the bag", full(), [](auto& a, auto&) { askAndLoadBag(a); }},
-      {"load the bankos", full(), [](auto& a, auto&) { askAndLoadBanko(a); }},
+      {"write the place", full(), writeThePlace},
+      {"write the first place", without(settingsFile), writeThePlace},
+      {"read the place", full(), readThePlace},
+      {"load the bag", full(), alone<askAndLoadBag>},
+      {"load the bankos", full(), alone<askAndLoadBanko>},
       {"load the bag in its window", full(), loadBagWindow},
       {"load the bankos in their window", full(), loadBankoWindow},
       {"save the bag", full(), saveBagWindow},
@@ -187,32 +195,29 @@ std::vector<Action> savingActions() {
 std::vector<Action> listActions() {
   using enum Action::OnFault;
   return {
-      {"make the kept columns the list", full(), ChangeRndFile, mayGoOn},
-      {"make the kept columns the first list", without(combinationList), ChangeRndFile, mayGoOn},
-      {"delete the kept columns", full(), DeleteRndFile, mayGoOn},
-      {"delete the kept columns in their window", full(), [](auto& a, auto&) { DeleteRndList(a); },
-       mayGoOn},
+      {"make the kept columns the list", full(), changeRndFile, mayGoOn},
+      {"make the kept columns the first list", without(combinationList), changeRndFile, mayGoOn},
+      {"delete the kept columns", full(), deleteRndFile, mayGoOn},
+      {"delete the kept columns in their window", full(), alone<askAndDeleteRndFile>, mayGoOn},
       {"append to the list", full(), appendList},
       {"append to a missing list", without(combinationList), appendList},
-      {"save as the list", full(), [](auto& a, auto&) { SaveAsCombinationList(a); }},
+      {"save as the list", full(), alone<saveAsCombinationList>},
       {"delete a kept column", full(), deleteKept, mayGoOn},
       {"delete the only kept column", full(1), deleteKept, mayGoOn},
       {"delete a listed column", full(), deleteListed},
       {"delete the only listed column", full(1, 1), deleteListed},
-      {"copy the list to the kept columns", full(), [](auto& a, auto&) { CopyToRandomColumns(a); }},
-      {"delete the list", full(), [](auto& a, auto&) { DeleteList(a); }},
+      {"copy the list to the kept columns", full(), alone<copyToRandomColumns>},
+      {"delete the list", full(), alone<deleteList>},
       {"show the list", full(), showListed},
       {"generate a longer list", full(), generate<newList, longList + 50>},
       {"generate a shorter list", full(), generate<newList, 40>},
       {"generate the first list", without(combinationList), generate<newList, 4100>},
       {"generate more", full(), generate<append, 4100>},
-      {"write the kept columns as text", full(100),
-       [](auto& a, auto& t) { listRandomColumns(a, t, Output::text); }},
+      {"write the kept columns as text", full(100), listKept<Output::text>},
       {"write the list as text", full(), writeCombinations},
-      {"print the kept columns", full(100),
-       [](auto& a, auto& t) { listRandomColumns(a, t, Output::printer); }, mayGoOn},
+      {"print the kept columns", full(100), listKept<Output::printer>, mayGoOn},
       {"show the kept columns", full(), showKept},
-      {"draw from the list", full(), [](auto& a, auto&) { PickFromList(a); }},
+      {"draw from the list", full(), alone<PickFromList>},
   };
 }
 
@@ -297,10 +302,8 @@ const std::vector<Action>& actions() {
 }
 
 void perform(const Action& action, Files& files) {
-  World world;
-  YieldingBoxes boxes;
-  Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                      files,       world.printer, world.windows};
+  QuietWorld world;
+  Surroundings around = world.over(files);
   action.run(around, world.title);
 }
 

@@ -2,10 +2,9 @@
 
 #include "comblist/CombinationList.h"
 #include "core/ColumnFile.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/FailingFiles.h"
 #include "doubles/RecordingSurface.h"
-#include "doubles/YieldingBoxes.h"
 #include "faults/DiskFolder.h"
 #include "platform/SystemFiles.h"
 #include "randomlist/RandomColumnList.h"

@@ -47,13 +47,12 @@ TEST_P(FailingSystem, AnErrorOfAnyCallLeavesOldOrNewBytes) {
       bool told = false;
       bool harmless = false;
       try {
-        const Hooked hooked({[&](const SystemCall& call) {
-                               ++calls;
-                               harmless = harmless || (calls == at && isCleaning(call));
-                               return calls == at || (stays && calls > at) ? error : 0;
-                             },
-                             {},
-                             {}});
+        const auto failAt = [&](const SystemCall& call) {
+          ++calls;
+          harmless = harmless || (calls == at && isCleaning(call));
+          return calls == at || (stays && calls > at) ? error : 0;
+        };
+        const Hooked hooked({.before = failAt});
         perform(action, files_);
       } catch (const RunTimeError& fault) {
         told = true;
@@ -187,20 +186,18 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   Disk disk(*action.start);
   std::vector<Folder> losses{*action.start};
   {
-    const Hooked hooked({[&](const SystemCall& call) {
-                           using enum SystemCall::Kind;
-                           if (call.kind == write || call.kind == shorten) {
-                             disk.knows(call.file, nameOfOpen(call.file));
-                           }
-                           return 0;
-                         },
-                         {},
-                         [&](const SystemCall& call) {
-                           disk.note(call);
-                           losses.push_back(disk.withoutUnsynced());
-                           losses.push_back(disk.withNames());
-                           losses.push_back(disk.withBytes());
-                         }});
+    const auto learnName = [&](const SystemCall& call) {
+      using enum SystemCall::Kind;
+      if (call.kind == write || call.kind == shorten) disk.knows(call.file, nameOfOpen(call.file));
+      return 0;
+    };
+    const auto losePower = [&](const SystemCall& call) {
+      disk.note(call);
+      losses.push_back(disk.withoutUnsynced());
+      losses.push_back(disk.withNames());
+      losses.push_back(disk.withBytes());
+    };
+    const Hooked hooked({.before = learnName, .done = losePower});
     perform(action, files_);
   }
   for (std::size_t i = 0; i < losses.size(); ++i) {

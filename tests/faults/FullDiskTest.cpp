@@ -73,7 +73,7 @@ TEST_P(FullDisk, AfterAnyByteIsToldAndKeepsEveryListWhole) {
     Space space(left);
     bool told = false;
     {
-      const Hooked hooked({{}, [&](const SystemCall& write) { return space.takes(write); }, {}});
+      const Hooked hooked({.room = [&](const SystemCall& write) { return space.takes(write); }});
       told = isTold(action);
     }
     if (!space.isFull()) break;

@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "core/ColumnFile.h"
+#include "faults/AsNobody.h"
 #include "faults/DiskFolder.h"
 #include "platform/SystemFiles.h"
 
@@ -19,22 +20,6 @@ namespace fs = std::filesystem;
 constexpr const char* names[] = {"KARVENIS.RND", "KARVENIS.LST", "KARVENIS.OLD",
                                  "KARVENIS.DAT", "KV2005.CFG",   "KARVENIS.TXT",
                                  yndScratch,     ylsScratch,     tmpScratch};
-
-/// A user who owns nothing here, where the tests run as one who may do everything.
-class AsNobody {
- public:
-  AsNobody() { become(65534); }
-  ~AsNobody() { become(0); }
-  AsNobody(const AsNobody&) = delete;
-  AsNobody& operator=(const AsNobody&) = delete;
-
- private:
-  void become(uid_t user) const {
-    if (!all_) return;
-    EXPECT_EQ(::seteuid(user), 0);
-  }
-  bool all_ = ::geteuid() == 0;
-};
 
 /// No file grows beyond so many bytes.
 class SmallDisk {

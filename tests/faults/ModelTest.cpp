@@ -8,7 +8,6 @@
 #include "comblist/Generator.h"
 #include "core/Draw.h"
 #include "doubles/Doubles.h"
-#include "doubles/PlainWorld.h"
 #include "faults/DiskFolder.h"
 #include "listing/Listing.h"
 #include "main/NewColumn.h"
@@ -77,7 +76,7 @@ class Walk {
   void save() {
     move("save");
     for (auto& drawn : world_.state.Drawn) drawn = ball();
-    SaveRndColumn(world_.around, world_.title, false);
+    saveRndColumn(world_.around, world_.title, false);
     if (!model_.kept) model_.kept.emplace();
     if (model_.kept->size() >= recordLimit) return;
     std::ranges::sort(world_.state.Drawn);
@@ -98,7 +97,7 @@ class Walk {
     move("append");
     says(below(4) != 0);
     ListPage page;
-    AppendToCombinationList(world_.around, page);
+    appendToCombinationList(world_.around, page);
     if (!world_.boxes.says || !any(model_.kept)) return;
     if (!model_.list) model_.list.emplace();
     model_.list->insert(model_.list->end(), model_.kept->begin(), model_.kept->end());
@@ -107,7 +106,7 @@ class Walk {
     move("save as");
     if (!model_.kept) return;
     says(below(4) != 0);
-    SaveAsCombinationList(world_.around);
+    saveAsCombinationList(world_.around);
     if (!world_.boxes.says) return;
     model_.backUp();
     model_.list = model_.kept;
@@ -116,7 +115,7 @@ class Walk {
     move("rename");
     if (below(8) != 0) return;
     says(below(2) != 0);
-    ChangeRndFile(world_.around, world_.title);
+    changeRndFile(world_.around, world_.title);
     if (!model_.kept || !world_.boxes.says) return;
     model_.backUp();
     model_.list = std::exchange(model_.kept, std::nullopt);
@@ -125,7 +124,11 @@ class Walk {
     move("delete the kept columns");
     if (below(8) != 0) return;
     says(below(2) != 0);
-    below(2) != 0 ? DeleteRndFile(world_.around, world_.title) : DeleteRndList(world_.around);
+    if (below(2) != 0) {
+      deleteRndFile(world_.around, world_.title);
+    } else {
+      askAndDeleteRndFile(world_.around);
+    }
     if (world_.boxes.says) model_.kept.reset();
   }
   void deleteListed() {
@@ -144,13 +147,13 @@ class Walk {
     move("delete the list");
     if (below(8) != 0) return;
     says(below(2) != 0);
-    DeleteList(world_.around);
+    karvenis::deleteList(world_.around);
     if (world_.boxes.says) model_.list.reset();
   }
   void copy() {
     move("copy to the kept columns");
     says(below(4) != 0);
-    CopyToRandomColumns(world_.around);
+    copyToRandomColumns(world_.around);
     if (any(model_.list) && (world_.boxes.says || !model_.kept)) model_.kept = model_.list;
   }
   void generate() {
@@ -187,7 +190,8 @@ class Walk {
                const std::function<bool(const ColumnRecord&)>& keeps) {
     world_.boxes.typed = typed;
     says(below(6) != 0);
-    filterList(filter, world_.around, world_.title);
+    ListPage page;
+    filterList(filter, world_.around, page, world_.title);
     if (!any(model_.list) || !world_.boxes.says) return;
     model_.backUp();
     std::erase_if(*model_.list, [&](const ColumnRecord& record) { return !keeps(record); });
@@ -259,7 +263,7 @@ class Walk {
   }
 
   std::mt19937 random_;
-  PlainWorld world_;
+  QuietWorld world_;
   Model model_;
   std::string last_;
 };

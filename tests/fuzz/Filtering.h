@@ -23,10 +23,11 @@ inline void filterWith(Filter filter, const std::string& typed) {
   if (!isChosen(typed)) return;
 
   static const Bytes list = soundList(20);
-  PlainWorld world;
+  QuietWorld world;
   world.files.folder[combinationList] = list;
   world.boxes.typed = typed;
-  const bool done = filterList(filter, world.around, world.title);
+  ListPage page;
+  const bool done = filterList(filter, world.around, page, world.title);
   require(done == !world.boxes.question.empty());
   require(!world.files.exists(tmpScratch));
   require(done == world.files.exists(listBackup));

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core/ColumnFile.h"
-#include "doubles/PlainWorld.h"
+#include "doubles/QuietWorld.h"
 #include "platform/RunTimeError.h"
 
 /// What a fuzzing target gives to the fuzzer and to the test of the kept inputs: it takes any bytes

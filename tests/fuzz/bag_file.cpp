@@ -14,7 +14,7 @@ bool isBag(const SharedState& state) { return std::ranges::all_of(state.Bag.ball
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  PlainWorld world;
+  QuietWorld world;
   world.files.folder[bagFileName] = bytesOf(data, size);
   world.state.Banko.add(7);
   world.state.Banko.add(12);

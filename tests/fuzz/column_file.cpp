@@ -21,7 +21,7 @@ class NoSurface final : public TextSurface {
   void printLine(const std::string&) override {}
 };
 
-void look(PlainWorld& world) {
+void look(QuietWorld& world) {
   ListPage page;
   NoSurface surface;
   allowingFaults([&] { ShowRndPage(world.around, page, surface, world.title); });
@@ -34,16 +34,16 @@ void look(PlainWorld& world) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const Bytes bytes = bytesOf(data, size);
-  PlainWorld world;
+  QuietWorld world;
   world.files.folder = {{randomColumns, bytes}, {combinationList, bytes}};
   look(world);
   require(world.files.bytes(randomColumns) == bytes && world.files.bytes(combinationList) == bytes);
   world.boxes.typed = "7-12";
-  allowingFaults([&] { filterList(Filter::FilterWantedPairs, world.around, world.title); });
-  world.boxes.typed = "1";
   ListPage page;
+  allowingFaults([&] { filterList(Filter::FilterWantedPairs, world.around, page, world.title); });
+  world.boxes.typed = "1";
   allowingFaults([&] { DeleteColumn(world.around, page); });
-  allowingFaults([&] { AppendToCombinationList(world.around, page); });
+  allowingFaults([&] { appendToCombinationList(world.around, page); });
   require(world.files.bytes(randomColumns) == bytes);
   return 0;
 }

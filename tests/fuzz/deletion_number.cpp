@@ -14,7 +14,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::int32_t number = typedNumber32(typed);
   if (std::hash<std::string>()(typed) % 32 != 0 && size > 3) return 0;  // deleting takes long
   const bool there = number >= 1 && number <= 20;
-  PlainWorld world;
+  QuietWorld world;
   world.files.folder = {{randomColumns, list}, {combinationList, list}};
   world.boxes.typed = typed;
   ListPage page;

@@ -8,7 +8,7 @@
 using namespace karvenis;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  PlainWorld world;
+  QuietWorld world;
   world.files.folder[settingsFile] = bytesOf(data, size);
   const auto place = readPlace(world.files);
   require(!place || (std::isfinite(place->top) && std::isfinite(place->left)));

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/Numbers.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 
 namespace karvenis {

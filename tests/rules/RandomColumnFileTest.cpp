@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/IgnoringFaults.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 
 namespace karvenis {
@@ -22,7 +22,7 @@ TEST(SaveRndColumn, MakesTheFileAndItsFirstRecordAscending) {
   World world;
   world.state.Drawn = column(42, 7, 11, 49, 1, 30);
   world.boxes.expectBeep();
-  SaveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), hex("00000000 0100 0700 0B00 1E00 2A00 3100"));
   EXPECT_EQ(world.state.Drawn, column(1, 7, 11, 30, 42, 49)) << "the array itself is sorted";
   EXPECT_EQ(world.title.captions,
@@ -35,7 +35,7 @@ TEST(SaveRndColumn, WritesTheArrayAsItStandsWhereTheDrawSorts) {
   World world;
   world.state.Drawn = column(42, 7, 11, 49, 1, 30);
   world.boxes.expectBeep();
-  SaveRndColumn(world.around, world.title, true);
+  saveRndColumn(world.around, world.title, true);
   EXPECT_EQ(columnsOf(world.files.bytes("KARVENIS.RND")).at(0).Balls, column(42, 7, 11, 49, 1, 30));
   EXPECT_EQ(world.state.Drawn, column(42, 7, 11, 49, 1, 30));
 }
@@ -45,7 +45,7 @@ TEST(SaveRndColumn, WritesWord0WhateverTheBufferHeld) {
   world.state.Record.Word = 417;
   world.state.Drawn = column(1, 2, 3, 4, 5, 6);
   world.boxes.expectBeep();
-  SaveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(columnsOf(world.files.bytes("KARVENIS.RND")).at(0).Word, 0);
 }
 
@@ -53,8 +53,8 @@ TEST(SaveRndColumn, TwiceSavesTwice) {
   World world;
   world.state.Drawn = column(1, 2, 3, 4, 5, 6);
   world.boxes.expectBeep(2);
-  SaveRndColumn(world.around, world.title, false);
-  SaveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(columnsOf(world.files.bytes("KARVENIS.RND")).size(), 2U);
   EXPECT_EQ(world.title.captions.back(), " KARVENIS.RND Kayıt No= 2");
 }
@@ -72,7 +72,7 @@ TEST_P(SaveBehind, ALengthGivesTheRecordNumber) {
   world.files.folder["KARVENIS.RND"] = Bytes(GetParam().bytes, std::byte{7});
   world.state.Drawn = column(1, 2, 3, 4, 5, 6);
   world.boxes.expectBeep();
-  SaveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
   const std::int32_t number = GetParam().number;
   if (number == 0) {
     EXPECT_EQ(world.files.bytes("KARVENIS.RND"), Bytes(GetParam().bytes, std::byte{7}));
@@ -101,7 +101,7 @@ TEST(SaveRndColumn, DoesNothingWhileTheDrawIsNotComplete) {
     World world;
     world.state.Drawn = column(1, 2, 3, 4, 5, 6);
     ballAt(world.state.Drawn, missing) = 0;
-    SaveRndColumn(world.around, world.title, false);
+    saveRndColumn(world.around, world.title, false);
     EXPECT_TRUE(world.files.folder.empty());
     EXPECT_TRUE(world.title.captions.empty());
   }
@@ -111,7 +111,7 @@ TEST(SaveRndColumn, AFullFileBeepsEvenBeforeADraw) {
   World world;
   world.files.folder["KARVENIS.RND"] = Bytes(32767U * 16);
   world.boxes.expectBeep();
-  SaveRndColumn(world.around, world.title, false);
+  saveRndColumn(world.around, world.title, false);
 }
 
 TEST(SaveRndColumn, AFailingWriteIsAFault) {
@@ -120,7 +120,7 @@ TEST(SaveRndColumn, AFailingWriteIsAFault) {
   files.refuses = [](Fault fault, const std::string&) { return fault == Fault::write; };
   Surroundings around = world.over(files);
   world.state.Drawn = column(1, 2, 3, 4, 5, 6);
-  EXPECT_THROW(SaveRndColumn(around, world.title, false), RunTimeError);
+  EXPECT_THROW(saveRndColumn(around, world.title, false), RunTimeError);
 }
 
 // --- show the list
@@ -139,7 +139,7 @@ TEST_P(ShowTheList, NeedsOneWholeRecord) {
     world.files.folder["KARVENIS.RND"] = Bytes(static_cast<std::size_t>(GetParam().bytes));
   }
   if (!GetParam().shows) world.boxes.expectWarning(emptyWarning);
-  ShowRndList(world.around, world.title);
+  showRndList(world.around, world.title);
   EXPECT_EQ(world.windows.shown, GetParam().shows ? Captions{"frmRndLst"} : Captions{});
   EXPECT_EQ(world.title.captions, GetParam().shows ? Captions{standardTitle} : Captions{});
 }
@@ -155,14 +155,14 @@ TEST(ShowRndList, ANameInOtherLettersIsNoFile) {
   World world;
   world.files.folder["karvenis.rnd"] = countedColumns(1);
   world.boxes.expectWarning(emptyWarning);
-  ShowRndList(world.around, world.title);
+  showRndList(world.around, world.title);
 }
 
 // --- make the file the combination list
 
 TEST(ChangeRndFile, DoesNothingWithoutAFile) {
   World world;
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
   EXPECT_TRUE(world.title.captions.empty());
 }
 
@@ -171,7 +171,7 @@ TEST(ChangeRndFile, NoStopsAtOnce) {
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   const auto before = world.files.folder;
   world.boxes.expectBeep().expectQuestion(changeQuestion, false);
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
   EXPECT_EQ(world.files.folder, before);
   EXPECT_TRUE(world.title.captions.empty());
 }
@@ -183,7 +183,7 @@ TEST(ChangeRndFile, TheFirstListTakesNoBackup) {
       .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
   EXPECT_EQ(world.files.folder,
             (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(3)}}));
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
@@ -198,7 +198,7 @@ TEST(ChangeRndFile, TheOldListGoesToItsBackup) {
       .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
   EXPECT_EQ(world.files.folder,
             (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(3)},
                                           {"KARVENIS.OLD", countedColumns(5, 100)}}));
@@ -209,7 +209,7 @@ TEST(ChangeRndFile, AnEmptyFileIsDeletedUnaskedAndAnyListCounted) {
     World world;
     world.files.folder = {{"KARVENIS.RND", Bytes(bytes)}, {"KARVENIS.LST", countedColumns(5)}};
     world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-    ChangeRndFile(world.around, world.title);
+    changeRndFile(world.around, world.title);
     EXPECT_EQ(world.files.folder,
               (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(5)}}));
     EXPECT_EQ(world.title.captions, Captions{standardTitle});
@@ -220,7 +220,7 @@ TEST(ChangeRndFile, AnEmptyFileAndNoListShowNoLastBox) {
   World world;
   world.files.folder["KARVENIS.RND"] = Bytes{};
   world.boxes.expectBeep();
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
   EXPECT_TRUE(world.files.folder.empty());
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }
@@ -232,7 +232,7 @@ TEST(ChangeRndFile, MoreRecordsThanTheLimitAreNotRefused) {
       .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 40000 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  ChangeRndFile(world.around, world.title);
+  changeRndFile(world.around, world.title);
 }
 
 struct Refusal {
@@ -259,7 +259,7 @@ TEST_P(ChangeDespite, AFailingStepTheNextOneRuns) {
     world.boxes.expectMessage(" " + std::to_string(GetParam().counted) +
                               " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   }
-  ChangeRndFile(around, world.title);
+  changeRndFile(around, world.title);
   EXPECT_EQ(world.files.folder, GetParam().after);
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }
@@ -294,7 +294,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(DeleteRndFile, OnlyBeepsWithoutAFile) {
   World world;
   world.boxes.expectBeep();
-  DeleteRndFile(world.around, world.title);
+  deleteRndFile(world.around, world.title);
   EXPECT_TRUE(world.title.captions.empty());
 }
 
@@ -302,7 +302,7 @@ TEST(DeleteRndFile, NoKeepsTheFile) {
   World world;
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
-  DeleteRndFile(world.around, world.title);
+  deleteRndFile(world.around, world.title);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
   EXPECT_TRUE(world.title.captions.empty());
 }
@@ -314,7 +314,7 @@ TEST(DeleteRndFile, YesDeletesAndConfirmsUnderTheDefaultTitle) {
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
       .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
-  DeleteRndFile(world.around, world.title);
+  deleteRndFile(world.around, world.title);
   EXPECT_TRUE(world.files.folder.empty());
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }
@@ -329,7 +329,7 @@ TEST(DeleteRndFile, GoesOnWhereTheDeletionFails) {
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
       .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
-  DeleteRndFile(around, world.title);
+  deleteRndFile(around, world.title);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
   EXPECT_EQ(world.title.captions, Captions{standardTitle});
 }

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/RecordingSurface.h"
 #include "doubles/RefusingFiles.h"
+#include "randomlist/RandomColumnFile.h"
 
 namespace karvenis {
 namespace {
@@ -72,7 +73,7 @@ TEST_P(AppendBehind, AListOfAnyLength) {
       .expectQuestion(appendQuestion, true)
       .expectBeep()
       .expectMessage(appended);
-  AppendToCombinationList(world.around, world.page);
+  appendToCombinationList(world.around, world.page);
   EXPECT_EQ(world.page.PageStart, GetParam().start);
   EXPECT_EQ(world.page.RecordCount, 3);
   Bytes expected = list;
@@ -96,7 +97,7 @@ TEST(AppendToCombinationList, MakesAMissingListAndIgnoresAStaleScratchFile) {
       .expectQuestion(appendQuestion, true)
       .expectBeep()
       .expectMessage(appended);
-  AppendToCombinationList(world.around, world.page);
+  appendToCombinationList(world.around, world.page);
   EXPECT_EQ(world.files.folder,
             (Folder{{"KARVENIS.RND", countedColumns(2)}, {"KARVENIS.LST", countedColumns(2)}}));
 }
@@ -108,7 +109,7 @@ TEST(AppendToCombinationList, TheNextRedrawShowsThePageBehindTheOldList) {
       .expectQuestion(appendQuestion, true)
       .expectBeep()
       .expectMessage(appended);
-  AppendToCombinationList(world.around, world.page);
+  appendToCombinationList(world.around, world.page);
   world.redraw();
   EXPECT_EQ(world.page.PageStart, 7);
   world.page.PageStart = 67;
@@ -121,7 +122,7 @@ TEST(AppendToCombinationList, NoChangesNothing) {
   world.page.PageStart = 4;
   world.files.folder["KARVENIS.RND"] = countedColumns(2);
   world.boxes.expectBeep().expectQuestion(appendQuestion, false);
-  AppendToCombinationList(world.around, world.page);
+  appendToCombinationList(world.around, world.page);
   EXPECT_EQ(world.files.folder, (Folder{{"KARVENIS.RND", countedColumns(2)}}));
   EXPECT_EQ(world.page.PageStart, 4);
 }
@@ -131,7 +132,7 @@ TEST(AppendToCombinationList, OnlyBeepsWithoutAWholeColumn) {
     ListWorld world;
     if (bytes >= 0) world.files.folder["KARVENIS.RND"] = Bytes(static_cast<std::size_t>(bytes));
     world.boxes.expectBeep();
-    AppendToCombinationList(world.around, world.page);
+    appendToCombinationList(world.around, world.page);
   }
 }
 
@@ -140,7 +141,7 @@ int appendRefusing(ListWorld& world, int refusedCall) {
   RefusingFiles files(world.files);
   files.refuses = [&](Fault, const std::string&) { return files.calls == refusedCall; };
   Surroundings around = world.over(files);
-  AppendToCombinationList(around, world.page);
+  appendToCombinationList(around, world.page);
   return files.calls;
 }
 
@@ -166,6 +167,7 @@ TEST(AppendToCombinationList, AFaultAtAnyCallLeavesTheOldList) {
     EXPECT_THROW(appendRefusing(world, refusedCall), RunTimeError) << refusedCall;
     EXPECT_EQ(world.files.bytes("KARVENIS.LST"), old) << refusedCall;
     EXPECT_EQ(world.files.bytes("KARVENIS.RND"), random) << refusedCall;
+    EXPECT_FALSE(world.files.exists(yndScratch)) << refusedCall;
   }
 }
 
@@ -180,7 +182,7 @@ TEST(SaveAsCombinationList, CopiesAndTakesTheBackup) {
       .expectQuestion(saveQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  SaveAsCombinationList(world.around);
+  saveAsCombinationList(world.around);
   EXPECT_EQ(world.files.folder, (Folder{{"KARVENIS.RND", countedColumns(3)},
                                         {"KARVENIS.LST", countedColumns(3)},
                                         {"KARVENIS.OLD", countedColumns(5, 100)}}));
@@ -193,7 +195,7 @@ TEST(SaveAsCombinationList, TheFirstListTakesNoBackup) {
       .expectQuestion(saveQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  SaveAsCombinationList(world.around);
+  saveAsCombinationList(world.around);
   EXPECT_EQ(world.files.folder,
             (Folder{{"KARVENIS.RND", countedColumns(3)}, {"KARVENIS.LST", countedColumns(3)}}));
 }
@@ -205,7 +207,7 @@ TEST(SaveAsCombinationList, AnEmptyFileMakesAnEmptyList) {
       .expectQuestion(saveQuestion, true)
       .expectBeep()
       .expectMessage(" 0 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  SaveAsCombinationList(world.around);
+  saveAsCombinationList(world.around);
   EXPECT_EQ(
       world.files.folder,
       (Folder{{"KARVENIS.RND", {}}, {"KARVENIS.LST", {}}, {"KARVENIS.OLD", countedColumns(5)}}));
@@ -215,7 +217,7 @@ TEST(SaveAsCombinationList, NoChangesNothing) {
   ListWorld world;
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(saveQuestion, false);
-  SaveAsCombinationList(world.around);
+  saveAsCombinationList(world.around);
   EXPECT_EQ(world.files.folder, (Folder{{"KARVENIS.RND", countedColumns(3)}}));
 }
 
@@ -223,7 +225,7 @@ TEST(SaveAsCombinationList, AFileThatVanishedIsAFault) {
   ListWorld world;
   world.files.folder["KARVENIS.LST"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(saveQuestion, true);
-  EXPECT_THROW(SaveAsCombinationList(world.around), RunTimeError);
+  EXPECT_THROW(saveAsCombinationList(world.around), RunTimeError);
   EXPECT_EQ(world.files.bytes("KARVENIS.LST"), countedColumns(3));
 }
 
@@ -249,7 +251,7 @@ TEST_P(DialogOver, AFileOfAnyLength) {
   if (GetParam().deletion) expected.emplace_back("frmRndDel");
   EXPECT_EQ(world.windows.shown, expected);
   world.boxes.expectBeep();
-  ListRndColumns(world.around);
+  openRndListing(world.around);
   if (GetParam().listing) expected.emplace_back("frmRLPrint");
   EXPECT_EQ(world.windows.shown, expected);
 }
@@ -276,7 +278,7 @@ TEST(DeleteRndList, YesDeletesWithoutAConfirmation) {
   ListWorld world;
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, true);
-  DeleteRndList(world.around);
+  askAndDeleteRndFile(world.around);
   EXPECT_TRUE(world.files.folder.empty());
 }
 
@@ -284,14 +286,14 @@ TEST(DeleteRndList, NoKeepsTheFile) {
   ListWorld world;
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
-  DeleteRndList(world.around);
+  askAndDeleteRndFile(world.around);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
 }
 
 TEST(DeleteRndList, OnlyBeepsWithoutAFile) {
   ListWorld world;
   world.boxes.expectBeep();
-  DeleteRndList(world.around);
+  askAndDeleteRndFile(world.around);
 }
 
 TEST(DeleteRndList, AFileThatStaysIsNoFault) {
@@ -301,7 +303,7 @@ TEST(DeleteRndList, AFileThatStaysIsNoFault) {
   files.refuses = [](Fault fault, const std::string&) { return fault == Fault::remove; };
   Surroundings around = world.over(files);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, true);
-  DeleteRndList(around);
+  askAndDeleteRndFile(around);
 }
 
 // --- help
@@ -319,7 +321,7 @@ TEST(ShowRndListKeys, NamesEveryKey) {
       "ESC= Kapat/Çık";
   EXPECT_EQ(std::ranges::count(text, '\r'), 14);
   world.boxes.expectBeep().expectMessage(text, " FONKSİYON TUŞLARI");
-  ShowRndListKeys(world.boxes);
+  showRndListKeys(world.boxes);
 }
 
 }  // namespace

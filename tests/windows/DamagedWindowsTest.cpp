@@ -3,7 +3,7 @@
 #include <QRadioButton>
 #include <memory>
 
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/FailingFiles.h"
 #include "doubles/YieldingBoxes.h"
 #include "faults/DiskFolder.h"

@@ -4,7 +4,7 @@
 #include <QRadioButton>
 
 #include "AllWindows.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/Sets.h"
 #include "windows/WindowTest.h"
 

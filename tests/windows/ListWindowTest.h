@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/ColumnFile.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {

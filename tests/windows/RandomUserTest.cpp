@@ -10,7 +10,7 @@
 #include <thread>
 
 #include "core/ColumnFile.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "faults/DiskFolder.h"
 #include "platform/SystemFiles.h"
 

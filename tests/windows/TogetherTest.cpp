@@ -1,6 +1,6 @@
 #include <QRadioButton>
 
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/Sets.h"
 #include "doubles/YieldingBoxes.h"
 #include "platform/qt/QtBoxes.h"

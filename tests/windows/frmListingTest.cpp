@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "listing/frmCLPrint.h"
 #include "listing/frmRLPrint.h"
 #include "randomlist/frmRndLst.h"

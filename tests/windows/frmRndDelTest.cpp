@@ -1,7 +1,7 @@
 #include "randomlist/frmRndDel.h"
 
 #include "core/Numbers.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "randomlist/frmRndLst.h"
 #include "windows/WindowTest.h"
 

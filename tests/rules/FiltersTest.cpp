@@ -1,6 +1,5 @@
 #include "doubles/RefusingFiles.h"
-#include "doubles/YieldingBoxes.h"
-#include "rules/ComblistFilter.h"
+#include "rules/Filtering.h"
 
 namespace karvenis {
 namespace {
@@ -21,13 +20,10 @@ class KeptColumn : public testing::TestWithParam<Kept> {};
 
 TEST_P(KeptColumn, IsTheOneThatTheRuleKeeps) {
   const Kept& row = GetParam();
-  YieldingBoxes boxes;
-  boxes.typed = row.typed;
-  World world;
-  Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                      world.files, world.printer, world.windows};
+  QuietWorld world;
+  world.boxes.typed = row.typed;
   putList(world, {record(9, row.balls)});
-  EXPECT_TRUE(filterList(row.filter, around, world.title));
+  EXPECT_TRUE(run(row.filter, world));
   EXPECT_EQ(world.files.exists(combinationList), row.kept);
   if (row.kept) {
     EXPECT_EQ(list(world), columnBytes({record(417, row.balls)}));
@@ -73,7 +69,7 @@ struct Passes {
   const char* name;
   Filter filter;
   const char* typed;
-  const char* question;
+  std::string question;
   const char* secondPass;
 };
 
@@ -87,7 +83,7 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   world.files.folder[tmpScratch] = columnBytes(Records(9));
   expectInput(world, passes.filter, passes.typed);
   world.boxes.expectQuestion(passes.question, true);
-  EXPECT_TRUE(filterList(passes.filter, world.around, world.title));
+  EXPECT_TRUE(run(passes.filter, world));
 
   const Records all = fourColumns();
   EXPECT_EQ(list(world), columnBytes({record(417, all[0].Balls), record(417, all[3].Balls)}));
@@ -105,19 +101,19 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
 
 INSTANTIATE_TEST_SUITE_P(Filters, FilterRewrite,
                          testing::Values(Passes{"F5", FilterUnwantedNumbers, "7,13",
-                                                SEVERAL("7,13"), " Faz 2 - Kolon :"},
+                                                unwantedSeveral("7,13"), " Faz 2 - Kolon :"},
                                          Passes{"F6", FilterWantedNumbers, "1,24",
-                                                WANTED_SEVERAL("1,24"), " FAZ 2 - Kolon :"},
+                                                wantedSeveral("1,24"), " FAZ 2 - Kolon :"},
                                          Passes{"F8", FilterWantedPairs, "1-3,23-24",
-                                                PAIRS("1-3, 23-24"), " Faz 2 - Kolon :"}),
+                                                wantedPairs("1-3, 23-24"), " Faz 2 - Kolon :"}),
                          [](const auto& passes) { return passes.param.name; });
 
 TEST(FilterRewrite, ThePairFilterToo) {
   World world;
   putList(world, fourColumns());
   expectInput(world, FilterUnwantedPair, "8-7");
-  world.boxes.expectQuestion(PAIR("7-8"), true);
-  EXPECT_TRUE(filterList(FilterUnwantedPair, world.around, world.title));
+  world.boxes.expectQuestion(unwantedPair("7-8"), true);
+  EXPECT_TRUE(run(FilterUnwantedPair, world));
   Records kept = fourColumns();
   kept.erase(kept.begin() + 1);
   for (ColumnRecord& one : kept) one.Word = 417;
@@ -131,8 +127,8 @@ TEST(FilterRewrite, EveryRecordIsMarkedEvenWhereNothingIsDeleted) {
   World world;
   putList(world, fourColumns());
   expectInput(world, FilterUnwantedPair, "7-7");
-  world.boxes.expectQuestion(PAIR("7-7"), true);
-  EXPECT_TRUE(filterList(FilterUnwantedPair, world.around, world.title));
+  world.boxes.expectQuestion(unwantedPair("7-7"), true);
+  EXPECT_TRUE(run(FilterUnwantedPair, world));
   Records kept = fourColumns();
   for (ColumnRecord& one : kept) one.Word = 417;
   EXPECT_EQ(list(world), columnBytes(kept));
@@ -144,8 +140,8 @@ TEST(FilterRewrite, AListOfWhichNothingIsKeptIsDeletedWithoutASecondPass) {
   putList(world, fourColumns());
   world.files.folder[tmpScratch] = hex("0B");
   expectInput(world, FilterWantedNumbers, "49");
-  world.boxes.expectQuestion(WANTED_ONE("49"), true);
-  EXPECT_TRUE(filterList(FilterWantedNumbers, world.around, world.title));
+  world.boxes.expectQuestion(wantedOne("49"), true);
+  EXPECT_TRUE(run(FilterWantedNumbers, world));
   EXPECT_FALSE(world.files.exists(combinationList));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
   EXPECT_EQ(world.files.bytes(tmpScratch), hex("0B")) << "the scratch file is not touched";
@@ -157,18 +153,18 @@ TEST(FilterRewrite, TakesTheListAsItIsAfterTheQuestion) {
   World world;
   putList(world, {fourColumns()[0]});
   expectInput(world, FilterUnwantedNumbers, "7");
-  world.boxes.expectQuestion(ONE("7"), true);
+  world.boxes.expectQuestion(unwantedOne("7"), true);
   world.boxes.whileOpen = [&] { putList(world, fourColumns()); };
-  EXPECT_TRUE(filterList(FilterUnwantedNumbers, world.around, world.title));
+  EXPECT_TRUE(run(FilterUnwantedNumbers, world));
   EXPECT_EQ(columnsOf(list(world)).size(), 3U);
 }
 
 TEST(FilterRewrite, AListThatLostItsRecordsIsDeletedByOneFilterAndLeftByTheOthers) {
   const Passes rows[] = {
-      {"F5", FilterUnwantedNumbers, "7", ONE("7"), ""},
-      {"F6", FilterWantedNumbers, "7", WANTED_ONE("7"), ""},
-      {"F7", FilterUnwantedPair, "7-8", PAIR("7-8"), ""},
-      {"F8", FilterWantedPairs, "7-8", PAIRS("7-8"), ""},
+      {"F5", FilterUnwantedNumbers, "7", unwantedOne("7"), ""},
+      {"F6", FilterWantedNumbers, "7", wantedOne("7"), ""},
+      {"F7", FilterUnwantedPair, "7-8", unwantedPair("7-8"), ""},
+      {"F8", FilterWantedPairs, "7-8", wantedPairs("7-8"), ""},
   };
   for (const Passes& row : rows) {
     SCOPED_TRACE(row.name);
@@ -178,7 +174,7 @@ TEST(FilterRewrite, AListThatLostItsRecordsIsDeletedByOneFilterAndLeftByTheOther
     world.boxes.expectQuestion(row.question, true);
     world.boxes.whileOpen = [&] { putList(world, {}); };
     const bool deletes = row.filter == FilterWantedPairs;
-    EXPECT_EQ(filterList(row.filter, world.around, world.title), deletes);
+    EXPECT_EQ(run(row.filter, world), deletes);
     EXPECT_EQ(world.files.exists(combinationList), !deletes);
     EXPECT_EQ(world.title.captions.size(), deletes ? 1U : 0U);
     EXPECT_TRUE(world.files.exists(listBackup));
@@ -190,33 +186,83 @@ TEST(FilterRewrite, AListThatVanishedIsAFaultAndLeavesTheOldBackup) {
   putList(world, fourColumns());
   world.files.folder[listBackup] = hex("0A");
   expectInput(world, FilterUnwantedNumbers, "7");
-  world.boxes.expectQuestion(ONE("7"), true);
+  world.boxes.expectQuestion(unwantedOne("7"), true);
   world.boxes.whileOpen = [&] { world.files.folder.erase(combinationList); };
-  EXPECT_THROW(filterList(FilterUnwantedNumbers, world.around, world.title), RunTimeError);
+  EXPECT_THROW(run(FilterUnwantedNumbers, world), RunTimeError);
   EXPECT_EQ(world.files.bytes(listBackup), hex("0A"));
 }
 
-/// Refuses the n-th step of a filter for every n; the old list must be in the backup or in place.
+TEST(FilterRewrite, ThePageThenStartsAtTheSecondColumn) {
+  for (const bool says : {true, false}) {
+    QuietWorld world;
+    putList(world, fourColumns());
+    world.boxes.typed = "7";
+    world.boxes.says = says;
+    ListPage page{.PageStart = 3};
+    EXPECT_EQ(filterList(FilterUnwantedNumbers, world.around, page, world.title), says);
+    EXPECT_EQ(page.PageStart, says ? 1 : 3);
+  }
+}
+
+/// The words of the list when phase 2 is about to begin its scratch file: `marks` of four columns.
+struct Marks {
+  const char* name;
+  Filter filter;
+  const char* typed;
+  std::vector<std::int32_t> words;
+};
+
+class BetweenThePhases : public testing::TestWithParam<Marks> {};
+
+TEST_P(BetweenThePhases, EveryRecordIsMarkedAndNothingElseChanged) {
+  QuietWorld world;
+  putList(world, fourColumns());
+  world.boxes.typed = GetParam().typed;
+  RefusingFiles files(world.files);
+  files.refuses = [](Fault fault, const std::string& name) {
+    return fault == Fault::open && name == tmpScratch;
+  };
+  Surroundings around = world.over(files);
+  ListPage page;
+  EXPECT_THROW(filterList(GetParam().filter, around, page, world.title), RunTimeError);
+
+  Records marked = fourColumns();
+  for (std::size_t i = 0; i < marked.size(); ++i) marked[i].Word = GetParam().words[i];
+  EXPECT_EQ(list(world), columnBytes(marked));
+  EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
+  EXPECT_EQ(world.title.captions.back(), " FAZ 1 - Kolon : 2 [ 4 ]");
+  EXPECT_EQ(world.files.folder.size(), 2U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Filters, BetweenThePhases,
+    testing::Values(Marks{"F5", FilterUnwantedNumbers, "7,13", {417, -1, -1, 417}},
+                    Marks{"F6", FilterWantedNumbers, "1,24", {417, -1, -1, 417}},
+                    Marks{"F8", FilterWantedPairs, "8-9,14-13", {-1, 417, 417, -1}}),
+    [](const auto& marks) { return marks.param.name; });
+
+/// Refuses the n-th step of a filter for every n: the old list must be in the backup or in place,
+/// and no scratch file stays.
 void refuseEachStep(Filter filter, const char* typed, const Records& records) {
-  YieldingBoxes boxes;
-  boxes.typed = typed;
   int refusals = 0;
   for (int failing = 1;; ++failing) {
-    World world;
+    SCOPED_TRACE("refused call " + std::to_string(failing));
+    QuietWorld world;
+    world.boxes.typed = typed;
     putList(world, records);
     RefusingFiles files(world.files);
-    Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                        files,       world.printer, world.windows};
+    Surroundings around = world.over(files);
     files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
+    ListPage page;
     try {
-      filterList(filter, around, world.title);
+      filterList(filter, around, page, world.title);
       break;
     } catch (const RunTimeError&) {
       ++refusals;
     }
     EXPECT_TRUE(world.files.bytes(listBackup) == columnBytes(records) ||
-                list(world) == columnBytes(records))
-        << "refused call " << failing;
+                list(world) == columnBytes(records));
+    EXPECT_FALSE(world.files.exists(tmpScratch));
   }
   EXPECT_GE(refusals, 6);
 }

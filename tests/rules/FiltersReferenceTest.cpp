@@ -8,7 +8,6 @@
 
 #include "comblist/Filters.h"
 #include "doubles/Doubles.h"
-#include "doubles/YieldingBoxes.h"
 
 // The four filters told a second time, as a few lines over sets that share nothing with the
 // program, and compared with it on random lists and inputs.
@@ -211,17 +210,16 @@ struct Counts {
 };
 
 void compare(Filter filter, Dice& dice, Counts& counts) {
-  World world;
-  YieldingBoxes boxes;
-  Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                      world.files, world.printer, world.windows};
+  QuietWorld world;
   const Bytes before = dice.list();
+  YieldingBoxes& boxes = world.boxes;
   boxes.typed = dice.input(filter >= Filter::FilterUnwantedPair);
   boxes.says = !dice.oneIn(20);
   world.files.folder[combinationList] = before;
   SCOPED_TRACE(boxes.typed);
 
-  filterList(filter, around, world.title);
+  ListPage page;
+  filterList(filter, world.around, page, world.title);
 
   std::map<std::string, Bytes> expected = {{combinationList, before}};
   const std::optional<Wish> wish = before.size() > 8 ? read(filter, boxes.typed) : std::nullopt;

@@ -4,7 +4,6 @@
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
 #include "doubles/Sets.h"
-#include "doubles/YieldingBoxes.h"
 
 namespace karvenis {
 namespace {
@@ -273,6 +272,7 @@ bool overflows(World& world, int grown, const char* wanted) {
     random.start(Mode::append, wanted);
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.fault(), Fault::overflow);
+    EXPECT_FALSE(world.files.exists(tmpScratch)) << "nor its growth";
     return true;
   }
   return false;
@@ -293,12 +293,10 @@ TEST(AppendToList, ARecordNumberBeyondTheLimitIsAFaultAndTheListStays) {
 TEST(GenerateNewList, ARefusalAtAnyStepLeavesTheOldListInTheBackupOrInPlace) {
   int refusals = 0;
   for (int failing = 1;; ++failing) {
-    World world;
-    putList(world, 3);
-    YieldingBoxes boxes;
+    QuietWorld world;
+    world.files.folder[combinationList] = listOf(3);
     RefusingFiles files(world.files);
-    Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                        files,       world.printer, world.windows};
+    Surroundings around = world.over(files);
     Generator random(around, world.title);
     files.calls = 0;
     files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
@@ -310,6 +308,7 @@ TEST(GenerateNewList, ARefusalAtAnyStepLeavesTheOldListInTheBackupOrInPlace) {
     }
     EXPECT_TRUE(world.files.bytes(listBackup) == listOf(3) ||
                 world.files.bytes(combinationList) == listOf(3));
+    EXPECT_FALSE(world.files.exists(tmpScratch));
   }
   EXPECT_GE(refusals, 4);
 }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "comblist/CombinationList.h"
-#include "doubles/Columns.h"
+#include "doubles/Doubles.h"
 #include "doubles/RecordingSurface.h"
 
 namespace karvenis {
@@ -99,21 +99,21 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(OpenListing, OpensTheDialogOnlyOverAWholeRecord) {
   World world;
   world.boxes.expectBeep(3);
-  OpenListing(world.around);
+  openListing(world.around);
   world.files.folder[combinationList].resize(15);
-  OpenListing(world.around);
+  openListing(world.around);
   EXPECT_TRUE(world.windows.shown.empty());
   world.files.folder[combinationList].resize(16);
-  OpenListing(world.around);
+  openListing(world.around);
   EXPECT_EQ(world.windows.shown, std::vector<std::string>{"frmCLPrint"});
 }
 
 TEST(CopyToRandomColumns, OnlyBeepsWithoutAWholeRecord) {
   World world;
   world.boxes.expectBeep(2);
-  EXPECT_TRUE(CopyToRandomColumns(world.around));
+  EXPECT_TRUE(copyToRandomColumns(world.around));
   world.files.folder[combinationList].resize(15);
-  EXPECT_TRUE(CopyToRandomColumns(world.around));
+  EXPECT_TRUE(copyToRandomColumns(world.around));
   EXPECT_FALSE(world.files.exists(randomColumns));
 }
 
@@ -121,7 +121,7 @@ TEST(CopyToRandomColumns, CopiesWithoutAQuestionWhereThereIsNoFile) {
   ListWorld world;
   world.hold(3);
   world.boxes.expectBeep().expectMessage(copied);
-  EXPECT_TRUE(CopyToRandomColumns(world.around));
+  EXPECT_TRUE(copyToRandomColumns(world.around));
   EXPECT_EQ(world.files.bytes(randomColumns), countedColumns(3));
   EXPECT_EQ(world.files.folder.size(), 2U);
 }
@@ -131,10 +131,10 @@ TEST(CopyToRandomColumns, AsksBeforeItReplacesAFileAndTakesNoBackup) {
   world.hold(3);
   world.files.folder[randomColumns] = hex("01");
   world.boxes.expectBeep().expectQuestion(copyQuestion, false);
-  EXPECT_FALSE(CopyToRandomColumns(world.around));
+  EXPECT_FALSE(copyToRandomColumns(world.around));
   EXPECT_EQ(world.files.bytes(randomColumns), hex("01"));
   world.boxes.expectBeep().expectQuestion(copyQuestion, true).expectMessage(copied);
-  EXPECT_TRUE(CopyToRandomColumns(world.around));
+  EXPECT_TRUE(copyToRandomColumns(world.around));
   EXPECT_EQ(world.files.bytes(randomColumns), countedColumns(3));
   EXPECT_EQ(world.files.bytes(combinationList), countedColumns(3));
   EXPECT_EQ(world.files.folder.size(), 2U);
@@ -143,20 +143,20 @@ TEST(CopyToRandomColumns, AsksBeforeItReplacesAFileAndTakesNoBackup) {
 TEST(DeleteList, OnlyBeepsWithoutAList) {
   World world;
   world.boxes.expectBeep();
-  DeleteList(world.around);
+  deleteList(world.around);
 }
 
 TEST(DeleteList, DeletesAfterAYesWithoutABackup) {
   ListWorld world;
   world.hold(3);
   world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
-  DeleteList(world.around);
+  deleteList(world.around);
   EXPECT_TRUE(world.files.exists(combinationList));
   world.boxes.expectBeep()
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
       .expectMessage("'KARVENIS.LST' silindi...");
-  DeleteList(world.around);
+  deleteList(world.around);
   EXPECT_TRUE(world.files.folder.empty());
 }
 
@@ -184,7 +184,7 @@ TEST(ShowListKeys, NamesEveryKeyAndTheCompanionProgram) {
       "HOME= İlk Sayfa\rEND= Son Sayfa\rPAGEDOWN= Sonraki Sayfa\rPAGEUP= Önceki Sayfa\r\r"
       "ESC= Kapat",
       " Kombinasyon Listesi FONKSİYON TUŞLARI");
-  ShowListKeys(world.boxes);
+  showListKeys(world.boxes);
 }
 
 // --- F3
@@ -218,6 +218,17 @@ TEST_P(DeletedColumn, IsTheOneOfTheTypedNumber) {
   EXPECT_EQ(world.page.PageStart, entry.pageStart);
   EXPECT_EQ(columnsOf(world.files.bytes(combinationList)).size(), entry.deleted ? 29U : 30U);
   EXPECT_EQ(world.files.exists(listBackup), entry.deleted);
+}
+
+TEST(DeleteColumn, TheOldListIsInItsBackup) {
+  ListWorld world;
+  world.hold(3);
+  const Bytes before = world.files.bytes(combinationList);
+  world.files.folder[listBackup] = hex("01 02 03");
+  world.boxes.expectBeep().expectInput(numberPrompt, "Kolon SİLME", "0", "2");
+  DeleteColumn(world.around, world.page);
+  EXPECT_EQ(world.files.bytes(listBackup), before);
+  EXPECT_FALSE(world.files.exists(ylsScratch));
 }
 
 INSTANTIATE_TEST_SUITE_P(
