@@ -31,6 +31,7 @@ void speakTurkish(QTranslator& words) {
 
 int main(int argc, char** argv) {
   using namespace karvenis;
+  SystemFiles files;  // first, since the toolkit may write files too
   Application application(argc, argv);
   Application::setApplicationName(u"KARVENIS"_s);
   Application::setDesktopFileName(u"karvenis"_s);
@@ -42,7 +43,6 @@ int main(int argc, char** argv) {
   QtBoxes boxes;
   QtClock clock;
   SystemChance chance;
-  SystemFiles files;
   QtPrinter printer;
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};

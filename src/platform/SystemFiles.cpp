@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <tuple>
@@ -253,6 +254,8 @@ class Replacement {
 };
 
 }  // namespace
+
+SystemFiles::SystemFiles() { std::ignore = std::signal(SIGXFSZ, SIG_IGN); }
 
 std::unique_ptr<File> SystemFiles::open(const std::string& name) {
   Descriptor descriptor = openExisting(name);

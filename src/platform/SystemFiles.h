@@ -7,6 +7,9 @@ namespace karvenis {
 /// The files of the current directory.
 class SystemFiles final : public Files {
  public:
+  /// From then on a size limit that the system sets is an error of the write that reaches it; the
+  /// signal that would end the program is ignored.
+  SystemFiles();
   std::unique_ptr<File> open(const std::string& name) override;
   bool exists(const std::string& name) override;
   std::uint64_t length(const std::string& name) override;

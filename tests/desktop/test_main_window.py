@@ -146,6 +146,14 @@ class Ends(DesktopCase):
         box.press("Return")
         self.expect_end(1)
 
+    def test_a_size_limit_is_told_and_keeps_the_place(self):
+        place = struct.pack("<ff", 1500, 3000)
+        program = self.start({"KV2005.CFG": place}, through=("prlimit", "--fsize=5"))
+        self.click("push button", "Çıkış")
+        self.expect_box("'KV2005.CFG' dosyasına yazılamadı.\nNeden: Dosya çok büyük.", "! HATA !")
+        self.expect_end(1)
+        self.assertEqual(program.bytes("KV2005.CFG"), place)
+
 
 class Draws(DesktopCase):
     def test_two_columns_are_drawn_and_kept(self):

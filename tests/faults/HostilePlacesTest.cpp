@@ -4,9 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <tuple>
-
 #include "core/ColumnFile.h"
 #include "faults/AsNobody.h"
 #include "faults/DiskFolder.h"
@@ -24,21 +21,17 @@ constexpr const char* names[] = {"KARVENIS.RND", "KARVENIS.LST", "KARVENIS.OLD",
 /// No file grows beyond so many bytes.
 class SmallDisk {
  public:
-  explicit SmallDisk(rlim_t most) : before_(std::signal(SIGXFSZ, SIG_IGN)) {
+  explicit SmallDisk(rlim_t most) {
     EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &limit_), 0);
     const rlimit small{most, limit_.rlim_max};
     EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
   }
-  ~SmallDisk() {
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit_), 0);
-    std::ignore = std::signal(SIGXFSZ, before_);
-  }
+  ~SmallDisk() { EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit_), 0); }
   SmallDisk(const SmallDisk&) = delete;
   SmallDisk& operator=(const SmallDisk&) = delete;
 
  private:
   rlimit limit_{};
-  void (*before_)(int);
 };
 
 class HostilePlace : public testing::TestWithParam<Action> {

@@ -14,6 +14,7 @@
 #include <fstream>
 #include <functional>
 #include <set>
+#include <tuple>
 
 #include "doubles/MemoryFiles.h"
 #include "doubles/SystemCalls.h"
@@ -206,7 +207,6 @@ TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsItWas) {
     SCOPED_TRACE(name);
     put("F", old);
     const auto file = files.open("F");
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
     rlimit whole{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &whole), 0);
     const rlimit small{limit, whole.rlim_max};
@@ -214,10 +214,26 @@ TEST_F(InAFolder, AWriteThatFailsHalfWayLeavesTheFileAsItWas) {
     const Fault fault =
         faultOf([&, at = offset, count = bytes] { file->write(at, Bytes(count, std::byte{'n'})); });
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &whole), 0);
-    std::ignore = std::signal(SIGXFSZ, before);
     EXPECT_EQ(fault, Fault::write);
     EXPECT_EQ(get("F"), old);
   }
+}
+
+TEST_F(InAFolder, ASizeLimitIsAnErrorAndKillsNobody) {
+  put("F", "12345678");
+  const pid_t child = ::fork();
+  if (child == 0) {
+    std::ignore = std::signal(SIGXFSZ, SIG_DFL);  // as a program is started
+    SystemFiles fresh;
+    const rlimit five{5, 5};
+    ::setrlimit(RLIMIT_FSIZE, &five);
+    const Fault fault = faultOf([&] { fresh.open("F")->write(0, Bytes(8, std::byte{'n'})); });
+    ::_exit(fault == Fault::write ? 0 : 1);
+  }
+  int status = -1;
+  ::waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(get("F"), "12345678");
 }
 
 /// Root may write everything, so what a protected file means is seen as somebody else.
