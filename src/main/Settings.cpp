@@ -33,7 +33,7 @@ std::optional<Place> readPlace(Files& files) {
   if (!files.exists(settingsFile)) return std::nullopt;
   RecordFile file(files, settingsFile, Record{}.size());
   Place place;
-  if (file.length() > Record{}.size()) {
+  if (file.length() >= 2 * Record{}.size()) {
     place = {readFloat(file, topRecord), readFloat(file, leftRecord)};
   }
   file.close();

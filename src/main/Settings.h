@@ -15,12 +15,13 @@ struct Place {
   float left = 0;
 };
 
-/// The place in the settings file; empty where there is no file or it holds no finite numbers. A
-/// file of 4 bytes or less is opened but not read: its place is 0, 0. Throws RunTimeError.
-std::optional<Place> readPlace(Files& files);
+/// The place in the settings file; empty if there is no file or it holds no finite numbers. A file
+/// of less than two whole records is opened but not read: its place is 0, 0. Throws
+/// RunTimeError(open, read).
+[[nodiscard]] std::optional<Place> readPlace(Files& files);
 
-/// Writes the place, creating the file where it is missing; a longer file keeps its length. Throws
-/// RunTimeError.
+/// Writes the place, creating the file if it is missing; a longer file keeps its length. Throws
+/// RunTimeError(open, write), and then the file holds what it held before.
 void writePlace(Files& files, Place place);
 
 }  // namespace karvenis

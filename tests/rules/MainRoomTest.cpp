@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 
 #include "core/Draw.h"
@@ -8,7 +7,6 @@
 #include "doubles/Sets.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
-#include "platform/SystemChance.h"
 
 namespace karvenis {
 namespace {
@@ -19,8 +17,8 @@ TEST(SettingsTest, AMissingFileGivesNoPlaceAndIsNotMade) {
   EXPECT_TRUE(files.folder.empty());
 }
 
-TEST(SettingsTest, UpToFourBytesAreThePlaceZero) {
-  for (std::size_t length = 0; length <= 4; ++length) {
+TEST(SettingsTest, LessThanTwoWholeRecordsAreThePlaceZero) {
+  for (std::size_t length = 0; length < 8; ++length) {
     MemoryFiles files;
     files.folder["KV2005.CFG"] = Bytes(length, std::byte{0x44});
     const auto place = readPlace(files);
@@ -40,15 +38,6 @@ TEST(SettingsTest, TopComesFirst) {
   EXPECT_EQ(place->left, 600);
 }
 
-TEST(SettingsTest, AHalfSecondRecordIsFilledWithZeros) {
-  MemoryFiles files;
-  files.folder["KV2005.CFG"] = hex("00 00 61 44 00");
-  const auto place = readPlace(files);
-  ASSERT_TRUE(place.has_value());
-  EXPECT_EQ(place->top, 900);
-  EXPECT_EQ(place->left, 0);
-}
-
 TEST(SettingsTest, WhatIsNoFiniteNumberIsNoPlace) {
   for (const char* bytes : {"00 00 C0 7F 00 00 00 00", "00 00 00 00 00 00 80 7F",
                             "00 00 80 FF 00 00 00 00", "01 00 80 7F 01 00 80 7F"}) {
@@ -63,23 +52,6 @@ TEST(SettingsTest, WritingKeepsALongerFilesTail) {
   files.folder["KV2005.CFG"] = hex("01 02 03 04 05 06 07 08 09 0A");
   writePlace(files, {900, 600});
   EXPECT_EQ(files.bytes("KV2005.CFG"), hex("00 00 61 44 00 00 16 44 09 0A"));
-}
-
-TEST(SystemChanceTest, TwoSeedingsOfOneMomentGiveTwoSequences) {
-  SystemChance chance;
-  const auto sequence = [&] {
-    chance.seed(1'000'000);
-    std::vector<float> numbers;
-    for (int i = 0; i < 8; ++i) numbers.push_back(chance.next());
-    return numbers;
-  };
-  const auto first = sequence();
-  EXPECT_NE(first, sequence());
-  for (const float number : first) {
-    EXPECT_GE(number, 0.0F);
-    EXPECT_LT(number, 1.0F);
-    EXPECT_EQ(number * (1 << 24), std::floor(number * (1 << 24))) << "24 bits";
-  }
 }
 
 TEST(CanDraw, AsksForSixDistinctBallsOfBagAndBankos) {
