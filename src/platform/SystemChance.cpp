@@ -1,11 +1,20 @@
 #include "platform/SystemChance.h"
 
+#include <unistd.h>
+
+#include <array>
+#include <ctime>
+#include <tuple>
+
 namespace karvenis {
 
 void SystemChance::seed(std::int64_t microseconds) {
-  const auto clock = static_cast<std::uint64_t>(microseconds);
-  std::seed_seq sources{static_cast<std::uint32_t>(clock), static_cast<std::uint32_t>(clock >> 32U),
-                        static_cast<std::uint32_t>(generator_())};
+  std::array<std::int64_t, 3> entropy{};  // stays 0 on a system that gives none
+  std::ignore = ::getentropy(entropy.data(), sizeof entropy);
+  const std::int64_t date = std::time(nullptr);
+  const auto before = static_cast<std::int64_t>(generator_());
+  // Of each the lower 32 bits count.
+  std::seed_seq sources{microseconds, date, before, entropy[0], entropy[1], entropy[2]};
   generator_.seed(sources);
 }
 

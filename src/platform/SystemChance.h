@@ -6,9 +6,11 @@
 
 namespace karvenis {
 
-/// The Mersenne twister of the standard library behind the door to chance.
+/// The random source of the program: the Mersenne twister of the standard library.
 class SystemChance final : public Chance {
  public:
+  /// Folds in the date and the system's own entropy too, so that two starts at the same time of
+  /// two days differ.
   void seed(std::int64_t microseconds) override;
   float next() override;
 
