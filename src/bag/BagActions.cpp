@@ -1,6 +1,7 @@
 #include "bag/BagActions.h"
 
 #include "bag/BagFile.h"
+#include "bag/Texts.h"
 
 namespace karvenis {
 namespace {
@@ -17,16 +18,6 @@ void markBag(const SharedState& state, BallButtons& buttons) {
   for (const std::int16_t ball : state.Bag.balls()) {
     if (isBall(ball)) buttons.setMarked(ball, true);
   }
-}
-
-/// Reads a bag of `count` balls, where the file is known to be long enough for them.
-void takeBag(Surroundings& around, BagFile& file, std::int16_t count) {
-  around.state.Bag.clear();
-  if (count <= 0) return;
-  around.boxes.beep();
-  if (count > ballsInAll) return;
-  file.readBag(around.state, count);
-  around.state.Bag.remove(around.state.Banko);
 }
 
 }  // namespace
@@ -48,20 +39,24 @@ void applyBag(Surroundings& around, BallButtons& buttons) {
   markBag(around.state, buttons);
 }
 
-void loadBag(Surroundings& around, BallButtons& buttons) {
+void loadBagInBagWindow(Surroundings& around, BallButtons& buttons) {
   around.boxes.beep();
-  if (lengthOrNone(around.files, bagFileName) <= BagFile::recordLength) return;
+  const std::int64_t length = bagFileLength(around.files);
+  if (length <= bagWordSize) return;
   if (!around.boxes.ask("Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
+  if (!around.files.exists(bagFileName)) return;  // it went while the question was open
 
   BagFile file(around.files);
-  const std::int16_t count = file.get(bagCountRecord);
-  if (file.length() < std::int64_t{BagFile::recordLength} * count) {
+  const std::int16_t count = file.bagCount();
+  if (length < bagWordSize * count) {
     around.boxes.warn(bagFileBroken, errorTitle);
     file.close();
     return;
   }
   buttons.markAll(false);
-  takeBag(around, file, count);
+  if (count > 0) around.boxes.beep();
+  around.state.Bag = file.bag(count);
+  around.state.Bag.remove(around.state.Banko);
   markBag(around.state, buttons);
   file.close();
 }
@@ -72,7 +67,7 @@ void saveBag(Surroundings& around, const BallButtons& buttons) {
 
   takeMarked(around.state, buttons);
   BagFile file(around.files);
-  file.writeBag(around.state.Bag.balls());
+  file.write(around.state.Bag);
   file.close();
   around.boxes.beep();
   around.boxes.message(bagFileSaved);

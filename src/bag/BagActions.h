@@ -9,23 +9,24 @@ class BallButtons {
  public:
   virtual ~BallButtons() = default;
   /// `ball` is 1..49.
-  virtual bool isMarked(int ball) const = 0;
+  [[nodiscard]] virtual bool isMarked(int ball) const = 0;
   virtual void setMarked(int ball, bool marked) = 0;
 
   void markAll(bool marked);
 };
 
-/// Marks exactly the balls of the bag.
+/// Marks the balls of the bag and no others.
 void showBag(const SharedState& state, BallButtons& buttons);
 
 /// "Uygula": the marked balls, without the bankos, become the bag, and the buttons show it. Any
 /// number of balls will do. Beeps.
 void applyBag(Surroundings& around, BallButtons& buttons);
 
-/// "Yükle": asks, takes the bag from the file and shows it. Unlike the main window's load it
-/// accepts a file of exactly 2 x count bytes, says where a file is broken, and empties the bag
-/// where the count is 0 or less.
-void loadBag(Surroundings& around, BallButtons& buttons);
+/// "Yükle" of the bag window: asks, takes the bag from the file and shows it. Unlike the main
+/// window's load it accepts a file of exactly 2 x count bytes, warns if the file is broken, and
+/// empties the bag if the count is 0 or less. A file that goes while the question is open changes
+/// nothing. Throws RunTimeError(open, read).
+void loadBagInBagWindow(Surroundings& around, BallButtons& buttons);
 
 /// "Kayıtla": asks, then the marked balls become the bag, bankos and all, and go to the file. What
 /// the file holds of the bankos stays. Throws RunTimeError(open, write).

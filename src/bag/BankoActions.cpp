@@ -1,11 +1,12 @@
 #include "bag/BankoActions.h"
 
 #include "bag/BagFile.h"
+#include "bag/Texts.h"
 
 namespace karvenis {
 namespace {
 
-/// The ball whose number `text` begins with; 0 where it begins with none.
+/// The ball whose number `text` begins with; 0 if it begins with none.
 std::int16_t ballAtStart(std::string_view text) {
   std::int16_t number = 0;
   for (const char c : text) {
@@ -60,15 +61,17 @@ void applyBanko(Surroundings& around, BankoBoxes& boxes) {
 
 void clearBanko(SharedState& state) { state.Banko.clear(); }
 
-void loadBanko(Surroundings& around, BankoBoxes& boxes) {
+void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
   around.boxes.beep();
-  if (!reachesBanko(around.files)) return;
+  const std::int64_t length = bagFileLength(around.files);
+  if (!holdsBankos(length, 0)) return;
   if (!around.boxes.ask("Banko topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
+  if (!around.files.exists(bagFileName)) return;  // it went while the question was open
 
   BagFile file(around.files);
-  const std::int16_t count = file.get(bankoCountRecord);
-  if (file.holdsBanko(count)) {
-    file.readBanko(around.state, count);
+  const std::int16_t count = file.bankoCount();
+  if (holdsBankos(length, count)) {
+    around.state.Banko = file.bankos(count);
     clearBoxes(boxes);
     ShowBankoSelection(around.state, boxes);
   } else {
@@ -87,8 +90,8 @@ void saveBanko(Surroundings& around, BankoBoxes& boxes) {
   applyBanko(around, boxes);
 
   BagFile file(around.files);
-  if (file.length() < 2) file.writeBag({});
-  file.writeBanko(around.state.Banko.balls());
+  if (file.length() < 2) file.write(BallSet<ballsInAll>());
+  file.write(around.state.Banko);
   file.close();
   around.boxes.beep();
   around.boxes.message(bagFileSaved);

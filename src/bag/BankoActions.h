@@ -11,7 +11,7 @@ namespace karvenis {
 class BankoBoxes {
  public:
   virtual ~BankoBoxes() = default;
-  /// The number of bankos that the selected option stands for, 0..5; 0 where none is selected.
+  /// The number of bankos that the selected option stands for, 0..5; 0 if none is selected.
   virtual int count() const = 0;
   /// Selects the option of `count` (0..5) and shows as many boxes.
   virtual void chooseCount(int count) = 0;
@@ -20,16 +20,15 @@ class BankoBoxes {
   virtual void setText(int index, const std::string& text) = 0;
 };
 
-/// The caption over `count` boxes.
-const char* bankoCaption(int count);
+/// The caption over `count` boxes (0..5).
+[[nodiscard]] const char* bankoCaption(int count);
 
-/// What stays in a box where `typed` was typed, pasted or put: the number that the text begins
-/// with, plainly written, or nothing where that is no ball. Only ASCII digits count, and only at
-/// the very start.
-std::string bankoText(std::string_view typed);
+/// What a box keeps of a text: the number that `typed` begins with, plainly written, or nothing if
+/// that is no ball (1..49). Only ASCII digits count, and only at the very start.
+[[nodiscard]] std::string bankoText(std::string_view typed);
 
-/// Shows the bankos: selects their number and writes them into the boxes, whose filter clears what
-/// is no ball. Boxes beyond their number keep their text.
+/// Shows the bankos: selects how many there are and writes them into the boxes, which clear what is
+/// no ball. The other boxes keep their text.
 void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes);
 
 /// "Uygula": the numbers in the boxes become the bankos, without blanks and repeats, and leave the
@@ -39,9 +38,10 @@ void applyBanko(Surroundings& around, BankoBoxes& boxes);
 /// "Seçimi Sil": no bankos. The boxes keep what they show, and no ball returns to the bag.
 void clearBanko(SharedState& state);
 
-/// "Yükle": asks, takes the bankos from the file, shows them and removes them from the bag; says
-/// where a file is broken.
-void loadBanko(Surroundings& around, BankoBoxes& boxes);
+/// "Yükle" of the banko window: asks, takes the bankos from the file, shows them and removes them
+/// from the bag; warns if the file is broken. A file that goes while the question is open changes
+/// nothing. Throws RunTimeError(open, read).
+void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes);
 
 /// "Kayıtla": asks, applies, then puts the bankos into the file. What the file holds of the bag
 /// stays; a new file gets an empty bag. Throws RunTimeError(open, write).

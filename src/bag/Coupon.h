@@ -7,7 +7,7 @@
 
 namespace karvenis {
 
-/// What a coupon needs of its window beside the surface.
+/// What a coupon changes in its window, beside the surface.
 class CouponWindow {
  public:
   virtual ~CouponWindow() = default;
@@ -28,8 +28,9 @@ class Coupon {
   void start();
   /// Clears the page and goes on, in the middle of a coupon with its remaining balls and columns.
   void newPage();
-  /// One step: a ball, the head of the next column, or the end of the coupon. Where no column can
-  /// be drawn it stops the ticks and says so.
+  /// One step: the head of the next column, which it draws, or a ball of it, as the drawn column
+  /// holds it by now, or the end of the coupon. If no column can be drawn, it stops the ticks and
+  /// warns.
   void tick();
   /// "F10 = Yardım".
   void showKeys();

@@ -6,6 +6,11 @@ namespace karvenis {
 
 /// The longer texts of the bag, banko and coupon windows. Character 13 is a line break.
 
+/// What a load says of a file that does not hold what its counts claim.
+inline constexpr char bagFileBroken[] = "'KARVENIS.DAT' dosyası bozuk !";
+/// What a save says when it is done.
+inline constexpr char bagFileSaved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
+
 inline constexpr char bagKeys[] =
     "Torba Menüsü FONKSİYON TUŞLARI : \r\r"
     "F1=  Uygula (İşaretli topları torbaya koy)\r"

@@ -112,7 +112,7 @@ void frmBalls::cmdBall_Click(int Index) {
 }
 
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
-void frmBalls::Command3_Click() { loadBag(around_, *this); }
+void frmBalls::Command3_Click() { loadBagInBagWindow(around_, *this); }
 void frmBalls::Command4_Click() { saveBag(around_, *this); }
 void frmBalls::mnuHepsi_Click() { markAll(true); }
 void frmBalls::mnuHicbiri_Click() { markAll(false); }

@@ -48,12 +48,16 @@ QWidget* frmBanko::buildOptions() {
   row->setSpacing(margin / 2);
   Label1 = control<QLabel>(u"Label1"_s, u"Banko Top Sayısı:"_s);
   row->addWidget(Label1);
+  constexpr std::array clicks = {&frmBanko::Option1_Click, &frmBanko::Option2_Click,
+                                 &frmBanko::Option3_Click, &frmBanko::Option4_Click,
+                                 &frmBanko::Option5_Click, &frmBanko::Option6_Click};
   for (int count = 0; count <= mostBankos; ++count) {
     auto* option = control<QRadioButton>(u"Option%1"_s.arg(count + 1), QString::number(count));
     option->setAccessibleName(u"%1 banko top"_s.arg(count));
-    on(option, &QRadioButton::toggled, [this, option, count] {
-      if (option->isChecked()) Option_Click(count);
-    });
+    on(option, &QRadioButton::toggled,
+       [this, option, click = clicks[static_cast<std::size_t>(count)]] {
+         if (option->isChecked()) (this->*click)();
+       });
     Option[static_cast<std::size_t>(count)] = option;
     row->addWidget(option);
   }
@@ -84,7 +88,7 @@ QWidget* frmBanko::buildBoxes() {
     box->setSizePolicy(kept);
     box->hide();
     on(box, &QLineEdit::textChanged, [this, index] { Text1_Change(index); });
-    onEnter(box, [this, index] { Text1_Enter(index); });
+    onEnter(box, [this, index] { Text1_KeyPress(index); });
     Text1[static_cast<std::size_t>(index)] = box;
     row->addWidget(box);
   }
@@ -117,7 +121,7 @@ void frmBanko::ownKey(int KeyCode) {
   if (KeyCode == keyF11) mnuBankoNedir_Click();
 }
 
-void frmBanko::Option_Click(int count) {
+void frmBanko::showBoxes(int count) {
   Label2->setText(toQt(bankoCaption(count)));
   for (int index = 0; index < mostBankos; ++index) {
     Text1[static_cast<std::size_t>(index)]->setVisible(index < count);
@@ -136,7 +140,7 @@ void frmBanko::Text1_Change(int Index) {
   if (kept != box->text()) box->setText(kept);
 }
 
-void frmBanko::Text1_Enter(int Index) {
+void frmBanko::Text1_KeyPress(int Index) {
   const auto next = static_cast<std::size_t>(Index) + 1;
   if (next < Text1.size() && Text1[next]->isVisible()) {
     Text1[next]->setFocus(Qt::TabFocusReason);
@@ -146,7 +150,7 @@ void frmBanko::Text1_Enter(int Index) {
 }
 
 void frmBanko::Command1_Click() { applyBanko(around_, *this); }
-void frmBanko::Command3_Click() { loadBanko(around_, *this); }
+void frmBanko::Command3_Click() { loadBankoInBankoWindow(around_, *this); }
 void frmBanko::Command4_Click() { saveBanko(around_, *this); }
 void frmBanko::mnuSil_Click() { clearBanko(around_.state); }
 

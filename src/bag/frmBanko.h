@@ -30,9 +30,15 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   QWidget* buildBoxes();
   QWidget* buildFoot();
 
-  void Option_Click(int count);
+  void Option1_Click() { showBoxes(0); }
+  void Option2_Click() { showBoxes(1); }
+  void Option3_Click() { showBoxes(2); }
+  void Option4_Click() { showBoxes(3); }
+  void Option5_Click() { showBoxes(4); }
+  void Option6_Click() { showBoxes(5); }
+  void showBoxes(int count);
   void Text1_Change(int Index);
-  void Text1_Enter(int Index);
+  void Text1_KeyPress(int Index);  // Enter; no other character has a meaning
   void Command1_Click() override;
   void Command3_Click() override;
   void Command4_Click() override;

@@ -38,9 +38,7 @@ frmList::frmList(Surroundings& around)
   Timer1 = new QTimer(this);
   Timer1->setObjectName(u"Timer1"_s);
   Timer1->setInterval(tick);
-  on(Timer1, &QTimer::timeout, [this] {
-    if (!isClosing()) coupon_.tick();
-  });
+  on(Timer1, &QTimer::timeout, [this] { Timer1_Timer(); });
 }
 
 /// A page on which the widest coupon fits.
@@ -67,6 +65,10 @@ void frmList::Form_KeyDown(int KeyCode, int) {
 }
 
 void frmList::Form_DblClick() { coupon_.newPage(); }
+
+void frmList::Timer1_Timer() {
+  if (!isClosing()) coupon_.tick();
+}
 
 void frmList::enableTimer1(bool enabled) {
   // Starting a timer that runs would put its tick off, for ever under a key that is held.

@@ -25,6 +25,7 @@ class frmList final : public Form, private CouponWindow {
   void Form_DblClick() override;
 
  private:
+  void Timer1_Timer();
   static Surface* makePage(QWidget* parent);
   void enableTimer1(bool enabled) override;
   void hideLabel1() override;

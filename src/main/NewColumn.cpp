@@ -1,6 +1,7 @@
 #include "main/NewColumn.h"
 
 #include "core/ColumnFile.h"
+#include "core/Draw.h"
 #include "core/Numbers.h"
 
 namespace karvenis {
@@ -13,6 +14,15 @@ void takeRecord(Surroundings& around, std::int32_t number) {
 }
 
 }  // namespace
+
+bool drawFromBag(Surroundings& around, bool sorted) {
+  if (!canDraw(around.state)) {
+    around.boxes.warn(tooFewBalls, tooFewBallsTitle);
+    return false;
+  }
+  DrawColumn(around.state, around.chance, around.clock, sorted);
+  return true;
+}
 
 std::optional<ListPick> PickFromList(Surroundings& around) {
   if (!around.files.exists(combinationList)) {

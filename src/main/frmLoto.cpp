@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QTimer>
 
-#include "bag/BagFile.h"
+#include "bag/MainWindowLoads.h"
 #include "core/Draw.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
@@ -45,24 +45,20 @@ void frmLoto::Command1_Click() {
   takePicture();
   cover_.stamp(around_.clock.minute());
   if (Option1->isChecked()) {
-    drawFromBag();
+    newColumnFromBag();
   } else {
-    drawFromList();
+    newColumnFromList();
   }
   Picture0->hide();
 }
 
-void frmLoto::drawFromBag() {
-  if (!canDraw(around_.state)) {
-    around_.boxes.warn(tooFewBalls, tooFewBallsTitle);
-    return;
-  }
-  DrawColumn(around_.state, around_.chance, around_.clock, Check1->isChecked());
+void frmLoto::newColumnFromBag() {
+  if (!drawFromBag(around_, Check1->isChecked())) return;
   setCaption(standardTitle);
   animation_.start();
 }
 
-void frmLoto::drawFromList() {
+void frmLoto::newColumnFromList() {
   if (const auto pick = PickFromList(around_)) {
     ShowColumn();
     setCaption(pickTitle(*pick));
@@ -107,9 +103,9 @@ void frmLoto::mnuShowRndList_Click() { showRndList(around_, *this); }
 void frmLoto::mnuChangeRndFile_Click() { changeRndFile(around_, *this); }
 void frmLoto::mnuDeleteRndFile_Click() { deleteRndFile(around_, *this); }
 void frmLoto::mnuShowBag_Click() { around_.windows.show("frmBalls"); }
-void frmLoto::mnuLoadBag_Click() { askAndLoadBag(around_); }
+void frmLoto::mnuLoadBag_Click() { loadBagInMainWindow(around_); }
 void frmLoto::mnuShowBanko_Click() { around_.windows.show("frmBanko"); }
-void frmLoto::mnuLoadBanko_Click() { askAndLoadBanko(around_); }
+void frmLoto::mnuLoadBanko_Click() { loadBankoInMainWindow(around_); }
 void frmLoto::mnuShow8Columns_Click() { around_.windows.show("frmList"); }
 void frmLoto::mnuCreateRndCList_Click() { around_.windows.show("frmRnd"); }
 void frmLoto::mnuShowClist_Click() { around_.windows.show("frmComLst"); }

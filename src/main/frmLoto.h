@@ -74,8 +74,8 @@ class frmLoto final : public Form, private BallStage {
   void mnuFKeys_Click();
   void mnuAbout_Click();
 
-  void drawFromBag();
-  void drawFromList();
+  void newColumnFromBag();
+  void newColumnFromList();
   void ShowColumn();
 
   void showImage(int index, bool visible) override;
@@ -109,7 +109,8 @@ class frmLoto final : public Form, private BallStage {
   std::array<QLabel*, 12> Label1{};   // two numbers for each ball position
   QLabel* Label2 = nullptr;           // today's date
   QLabel* Label3 = nullptr;           // the time
-  std::array<QTimer*, 7> Timer{};     // Timer0: clock; Timer1..Timer6: the balls
+  // Timer0: the clock; Timer1, Timer2, Timer3, Timer4, Timer5, Timer6: the balls.
+  std::array<QTimer*, 7> Timer{};
 };
 
 }  // namespace karvenis

@@ -53,9 +53,14 @@ class ScriptedBoxes final : public Boxes {
                     const std::string& preset) override {
     return play({"input", prompt, title, Icon::none, {}, preset});
   }
-  void beep() override { play({.kind = "beep"}); }
+  void beep() override {
+    play({.kind = "beep"});
+    if (atBeep) atBeep();
+  }
   void pointer(Pointer shape) override { pointers.push_back(shape); }
 
+  /// Runs at every beep: what has been done by then.
+  std::function<void()> atBeep;
   /// Every pointer shape that was set, in order.
   std::vector<Pointer> pointers;
   /// Runs just before a scripted box is answered: what the world does while the box is open.

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 #include "bag/BagActions.h"
 #include "bag/BagFile.h"
 #include "bag/BankoActions.h"
+#include "bag/MainWindowLoads.h"
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
 #include "comblist/Generator.h"
@@ -84,11 +86,11 @@ SharedFolder without(const std::string& name) {
 /// A command that needs no title.
 template <auto command>
 void alone(Surroundings& around, TitleBar&) {
-  command(around);
+  static_cast<void>(command(around));
 }
 
 void writeThePlace(Surroundings& around, TitleBar&) { writePlace(around.files, {1, 2}); }
-void readThePlace(Surroundings& around, TitleBar&) { readPlace(around.files); }
+void readThePlace(Surroundings& around, TitleBar&) { std::ignore = readPlace(around.files); }
 
 template <Output output>
 void listKept(Surroundings& around, TitleBar& title) {
@@ -124,7 +126,7 @@ void showListed(Surroundings& around, TitleBar& title) {
 
 void loadBagWindow(Surroundings& around, TitleBar&) {
   Buttons buttons;
-  loadBag(around, buttons);
+  loadBagInBagWindow(around, buttons);
 }
 
 void saveBagWindow(Surroundings& around, TitleBar&) {
@@ -135,7 +137,7 @@ void saveBagWindow(Surroundings& around, TitleBar&) {
 
 void loadBankoWindow(Surroundings& around, TitleBar&) {
   BankoInputs inputs;
-  loadBanko(around, inputs);
+  loadBankoInBankoWindow(around, inputs);
 }
 
 void saveBankoWindow(Surroundings& around, TitleBar&) {
@@ -181,8 +183,8 @@ std::vector<Action> savingActions() {
       {"write the place", full(), writeThePlace},
       {"write the first place", without(settingsFile), writeThePlace},
       {"read the place", full(), readThePlace},
-      {"load the bag", full(), alone<askAndLoadBag>},
-      {"load the bankos", full(), alone<askAndLoadBanko>},
+      {"load the bag", full(), alone<loadBagInMainWindow>},
+      {"load the bankos", full(), alone<loadBankoInMainWindow>},
       {"load the bag in its window", full(), loadBagWindow},
       {"load the bankos in their window", full(), loadBankoWindow},
       {"save the bag", full(), saveBagWindow},

@@ -1,5 +1,6 @@
 // The bag file: any bytes load as sets that hold balls only.
 #include "bag/BagFile.h"
+#include "bag/MainWindowLoads.h"
 
 #include <algorithm>
 

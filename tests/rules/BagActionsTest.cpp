@@ -106,32 +106,21 @@ INSTANTIATE_TEST_SUITE_P(
                     Apply{"AllAreBankos", {5, 9}, {9, 5}, {}}),
     [](const auto& row) { return row.param.name; });
 
-/// At each beep: what is marked.
-class BeepWatch final : public Boxes {
- public:
-  explicit BeepWatch(const PlainButtons& buttons) : buttons_(buttons) {}
-  std::vector<Set> marked;
-  void message(const std::string&, const std::string&, Icon) override { ADD_FAILURE(); }
-  bool ask(const std::string&, const std::string&) override { return true; }
-  std::string input(const std::string&, const std::string&, const std::string&) override {
-    return {};
-  }
-  void beep() override { marked.push_back(buttons_.marked()); }
-  void pointer(Pointer) override {}
-
- private:
-  const PlainButtons& buttons_;
-};
-
-TEST(ApplyBag, BeepsWhenNothingIsMarked) {
+TEST(ApplyBag, BeepsWhenTheMarksAreTakenAndGone) {
   World world;
   PlainButtons buttons;
+  setBanko(world.state, {9});
   buttons.mark({5, 9});
-  BeepWatch boxes(buttons);
-  Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                      world.files, world.printer, world.windows};
-  applyBag(around, buttons);
-  EXPECT_EQ(boxes.marked, std::vector<Set>{Set{}});
+  std::vector<Set> marked;
+  std::vector<Set> bags;
+  world.boxes.atBeep = [&] {
+    marked.push_back(buttons.marked());
+    bags.push_back(bagOf(world.state));
+  };
+  world.boxes.expectBeep();
+  applyBag(world.around, buttons);
+  EXPECT_EQ(marked, std::vector<Set>{Set{}});
+  EXPECT_EQ(bags, std::vector<Set>{(Set{5, 9})}) << "the bankos leave the bag behind the beep";
 }
 
 TEST(LoadBagInWindow, ButtonsAreUnmarkedBeforeTheSecondBeep) {
@@ -139,11 +128,11 @@ TEST(LoadBagInWindow, ButtonsAreUnmarkedBeforeTheSecondBeep) {
   PlainButtons buttons;
   buttons.mark({5, 9});
   world.files.folder["KARVENIS.DAT"] = words({1, 7});
-  BeepWatch boxes(buttons);
-  Surroundings around{world.state, boxes,         world.clock,  world.chance,
-                      world.files, world.printer, world.windows};
-  loadBag(around, buttons);
-  EXPECT_EQ(boxes.marked, (std::vector<Set>{{5, 9}, {}}));
+  std::vector<Set> marked;
+  world.boxes.atBeep = [&] { marked.push_back(buttons.marked()); };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectBeep();
+  loadBagInBagWindow(world.around, buttons);
+  EXPECT_EQ(marked, (std::vector<Set>{{5, 9}, {}}));
 }
 
 struct Load {
@@ -164,7 +153,7 @@ TEST_P(LoadBagInWindow, TakesAndShowsTheFile) {
   buttons.mark({1, 2});
   world.files.folder["KARVENIS.DAT"] = GetParam().file;
   world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectBeep(GetParam().beeps);
-  loadBag(world.around, buttons);
+  loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   Set sorted = GetParam().bag;
   std::ranges::sort(sorted);
@@ -213,7 +202,7 @@ TEST_P(LoadBrokenBag, SaysSoAndLeavesBagAndMarks) {
   buttons.mark({1, 2});
   world.files.folder["KARVENIS.DAT"] = GetParam().file;
   world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
-  loadBag(world.around, buttons);
+  loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(bagOf(world.state), (Set{40, 41}));
   EXPECT_EQ(buttons.marked(), (Set{1, 2}));
 }
@@ -238,7 +227,7 @@ TEST_P(LoadBagTooShort, StopsBeforeTheQuestion) {
   buttons.mark({1});
   world.files.folder["KARVENIS.DAT"] = Bytes(static_cast<std::size_t>(GetParam()), std::byte{1});
   world.boxes.expectBeep();
-  loadBag(world.around, buttons);
+  loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(buttons.marked(), Set{1});
 }
 
@@ -248,7 +237,7 @@ TEST(LoadBagInWindow, WithoutAFileThereIsABeepAndNothingElse) {
   World world;
   PlainButtons buttons;
   world.boxes.expectBeep();
-  loadBag(world.around, buttons);
+  loadBagInBagWindow(world.around, buttons);
   EXPECT_TRUE(world.files.folder.empty());
 }
 
@@ -259,9 +248,61 @@ TEST(LoadBagInWindow, NoLeavesBagAndMarks) {
   buttons.mark({1});
   world.files.folder["KARVENIS.DAT"] = words({1, 5});
   world.boxes.expectBeep().expectQuestion(loadQuestion, false);
-  loadBag(world.around, buttons);
+  loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(bagOf(world.state), Set{40});
   EXPECT_EQ(buttons.marked(), Set{1});
+}
+
+TEST(LoadBagInWindow, AFileThatGoesBehindTheQuestionLeavesBagAndMarks) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  setBanko(world.state, {40});  // as a save may leave it
+  buttons.mark({1});
+  world.files.folder["KARVENIS.DAT"] = words({1, 5});
+  world.boxes.whileOpen = [&] { world.files.folder.clear(); };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
+  loadBagInBagWindow(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), (Set{40, 41}));
+  EXPECT_EQ(buttons.marked(), Set{1});
+  EXPECT_TRUE(world.files.folder.empty()) << "no file is made";
+}
+
+/// The length was taken before the question, the words are read behind it.
+TEST(LoadBagInWindow, AFileThatWasShortenedMeanwhileEndsTheBag) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  world.files.folder["KARVENIS.DAT"] = words({3, 5, 6, 7});
+  world.boxes.whileOpen = [&] { world.files.folder["KARVENIS.DAT"] = words({3, 8}); };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectBeep();
+  loadBagInBagWindow(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), Set{8});
+  EXPECT_EQ(buttons.marked(), Set{8});
+}
+
+TEST(LoadBagInWindow, AFileThatWasEmptiedMeanwhileEmptiesTheBag) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  buttons.mark({1});
+  world.files.folder["KARVENIS.DAT"] = words({3, 5, 6, 7});
+  world.boxes.whileOpen = [&] { world.files.folder["KARVENIS.DAT"] = {}; };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
+  loadBagInBagWindow(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), Set{});
+  EXPECT_EQ(buttons.marked(), Set{});
+}
+
+TEST(LoadBagInWindow, AFileThatGrewMeanwhileIsBrokenByItsOldLength) {
+  World world;
+  PlainButtons buttons;
+  setBag(world.state, {40, 41});
+  world.files.folder["KARVENIS.DAT"] = words({1, 5});
+  world.boxes.whileOpen = [&] { world.files.folder["KARVENIS.DAT"] = words({3, 5, 6, 7}); };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
+  loadBagInBagWindow(world.around, buttons);
+  EXPECT_EQ(bagOf(world.state), (Set{40, 41}));
 }
 
 struct Save {

@@ -122,6 +122,24 @@ INSTANTIATE_TEST_SUITE_P(
               {}}),
     [](const auto& row) { return row.param.name; });
 
+TEST(ApplyBanko, BeepsBeforeAnythingElse) {
+  World world;
+  PlainBoxes boxes;
+  setBanko(world.state, {48});
+  boxes.chosen = 2;
+  boxes.texts = {"7", "12"};
+  Set bankos;
+  Texts texts;
+  world.boxes.atBeep = [&] {
+    bankos = bankoOf(world.state);
+    texts = boxes.texts;
+  };
+  world.boxes.expectBeep();
+  applyBanko(world.around, boxes);
+  EXPECT_EQ(bankos, Set{48});
+  EXPECT_EQ(texts, (Texts{"7", "12"}));
+}
+
 TEST(ApplyBanko, BallsThatLeftTheBagDoNotReturn) {
   World world;
   PlainBoxes boxes;
@@ -171,7 +189,7 @@ TEST_P(LoadBankoInWindow, TakesAndShowsTheFile) {
   const Bytes file = words(withBankoPart(GetParam().bankoPart));
   world.files.folder["KARVENIS.DAT"] = file;
   world.boxes.expectBeep().expectQuestion(loadQuestion, true);
-  loadBanko(world.around, boxes);
+  loadBankoInBankoWindow(world.around, boxes);
   EXPECT_EQ(bankoOf(world.state), GetParam().banko);
   EXPECT_EQ(boxes.chosen, static_cast<int>(GetParam().banko.size()));
   EXPECT_EQ(boxes.texts, GetParam().shown);
@@ -208,7 +226,7 @@ TEST_P(LoadBrokenBanko, SaysSoAndLeavesTheBankos) {
   boxes.texts = {"1", "2", "3"};
   world.files.folder["KARVENIS.DAT"] = words(withBankoPart(GetParam().bankoPart));
   world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
-  loadBanko(world.around, boxes);
+  loadBankoInBankoWindow(world.around, boxes);
   EXPECT_EQ(bankoOf(world.state), (Set{12, 49}));
   EXPECT_EQ(boxes.chosen, 3);
   EXPECT_EQ(boxes.texts, (Texts{"1", "2", "3"}));
@@ -229,7 +247,7 @@ TEST_P(LoadBankoTooShort, StopsBeforeTheQuestion) {
   PlainBoxes boxes;
   world.files.folder["KARVENIS.DAT"] = Bytes(static_cast<std::size_t>(GetParam()), std::byte{1});
   world.boxes.expectBeep();
-  loadBanko(world.around, boxes);
+  loadBankoInBankoWindow(world.around, boxes);
   EXPECT_EQ(bankoOf(world.state), Set{});
 }
 
@@ -239,7 +257,7 @@ TEST(LoadBankoInWindow, WithoutAFileThereIsABeepAndNothingElse) {
   World world;
   PlainBoxes boxes;
   world.boxes.expectBeep();
-  loadBanko(world.around, boxes);
+  loadBankoInBankoWindow(world.around, boxes);
   EXPECT_TRUE(world.files.folder.empty());
 }
 
@@ -250,9 +268,52 @@ TEST(LoadBankoInWindow, NoLeavesAllAsItWas) {
   setBanko(world.state, {48});
   world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
   world.boxes.expectBeep().expectQuestion(loadQuestion, false);
-  loadBanko(world.around, boxes);
+  loadBankoInBankoWindow(world.around, boxes);
   EXPECT_EQ(bankoOf(world.state), Set{48});
   EXPECT_EQ(boxes.texts, Texts{"1"});
+}
+
+TEST(LoadBankoInWindow, AFileThatGoesBehindTheQuestionLeavesAllAsItWas) {
+  World world;
+  PlainBoxes boxes;
+  boxes.texts = {"1"};
+  setBag(world.state, {48, 49});  // as the bag window's save may leave it
+  setBanko(world.state, {48});
+  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
+  world.boxes.whileOpen = [&] { world.files.folder.clear(); };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
+  loadBankoInBankoWindow(world.around, boxes);
+  EXPECT_EQ(bankoOf(world.state), Set{48});
+  EXPECT_EQ(bagOf(world.state), (Set{48, 49}));
+  EXPECT_EQ(boxes.texts, Texts{"1"});
+  EXPECT_TRUE(world.files.folder.empty()) << "no file is made";
+}
+
+/// The length was taken before the question, the words are read behind it.
+TEST(LoadBankoInWindow, AFileThatWasShortenedMeanwhileReadsAsZeros) {
+  World world;
+  PlainBoxes boxes;
+  setBanko(world.state, {48});
+  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7, 8}));
+  world.boxes.whileOpen = [&] {
+    world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7}));
+  };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
+  loadBankoInBankoWindow(world.around, boxes);
+  EXPECT_EQ(bankoOf(world.state), (Set{7, 0}));
+}
+
+TEST(LoadBankoInWindow, AFileThatGrewMeanwhileIsBrokenByItsOldLength) {
+  World world;
+  PlainBoxes boxes;
+  setBanko(world.state, {48});
+  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
+  world.boxes.whileOpen = [&] {
+    world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7, 8}));
+  };
+  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
+  loadBankoInBankoWindow(world.around, boxes);
+  EXPECT_EQ(bankoOf(world.state), Set{48});
 }
 
 struct Save {
