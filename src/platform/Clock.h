@@ -10,13 +10,13 @@ class Clock {
  public:
   virtual ~Clock() = default;
   /// Today in the system's short form, for example "21.11.2026".
-  virtual std::string date() = 0;
+  [[nodiscard]] virtual std::string date() = 0;
   /// The time of day as "HH:MM:SS".
-  virtual std::string time() = 0;
+  [[nodiscard]] virtual std::string time() = 0;
   /// The minute of the hour, 0..59.
-  virtual std::int16_t minute() = 0;
+  [[nodiscard]] virtual std::int16_t minute() = 0;
   /// Microseconds since midnight.
-  virtual std::int64_t sinceMidnight() = 0;
+  [[nodiscard]] virtual std::int64_t sinceMidnight() = 0;
 };
 
 }  // namespace karvenis

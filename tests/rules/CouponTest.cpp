@@ -5,6 +5,7 @@
 #include "doubles/Doubles.h"
 #include "doubles/RecordingSurface.h"
 #include "doubles/Sets.h"
+#include "main/NewColumn.h"
 
 namespace karvenis {
 namespace {
@@ -177,6 +178,57 @@ TEST_F(CouponTest, BallsThatGoMeanwhileStopItAndTheNextCouponStartsAtOne) {
   coupon.newPage();
   tick(1);
   EXPECT_EQ(printed(), "500R Kolon  1 - |");
+}
+
+/// Hears of every number that is drawn.
+class WatchedChance final : public Chance {
+ public:
+  std::function<void()> atNumber;
+  void seed(std::int64_t) override {}
+  float next() override {
+    atNumber();
+    return ordinary_.next();
+  }
+
+ private:
+  ScriptedChance ordinary_;
+};
+
+TEST_F(CouponTest, TheHeadIsPrintedBeforeTheColumnIsDrawn) {
+  WatchedChance chance;
+  int numbers = 0;
+  chance.atNumber = [&] {
+    ++numbers;
+    EXPECT_EQ(printed(), "500R Kolon  1 - |");
+  };
+  Surroundings around{world.state, world.boxes,   world.clock,  chance,
+                      world.files, world.printer, world.windows};
+  Coupon watched(around, page, *this);
+  watched.start();
+  watched.tick();
+  EXPECT_GE(numbers, 6);
+}
+
+TEST_F(CouponTest, EachTickTypesWhatTheDrawnColumnHoldsThen) {
+  coupon.start();
+  tick(1);
+  world.boxes.expectBeep(6);
+  world.state.Drawn = column(7, 8, 9, 10, 11, 12);
+  tick(2);
+  world.state.Drawn = column(21, 22, 23, 24, 25, 26);
+  tick(4);
+  EXPECT_EQ(printed(), "500R Kolon  1 - |B07  |B08  |B23  |B24  |B25  |B26  |");
+}
+
+TEST_F(CouponTest, ADrawOfTheMainWindowMeanwhileMixesTwoColumnsInALine) {
+  setBag(world.state, {1, 2, 3, 4, 5, 6});
+  coupon.start();
+  world.boxes.expectBeep(6);
+  tick(3);
+  setBag(world.state, {31, 32, 33, 34, 35, 36});
+  ASSERT_TRUE(drawFromBag(world.around, true));
+  tick(4);
+  EXPECT_EQ(printed(), "500R Kolon  1 - |B01  |B02  |B33  |B34  |B35  |B36  |");
 }
 
 TEST_F(CouponTest, ListsItsKeysAndTypesOn) {

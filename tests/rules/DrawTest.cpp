@@ -114,6 +114,39 @@ TEST(DrawColumn, OnlyTheLaterBallOfAPairIsDrawnAgain) {
   EXPECT_TRUE(world.chance.script.empty());
 }
 
+/// A repeat sends the rest of the inner comparisons to position 1, so that the 1 that takes the
+/// place of the second 3 is drawn again at once.
+TEST(DrawColumn, AfterARepeatTheRestIsComparedWithTheFirst) {
+  World world;
+  setBag(world.state, {1, 2, 3, 4, 5, 6});
+  world.chance.script = {0.0F, 0.17F, 0.34F, 0.34F, 0.34F, 0.84F, 0.0F, 0.51F, 0.67F};
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 4, 5, 6));
+  EXPECT_TRUE(world.chance.script.empty());
+}
+
+/// Keeps the order of seedings and numbers.
+class OrderOfChance final : public Chance {
+ public:
+  std::string order;
+  void seed(std::int64_t) override { order += 's'; }
+  float next() override {
+    order += 'n';
+    return ordinary_.next();
+  }
+
+ private:
+  ScriptedChance ordinary_;
+};
+
+TEST(DrawColumn, SeedsOnceAndFirst) {
+  World world;
+  OrderOfChance chance;
+  DrawColumn(world.state, chance, world.clock, false);
+  EXPECT_TRUE(chance.order.starts_with("snnnnnn")) << chance.order;
+  EXPECT_EQ(std::ranges::count(chance.order, 's'), 1);
+}
+
 TEST(DrawColumn, SortsOnlyWhenAsked) {
   World world;
   setBag(world.state, {6, 5, 4, 3, 2, 1});
