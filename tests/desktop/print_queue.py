@@ -21,6 +21,7 @@ BrowseLocalProtocols none
 DefaultAuthType None
 WebInterface No
 MaxJobTime 60
+LimitRequestBody {largest}
 LogLevel info
 <Location />
   Order allow,deny
@@ -34,10 +35,11 @@ LogLevel info
 </Policy>
 """
 
-# What stands for the device: it keeps each job as a file.
+# What stands for the device: it keeps each job as a file, and the job's title and options as another.
 _DEVICE = """\
 #!/bin/sh
 [ $# -gt 0 ] || exit 0
+printf '%s\\n' "$3" "$5" >"{home}/printed/$1.words"
 cat "${{6:--}}" >"{home}/printed/$1.pdf"
 """
 
@@ -52,30 +54,75 @@ TempDir {home}/spool/tmp
 AccessLog {home}/access_log
 ErrorLog {home}/error_log
 PageLog {home}/page_log
+Printcap {home}/printcap
 SystemGroup {group}
 {user}
 """
 
 
+# A printer that takes PDF as it is, on papers of given sizes.
+_PRINTER = """\
+*PPD-Adobe: "4.3"
+*FormatVersion: "4.3"
+*FileVersion: "1.0"
+*LanguageVersion: English
+*LanguageEncoding: ISOLatin1
+*PCFileName: "KEEP.PPD"
+*Product: "(Keep)"
+*Manufacturer: "Keep"
+*ModelName: "Keep"
+*ShortNickName: "Keep"
+*NickName: "Keep"
+*PSVersion: "(3010.000) 0"
+*LanguageLevel: "3"
+*cupsFilter2: "application/pdf application/pdf 0 -"
+*DefaultFont: Courier
+*OpenUI *PageSize: PickOne
+*DefaultPageSize: {default}
+{sizes}*CloseUI: *PageSize
+*DefaultImageableArea: {default}
+{areas}*DefaultPaperDimension: {default}
+{dimensions}"""
+
+
+def _printer(papers):
+    """The description of a printer with these papers: name, size and printable area in points."""
+    return _PRINTER.format(
+        default=papers[0][0],
+        sizes="".join(f'*PageSize {name}: ""\n' for name, _, _ in papers),
+        areas="".join(f'*ImageableArea {name}: "{area}"\n' for name, _, area in papers),
+        dimensions="".join(f'*PaperDimension {name}: "{size}"\n' for name, size, _ in papers))
+
+
 class PrintQueue:
     """A server whose default queue keeps each job as a file, or that has no queue at all.
-    `environment` leads a program to it."""
+    `papers` are those of its printer; without them it says nothing about its paper. A request of
+    more than `largest` is refused. `environment` leads a program to it."""
 
-    def __init__(self, has_queue=True):
+    def __init__(self, has_queue=True, papers=None, largest="0"):
         self.home = tempfile.mkdtemp(prefix="karvenis-print-")
         os.chmod(self.home, 0o755)
-        self.environment = {"CUPS_SERVER": os.path.join(self.home, "socket")}
+        self.environment = {"CUPS_SERVER": os.path.join(self.home, "socket"),
+                            "CUPS_SERVERROOT": self.home}  # for the users' choices
         self._server = None
         try:
-            self._serve()
+            self._serve(largest)
             if has_queue:
-                self._run("lpadmin", "-p", QUEUE, "-E", "-v", "keep:/", "-m", "raw")
+                self._run("lpadmin", "-p", QUEUE, "-E", "-v", "keep:/", *self._driver(papers))
                 self._run("lpadmin", "-d", QUEUE)
         except BaseException:
             self.close()
             raise
 
-    def _serve(self):
+    def _driver(self, papers):
+        if papers is None:
+            return "-m", "raw"
+        path = os.path.join(self.home, "printer.ppd")
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(_printer(papers))
+        return "-P", path
+
+    def _serve(self, largest):
         for folder in ("state/certs", "cache", "spool/tmp", "programs/backend", "printed"):
             os.makedirs(os.path.join(self.home, folder))
         os.symlink("/usr/lib/cups/daemon", os.path.join(self.home, "programs/daemon"))
@@ -89,7 +136,8 @@ class PrintQueue:
         for name, text in (("cupsd.conf", _DAEMON), ("cups-files.conf", _FILES)):
             paths.append(os.path.join(self.home, name))
             with open(paths[-1], "w", encoding="utf-8") as file:
-                file.write(text.format(home=self.home, group=group, user=user))
+                file.write(text.format(home=self.home, group=group, user=user,
+                                       largest=largest))
             os.chmod(paths[-1], 0o640)
         with open(os.path.join(self.home, "words"), "wb") as words:
             self._server = start([SERVER, "-f", "-c", paths[0], "-s", paths[1]],
@@ -113,6 +161,15 @@ class PrintQueue:
                        env={**os.environ, **self.environment, "PATH": search, "LC_ALL": "C"},
                        stdin=subprocess.DEVNULL, capture_output=True, check=True, timeout=30)
 
+    def choose_paper(self, name):
+        """From now on this is the queue's default paper."""
+        self._run("lpadmin", "-p", QUEUE, "-o", f"PageSize={name}")
+
+    def choose_for_user(self, option):
+        """From now on the user prints with this option, whatever the queue's own defaults are."""
+        with open(os.path.join(self.home, "lpoptions"), "w", encoding="utf-8") as file:
+            file.write(f"Default {QUEUE} {option}\n")
+
     def refuse(self):
         """From now on the queue takes no job."""
         self._run("cupsreject", QUEUE)
@@ -131,9 +188,18 @@ class PrintQueue:
                  f"job {job} to be printed")
         return os.path.join(self.home, "printed", f"{job}.pdf")
 
-    def jobs(self):
-        """How many jobs the queue has taken so far."""
-        return len(self._ask("lpstat", "-W", "all", "-o").splitlines())
+    def words(self, job):
+        """Title and options of a job that has been printed."""
+        with open(os.path.join(self.home, "printed", f"{job}.words"), encoding="utf-8") as file:
+            return file.read().splitlines()
+
+    def jobs(self, which="all"):
+        """How many jobs the queue knows of: "all", "completed" (also in vain) or "not-completed"."""
+        return len(self._ask("lpstat", "-W", which, "-o").splitlines())
+
+    def documents(self):
+        """The names of the documents that were printed."""
+        return os.listdir(os.path.join(self.home, "printed"))
 
     def close(self):
         stop(self._server)

@@ -1,19 +1,14 @@
 #pragma once
 
-#include <QFont>
-#include <QPointF>
-#include <QString>
 #include <memory>
-#include <vector>
 
 #include "platform/Printer.h"
 
-class QPrinter;
-
 namespace karvenis {
 
-/// Prints on the system's default queue, without a dialog. The document is laid out in memory and
-/// goes to the queue as a whole, so that one that is given up leaves nothing there.
+/// Prints on the system's default queue, without a dialog. A document is painted in memory and sent
+/// as a whole, so that one that is given up leaves nothing in the queue, and a full disk cannot cut
+/// one off.
 class QtPrinter final : public Printer {
  public:
   QtPrinter();
@@ -29,23 +24,11 @@ class QtPrinter final : public Printer {
   void killDocument() noexcept override;
 
  private:
-  struct Line {
-    int page;       // from 0
-    QPointF place;  // the text's baseline, in the printer's dots
-    QFont font;
-    QString text;
-  };
+  struct Document;
 
-  QPrinter& printer();
-  double dots(double twips);
-  void paint(const std::vector<Line>& lines, QPrinter& printer) const;
+  Document& document();
 
-  std::unique_ptr<QPrinter> printer_;  // null while no document is begun
-  std::vector<Line> lines_;
-  QFont font_;
-  int page_ = 0;
-  double x_ = 0;  // where the next text begins, in dots
-  double y_ = 0;
+  std::unique_ptr<Document> document_;  // null while no document is begun
 };
 
 }  // namespace karvenis
