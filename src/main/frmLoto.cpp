@@ -24,7 +24,9 @@ namespace karvenis {
 
 void frmLoto::Form_Load() {
   const auto place = readPlace(around_.files);
-  if (place) moveFrame(*this, {place->left / twipsPerPixel, place->top / twipsPerPixel});
+  if (!place) return;
+  place_ = *place;
+  moveFrame(*this, {place_.left / twipsPerPixel, place_.top / twipsPerPixel});
 }
 
 void frmLoto::Form_Activate() { around_.chance.seedFrom(around_.clock); }
@@ -66,8 +68,10 @@ void frmLoto::newColumnFromList() {
 }
 
 void frmLoto::Command2_Click() {
-  writePlace(around_.files,
-             {static_cast<float>(y() * twipsPerPixel), static_cast<float>(x() * twipsPerPixel)});
+  if (desktopTellsPlaces()) {
+    place_ = {static_cast<float>(y() * twipsPerPixel), static_cast<float>(x() * twipsPerPixel)};
+  }
+  writePlace(around_.files, place_);
   around_.windows.end();
 }
 

@@ -6,6 +6,7 @@
 #include "core/Surroundings.h"
 #include "main/DrawAnimation.h"
 #include "main/Idle.h"
+#include "main/Settings.h"
 #include "platform/qt/Artwork.h"
 #include "platform/qt/Form.h"
 
@@ -90,6 +91,7 @@ class frmLoto final : public Form, private BallStage {
   DrawAnimation animation_;
   Banner banner_;
   IdleCover cover_;
+  Place place_;                         // from the file at the start; 0, 0 without one
   std::array<QAction*, 12> entries_{};  // what F1..F12 trigger
   QPixmap picture_;  // the window's own picture, taken from Picture2 by the first draw
 

@@ -136,18 +136,8 @@ class Program:
         return Box(self, found[0])
 
     def active_title(self):
-        """The title that the window manager shows for the window with the keyboard."""
-        return self.title_of(self.active_id())
-
-    def active_id(self):
-        found = re.search(r"0x[0-9a-f]+", self.screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))
-        return found.group() if found else "0x0"
-
-    def title_of(self, window_id):
-        told = self.screen.run("xprop", "-notype", "-id", window_id, "-f", "_NET_WM_NAME", "8u",
-                               " = $0\n", "_NET_WM_NAME")
-        found = re.search(r'_NET_WM_NAME = "(.*)"', told)
-        return found.group(1) if found else None
+        """The title of the window with the keyboard."""
+        return self.screen.active_title(self)
 
     def activated(self, title):
         """Waits until the window of this title has the keyboard, and knows it."""
@@ -194,7 +184,8 @@ class Program:
             self.process.send_signal(signal.SIGCONT)
 
     def click(self, node, times=1):
-        left, top, width, height = (round(self._scale * length) for length in node.place)
+        left, top, width, height = (round(self._scale * length)
+                                    for length in self.screen.place_of(self, node))
         self.click_at(left + width // 2, top + height // 2, times)
 
     def click_at(self, left, top, times=1):
@@ -226,9 +217,9 @@ class Program:
         return "_NET_WM_STATE_HIDDEN" in told
 
     def close_by_frame(self, title):
-        """Asks the window manager to close the active window, as its cross does."""
+        """Closes the active window as the cross in its frame does."""
         self.activated(title)
-        self.keys("alt+F4")
+        self.screen.close_active(self)
 
     # Files
 

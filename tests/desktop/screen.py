@@ -154,15 +154,39 @@ class Screen:
         """Saves the part of the screen that windows cover as a PNG."""
         self.run("import", "-window", "root", "-trim", "+repage", path)
 
-    def picture_of(self, window_id, path):
-        """Saves a window with its frame as a PNG."""
+    def active_title(self, program):
+        """The title that the window manager shows for the window with the keyboard."""
+        told = self.run("xprop", "-notype", "-id", self._active_id(), "-f", "_NET_WM_NAME", "8u",
+                        " = $0\n", "_NET_WM_NAME")
+        found = re.search(r'_NET_WM_NAME = "(.*)"', told)
+        return found.group(1) if found else None
+
+    def _active_id(self):
+        found = re.search(r"0x[0-9a-f]+", self.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))
+        return found.group() if found else "0x0"
+
+    def place_of(self, program, node):
+        """Left, top, width and height of a control on the screen."""
+        return node.place
+
+    def close_active(self, program):
+        """Asks the window manager to close the window with the keyboard."""
+        program.keys("alt+F4")
+
+    def picture_of_active(self, program, path):
+        """Saves the window with the keyboard, with its frame, as a PNG."""
+        window_id = self._active_id()
         told = self.run("xwininfo", "-frame", "-id", window_id)
         corner = [int(number) for number in re.findall(r"Absolute upper-left .: +(-?\d+)", told)]
         size = [int(number) for number in re.findall(r"(?:Width|Height): (\d+)", told)]
         left, right, top, bottom = self._frame(window_id)
-        width, height = size[0] + left + right, size[1] + top + bottom
-        self.run("import", "-window", "root", "-crop",
-                 f"{width}x{height}+{corner[0] - left}+{corner[1] - top}", "+repage", path)
+        self._picture(path, corner[0] - left, corner[1] - top,
+                      size[0] + left + right, size[1] + top + bottom)
+
+    def _picture(self, path, left, top, width, height):
+        """Saves a part of the screen as a PNG."""
+        self.run("import", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}", "+repage",
+                 path)
 
     def _frame(self, window_id):
         """How far the frame reaches beyond the window: left, right, top, bottom."""

@@ -34,7 +34,7 @@ class Tour:
         if self.program.boxes():
             self.screen.picture_of_windows(path)
         else:
-            self.screen.picture_of(self.program.active_id(), path)
+            self.screen.picture_of_active(self.program, path)
         print(f"{self.steps:3}  {told}", flush=True)
 
     def window(self, title):

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace karvenis {
 namespace {
 
@@ -38,6 +40,8 @@ QPoint nearestPlace(const QRect& frame) {
 }
 
 }  // namespace
+
+bool desktopTellsPlaces() { return !QGuiApplication::platformName().startsWith("wayland"_L1); }
 
 void moveOntoScreen(QWidget& window, QPoint place) {
   window.adjustSize();
