@@ -29,10 +29,11 @@ void speakTurkish(QTranslator& words) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int, char** argv) {
   using namespace karvenis;
   SystemFiles files;  // first, since the toolkit may write files too
-  Application application(argc, argv);
+  int count = 1;      // the program's name; the toolkit's own options are no options of the program
+  Application application(count, argv);
   Application::setApplicationName(u"KARVENIS"_s);
   Application::setDesktopFileName(u"karvenis"_s);
   applyLook();
@@ -46,8 +47,8 @@ int main(int argc, char** argv) {
   QtPrinter printer;
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
-  boxes.owner = [&forms] { return forms.active(); };
-  boxes.beforeBox = [&forms] { forms.showCaptions(); };
+  boxes.opens = [&forms] { return forms.boxOpens(); };
+  boxes.closed = [&forms] { forms.boxClosed(); };
   chance.seedFrom(clock);
 
   addWindows(forms, around);

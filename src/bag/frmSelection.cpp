@@ -37,8 +37,7 @@ void frmSelection::buildCommands(QBoxLayout* row) {
   for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
 }
 
-void frmSelection::Form_KeyDown(int KeyCode, int Shift) {
-  if ((Shift & altKey) != 0) return;  // the desktop's own, such as Alt+F4
+void frmSelection::Form_KeyDown(int KeyCode, int) {
   switch (KeyCode) {
     case keyEscape:
       return unload();

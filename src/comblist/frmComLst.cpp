@@ -37,16 +37,16 @@ void frmComLst::Form_Click() {
   redraw();
 }
 
-void frmComLst::Form_KeyDown(int KeyCode, int Shift) {
+void frmComLst::Form_KeyDown(int KeyCode, int) {
   if (KeyCode == keyEscape) {
     unload();
     return;
   }
-  if (runCommand(KeyCode, Shift)) redraw();
+  if (runCommand(KeyCode)) redraw();
 }
 
 /// Returns whether the page is to be drawn anew.
-bool frmComLst::runCommand(int KeyCode, int Shift) {
+bool frmComLst::runCommand(int KeyCode) {
   switch (KeyCode) {
     case keyF1:
       openListing(around_);
@@ -58,8 +58,7 @@ bool frmComLst::runCommand(int KeyCode, int Shift) {
       forms().dropInput();
       return true;
     case keyF4:
-      // With Alt it is the window system's own key for closing.
-      if ((Shift & altKey) == 0) deleteList(around_);
+      deleteList(around_);
       return true;
     case keyF5:
     case keyF6:

@@ -24,7 +24,7 @@ class frmComLst final : public Form {
   void Form_Click() override;
 
  private:
-  bool runCommand(int KeyCode, int Shift);
+  bool runCommand(int KeyCode);
   void runFilter(Filter filter);
   void redraw();
 

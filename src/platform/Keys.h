@@ -30,6 +30,8 @@ enum KeyCode : int {
   keyOther = 255,
 };
 
+constexpr bool isFunctionKey(int code) { return code >= keyF1 && code <= keyF12; }
+
 /// The bits of the Shift argument.
 enum ShiftMask : int { shiftKey = 1, ctrlKey = 2, altKey = 4 };
 

@@ -27,16 +27,16 @@ void frmRndLst::Form_Click() {
   redraw();
 }
 
-void frmRndLst::Form_KeyDown(int KeyCode, int Shift) {
+void frmRndLst::Form_KeyDown(int KeyCode, int) {
   if (KeyCode == keyEscape) {
     unload();
     return;
   }
-  runCommand(KeyCode, Shift);
+  runCommand(KeyCode);
   redraw();
 }
 
-void frmRndLst::runCommand(int KeyCode, int Shift) {
+void frmRndLst::runCommand(int KeyCode) {
   switch (KeyCode) {
     case keyF1:
       return appendToCombinationList(around_, page_);
@@ -45,8 +45,7 @@ void frmRndLst::runCommand(int KeyCode, int Shift) {
     case keyF3:
       return DeleteOneColumn(around_, page_);
     case keyF4:
-      // With Alt it is the window system's own key for closing.
-      if ((Shift & altKey) == 0) askAndDeleteRndFile(around_);
+      askAndDeleteRndFile(around_);
       return;
     case keyF9:
       return openRndListing(around_);

@@ -24,7 +24,7 @@ class frmRndLst final : public Form {
   void Form_Resize() override;
 
  private:
-  void runCommand(int KeyCode, int Shift);
+  void runCommand(int KeyCode);
   void showFirstPage();
   void redraw();
 

@@ -41,7 +41,8 @@ class Box:
 class Program:
     """One run of the program in a folder of its own."""
 
-    def __init__(self, screen, executable, files=None, folder=None, environment=None, through=()):
+    def __init__(self, screen, executable, files=None, folder=None, environment=None,
+                 arguments=(), through=()):
         self.screen = screen
         self.temporary = folder is None
         self.folder = folder or tempfile.mkdtemp(prefix="karvenis-folder-")
@@ -53,7 +54,7 @@ class Program:
         self._scale = (float(environment.get("QT_SCALE_FACTOR", 1))
                        * float(environment.get("QT_FONT_DPI", 96)) / 96)
         self._words = tempfile.TemporaryFile()
-        self.process = start([*through, executable], cwd=self.folder, stdout=self._words,
+        self.process = start([*through, executable, *arguments], cwd=self.folder, stdout=self._words,
                              stderr=self._words, env={**screen.environment, **environment})
 
     def close(self):

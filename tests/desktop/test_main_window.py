@@ -111,6 +111,18 @@ class Looks(DesktopCase):
         self.assertEqual(program.titles(), [STANDARD_TITLE])
 
 
+class Options(DesktopCase):
+    """The toolkit's own options are no options of the program."""
+
+    def test_the_window_is_not_mirrored(self):
+        self.start(arguments=("-reverse",))
+        self.assertLess(self.main.find("push button", "Kolon").place[0],
+                        self.main.find("push button", "Çıkış").place[0])
+
+    def test_no_other_platform_is_taken(self):
+        self.start(arguments=("-platform", "nowhere"))
+
+
 class Ends(DesktopCase):
     def test_esc_ends_and_writes_nothing(self):
         program = self.start()

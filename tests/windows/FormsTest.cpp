@@ -1,5 +1,6 @@
 #include "platform/qt/Forms.h"
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -60,6 +61,22 @@ class FormsTest : public WindowTest {
   }
   Noting* show(const char* name) { return static_cast<Noting*>(open(name)); }
   Log taken() { return std::exchange(log, {}); }
+  /// The user goes to the window, as by a taskbar.
+  void go(Form* form) {
+    form->activateWindow();
+    EXPECT_TRUE(waitFor([&] { return forms.active() == form; }));
+  }
+  /// Runs the event loop until it has nothing left to do.
+  static void letSettle() {
+    bool idle = false;
+    QTimer::singleShot(0, qApp, [&] { QTimer::singleShot(0, qApp, [&] { idle = true; }); });
+    EXPECT_TRUE(waitFor([&] { return idle; }));
+  }
+  /// One key press, without those of the keys that are held with it.
+  static void send(Form* form, Qt::Key key, Qt::KeyboardModifiers held = {}) {
+    QKeyEvent press(QEvent::KeyPress, key, held);
+    QCoreApplication::sendEvent(form->windowHandle(), &press);
+  }
 };
 
 TEST_F(FormsTest, AWindowLoadsResizesAndActivatesOnce) {
@@ -107,37 +124,175 @@ TEST_F(FormsTest, ClosingAnOrphanActivatesTheMainWindow) {
   EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmA Form_Activate"}));
 }
 
-TEST_F(FormsTest, ClosingActivatesTheOpenerThoughTheUserWorksInItAlready) {
+TEST_F(FormsTest, AWindowThatClosesWhileTheUserWorksElsewhereMovesNothing) {
   Noting* a = show("frmA");
   Noting* b = show("frmB");
   show("frmA");
   taken();
   b->unload();
-  EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+  settle();
+  EXPECT_TRUE(taken().empty());
   EXPECT_EQ(forms.active(), a);
 }
 
-TEST_F(FormsTest, AFastEscMeantForTheNewWindowDoesNotCloseTheOldOne) {
+TEST_F(FormsTest, AnOpenerThatWasOpenedAgainIsTheOpener) {
+  show("frmA");
+  Noting* b = show("frmB");
+  Noting* c = show("frmC");
+  go(b);
+  press(b, Qt::Key_Escape);
+  settle();
+  show("frmB");
+  show("frmC");
+  taken();
+  press(c, Qt::Key_Escape);
+  EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmB Form_Activate"}));
+}
+
+TEST_F(FormsTest, AWindowLeadsBackToTheOneItWasLastShownFrom) {
+  Noting* a = show("frmA");
+  Noting* c = show("frmC");
+  go(a);
+  show("frmB");
+  show("frmC");
+  taken();
+  press(c, Qt::Key_Escape);
+  EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmB Form_Activate"}));
+}
+
+TEST_F(FormsTest, TheWindowThatTheUserGoesToIsActivatedOnce) {
   Noting* a = show("frmA");
   show("frmB");
   taken();
-  press(a, Qt::Key_Escape);
-  EXPECT_TRUE(log.empty());
-  EXPECT_TRUE(waitFor([&] { return !forms.isLosing(*a); }));
-  press(a, Qt::Key_Escape);
-  EXPECT_EQ(std::ranges::count(log, "frmA KeyDown 27/0"), 1);
+  go(a);
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, AClickActivatesItsWindowBeforeTheControlSeesIt) {
+  Noting* a = show("frmA");
+  show("frmB");
+  taken();
+  click(a->Command1);
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate", "frmA Command1_Click"}));
+}
+
+// A desktop gives the keyboard to the window that was used last before it hears of the other one.
+TEST_F(FormsTest, AWindowThatTheKeyboardPassesThroughIsNotActivated) {
+  Noting* a = show("frmA");
+  Noting* c = show("frmC");
+  go(a);
+  Noting* b = show("frmB");
+  go(c);
+  taken();
+  c->onKey = [b] { b->activateWindow(); };
+  press(c, Qt::Key_Escape);
+  EXPECT_TRUE(waitFor([a] { return a->isActiveWindow(); }));
+  letSettle();
+  EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, ADesktopThatKeepsTheKeyboardElsewhereIsBelievedInTheEnd) {
+  Noting* a = show("frmA");
+  show("frmB");
+  forms.show("frmC");
+  a->activateWindow();
+  taken();
+  EXPECT_TRUE(waitFor([&] { return forms.active() == a; }));
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, AKeyRightBehindOneThatOpensAWindowIsThatWindowsOwn) {
+  Noting* a = show("frmA");
+  a->onKey = [this] { forms.show("frmB"); };
+  taken();
+  press(a, Qt::Key_F5);
+  a->onKey = nullptr;
+  press(a, Qt::Key_F4);
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 116/0", "frmB Form_Load", "frmB Resize",
+                          "frmB Form_Activate", "frmB KeyDown 115/0"}));
+}
+
+TEST_F(FormsTest, AKeyThatComesBackLateIsTheActiveWindowsOwn) {
+  show("frmA");
+  Noting* b = show("frmB");
+  taken();
+  QKeyEvent late(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
+  QCoreApplication::sendEvent(qApp, &late);
+  EXPECT_EQ(taken(), (Log{"frmB KeyDown 115/0"}));
+  EXPECT_EQ(forms.active(), b);
 }
 
 TEST_F(FormsTest, AKeyHeldSinceAnotherWindowReachesNobody) {
   Noting* a = show("frmA");
   QTest::keyPress(a->windowHandle(), Qt::Key_Down);
-  Noting* b = show("frmB");
+  show("frmB");
   taken();
   QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QString(), true);
-  QCoreApplication::sendEvent(b->windowHandle(), &repeat);
+  QCoreApplication::sendEvent(qApp, &repeat);
   EXPECT_TRUE(log.empty());
-  hold(b, Qt::Key_Down, 2);
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  for (QKeyEvent* key : {&press, &repeat, &repeat}) QCoreApplication::sendEvent(qApp, key);
   EXPECT_EQ(log.size(), 3U);
+}
+
+TEST_F(FormsTest, AWindowThatComesBackFromBeingMinimisedIsActivated) {
+  show("frmA");
+  Noting* b = show("frmB");
+  b->showMinimized();
+  EXPECT_TRUE(waitFor([b] { return b->isMinimized(); }));
+  taken();
+  show("frmB");
+  EXPECT_FALSE(b->isMinimized());
+  EXPECT_EQ(taken(), (Log{"frmB Form_Activate"}));
+  letSettle();
+  EXPECT_TRUE(taken().empty()) << "once";
+}
+
+TEST_F(FormsTest, TheMinimisedMainWindowComesBackWhenTheLastOtherCloses) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  a->showMinimized();
+  EXPECT_TRUE(waitFor([a] { return a->isMinimized(); }));
+  taken();
+  press(b, Qt::Key_Escape);
+  EXPECT_FALSE(a->isMinimized());
+  EXPECT_EQ(taken(), (Log{"frmB KeyDown 27/0", "frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, TheMinimisedMainWindowComesBackThoughTheUserWorkedInIt) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  go(a);
+  a->showMinimized();
+  EXPECT_TRUE(waitFor([a] { return a->isMinimized(); }));
+  b->unload();
+  EXPECT_FALSE(a->isMinimized());
+}
+
+TEST_F(FormsTest, AltWithAFunctionKeyIsTheDesktopsOwn) {
+  Noting* a = show("frmA");
+  taken();
+  for (int key = Qt::Key_F1; key <= Qt::Key_F12; ++key) {
+    send(a, static_cast<Qt::Key>(key), Qt::AltModifier);
+    send(a, static_cast<Qt::Key>(key), Qt::AltModifier | Qt::ShiftModifier);
+  }
+  send(a, Qt::Key_Escape, Qt::AltModifier);
+  EXPECT_TRUE(taken().empty());
+  send(a, Qt::Key_F4, Qt::ShiftModifier | Qt::ControlModifier);
+  send(a, Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 115/3", "frmA KeyDown 40/4"}));
+}
+
+TEST_F(FormsTest, CtrlInsertAndCapsLockAreTheScreenReadersWhileOneListens) {
+  Noting* a = show("frmA");
+  QAccessible::setActive(true);
+  ASSERT_TRUE(QAccessible::isActive());
+  taken();
+  for (const auto key : {Qt::Key_Control, Qt::Key_Insert, Qt::Key_CapsLock}) send(a, key);
+  EXPECT_TRUE(taken().empty());
+  send(a, Qt::Key_Insert, Qt::ShiftModifier);
+  send(a, Qt::Key_Shift);
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/1", "frmA KeyDown 255/0"}));
 }
 
 TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {
@@ -298,11 +453,11 @@ TEST_F(FormsTest, TheScreenHearsOfTheLastCaptionWhenTheProcedureEnds) {
 
 TEST_F(FormsTest, KeysThatCameDuringALongActionAreDropped) {
   Noting* a = show("frmA");
-  forms.dropInput();
+  Forms::dropInput();
   taken();
   press(a, Qt::Key_F1);
   EXPECT_TRUE(taken().empty());
-  EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
   press(a, Qt::Key_F1);
   EXPECT_EQ(taken().size(), 1U);
 }

@@ -149,8 +149,8 @@ void serve(Files& files, const std::function<Lengths()>& lengths) {
     fill(files);
     QtBoxes boxes;
     WholeProgram program(boxes, files);
-    boxes.owner = [&] { return program.forms.active(); };
-    boxes.beforeBox = [&] { program.forms.showCaptions(); };
+    boxes.opens = [&] { return program.forms.boxOpens(); };
+    boxes.closed = [&] { program.forms.boxClosed(); };
     Sound sound(program, files, lengths, seen);
     RandomUser* busy = nullptr;
     RandomUser user(program, random, [&] {

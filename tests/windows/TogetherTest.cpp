@@ -95,38 +95,90 @@ TEST_F(Together, WindowsOfOneOpenerStandBesideEachOther) {
   EXPECT_NE(places[0], places[2]);
 }
 
-/// A real box closes, and with it the focus comes back to the dialog.
-TEST(RealBoxes, ThatCloseLeaveTheRangeAsItWasTyped) {
+/// The program with real boxes, each answered by `behind` and then by Enter.
+class RealBoxes : public testing::Test {
+ protected:
   MemoryFiles files;
-  files.folder["KARVENIS.LST"] = countedColumns(30);
-  QTimer::singleShot(0, qApp, &QApplication::quit);
-  QApplication::exec();  // a program that ended in another test left the loops of boxes shut
   QtBoxes boxes;
-  WholeProgram program(boxes, files);
-  boxes.owner = [&] { return program.forms.active(); };
-  program.forms.show("frmLoto");
-  program.forms.show("frmCLPrint");
-  Form* dialog = program.forms.find("frmCLPrint");
-  ASSERT_NE(dialog, nullptr);
-  ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+  WholeProgram program{boxes, files};
+  int answered = 0;
+
+  void SetUp() override {
+    boxes.opens = [this] { return program.forms.boxOpens(); };
+    boxes.closed = [this] { program.forms.boxClosed(); };
+    program.forms.show("frmLoto");
+  }
+  Form* open(const char* name) {
+    program.forms.show(name);
+    Form* form = program.forms.find(name);
+    EXPECT_TRUE(form != nullptr && QTest::qWaitForWindowActive(form));
+    return form;
+  }
+  /// Presses a key that opens a box, does something behind it, and answers it.
+  void pressAndAnswer(
+      Form* form, Qt::Key key, const std::function<void()>& behind = [] {}) {
+    QTimer hand;
+    QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
+      QWidget* box = QApplication::activeModalWidget();
+      if (box == nullptr) return;
+      hand.stop();
+      behind();
+      EXPECT_EQ(QApplication::activeModalWidget(), box);
+      ++answered;
+      QTest::keyClick(box->windowHandle(), Qt::Key_Return);
+    });
+    hand.start(0);
+    QTest::keyClick(form->windowHandle(), key);
+  }
+};
+
+/// With a real box that closes the focus comes back to the dialog.
+TEST_F(RealBoxes, ThatCloseLeaveTheRangeAsItWasTyped) {
+  files.folder["KARVENIS.LST"] = countedColumns(30);
+  Form* dialog = open("frmCLPrint");
   auto* last = dialog->findChild<QLineEdit*>(QStringLiteral("Text2"));
   EXPECT_EQ(last->text(), "30");
   last->setText(QStringLiteral("9"));
-
-  bool answered = false;
-  QTimer hand;
-  QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
-    QWidget* box = QApplication::activeModalWidget();
-    if (box == nullptr || answered) return;
-    answered = true;
-    QTest::keyClick(box->windowHandle(), Qt::Key_Return);
-  });
-  hand.start(0);
-  QTest::keyClick(dialog->windowHandle(), Qt::Key_F10);
-  EXPECT_TRUE(answered);
-  dialog->activateWindow();  // as a window manager does
-  EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+  pressAndAnswer(dialog, Qt::Key_F10);
+  EXPECT_EQ(answered, 1);
+  EXPECT_TRUE(QTest::qWaitForWindowActive(dialog)) << "also without a window manager";
   EXPECT_EQ(last->text(), "9") << "a box that closes is no activation";
+}
+
+TEST_F(RealBoxes, LetNothingBehindThemBePressed) {
+  Form* main = open("frmLoto");
+  Form* bag = open("frmBalls");
+  auto* ofBag = main->findChild<QAbstractButton*>(QStringLiteral("Option1"));
+  auto* ofList = main->findChild<QAbstractButton*>(QStringLiteral("Option2"));
+  auto* sorted = main->findChild<QAbstractButton*>(QStringLiteral("Check1"));
+  pressAndAnswer(bag, Qt::Key_F10, [&] {
+    bag->findChild<QAbstractButton*>(QStringLiteral("Command2"))->click();
+    main->findChild<QAbstractButton*>(QStringLiteral("Command2"))->click();
+    main->findChild<QAction*>(QStringLiteral("mnuShowBanko"))->trigger();
+    bag->close();
+    ofList->toggle();
+    sorted->toggle();
+    EXPECT_TRUE(ofBag->isChecked());
+    EXPECT_FALSE(ofList->isChecked());
+    EXPECT_FALSE(sorted->isChecked());
+  });
+  EXPECT_FALSE(program.forms.ending());
+  EXPECT_EQ(program.forms.find("frmBalls"), bag);
+  EXPECT_EQ(program.forms.find("frmBanko"), nullptr);
+  ofList->toggle();
+  sorted->toggle();
+  EXPECT_TRUE(ofList->isChecked());
+  EXPECT_TRUE(sorted->isChecked());
+}
+
+TEST_F(RealBoxes, HaveTheKeysThatReachTheWindowBehindThem) {
+  Form* main = open("frmLoto");
+  pressAndAnswer(main, Qt::Key_F10, [&] {
+    QTest::keyClick(main->windowHandle(), Qt::Key_F5);
+    EXPECT_EQ(program.forms.find("frmBalls"), nullptr);
+    QTest::keyClick(main->windowHandle(), Qt::Key_Tab);
+  });
+  EXPECT_EQ(answered, 1);
 }
 
 }  // namespace

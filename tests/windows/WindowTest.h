@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include "doubles/Doubles.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Form.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Surface.h"

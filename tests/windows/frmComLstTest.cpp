@@ -195,7 +195,7 @@ TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
     expectInput(keys[i].prompt, keys[i].typed);
     world.boxes.expectQuestion(keys[i].question, true);
     press(list, keys[i].key);
-    EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+    EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
     EXPECT_EQ(records(), left[i]);
     EXPECT_TRUE(showsFrom(2, std::min<std::size_t>(left[i] - 1, 25)));
     EXPECT_TRUE(list->caption().starts_with(" Kombinasyon Listesi - Sayfa "));
@@ -241,7 +241,7 @@ TEST_F(FrmComLst, KeysThatCameDuringAFilterAreNoCommandsAfterIt) {
                                 new QKeyEvent(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier));
   };
   press(list, Qt::Key_F5);
-  EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
   EXPECT_TRUE(showsFrom(2, 25)) << "nothing asked whether to delete the list";
 }
 

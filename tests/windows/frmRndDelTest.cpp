@@ -125,8 +125,10 @@ TEST_F(FrmRndDel, TheListBehindItStaysUsableAndShowsTheShortenedFile) {
   press(list, Qt::Key_F3);
   dialog = forms.find("frmRndDel");
   ASSERT_NE(dialog, nullptr);
+  open("frmRndLst");
   press(list, Qt::Key_End);
   EXPECT_TRUE(linesOf(list).front().starts_with("Kolon - 36 : "));
+  open("frmRndDel");
   number()->setText("60");
   press(dialog, Qt::Key_Return);
   EXPECT_FALSE(isOpen());

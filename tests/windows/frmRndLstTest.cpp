@@ -86,6 +86,7 @@ TEST_F(FrmRndLst, HelpsAndListsAndDeletesInDialogs) {
   world.boxes.expectBeep(2);
   press(list, Qt::Key_F3);
   EXPECT_NE(forms.find("frmRndDel"), nullptr);
+  open("frmRndLst");
   world.boxes.expectBeep();
   press(list, Qt::Key_F9);
   EXPECT_NE(forms.find("frmRLPrint"), nullptr);

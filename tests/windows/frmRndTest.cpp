@@ -230,8 +230,8 @@ TEST_F(FrmRnd, KeysThatCameDuringTheRunAreNoCommandsAfterIt) {
   };
   world.boxes.expectBeep().expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   press(form, Qt::Key_F1);
-  EXPECT_TRUE(forms.droppingInput());
-  EXPECT_TRUE(waitFor([this] { return !forms.droppingInput(); }));
+  EXPECT_TRUE(Application::instance()->isDroppingInput());
+  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
   EXPECT_EQ(opener()->keys, 0);
   press(opener(), Qt::Key_F1);
   EXPECT_EQ(opener()->keys, 1);

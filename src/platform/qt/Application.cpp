@@ -1,6 +1,7 @@
 #include "platform/qt/Application.h"
 
 #include <QKeyEvent>
+#include <QTimer>
 
 namespace karvenis {
 namespace {
@@ -12,44 +13,82 @@ struct Repeat final : QKeyEvent {
 
 }  // namespace
 
-/// Keys come to the native windows first.
+/// Input comes from the desktop to the native windows.
 bool Application::notify(QObject* receiver, QEvent* event) {
-  if (receiver->isWindowType() && event->type() == QEvent::KeyPress) {
-    return pressed(receiver, *static_cast<QKeyEvent*>(event));
+  if (!receiver->isWindowType()) return QApplication::notify(receiver, event);
+  switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      if (event->spontaneous()) return takeKey(*static_cast<QKeyEvent*>(event));
+      break;
+    case QEvent::MouseButtonPress:
+      if (!dropping_) Q_EMIT clicked(static_cast<QWindow*>(receiver));
+      break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      break;
+    default:
+      return QApplication::notify(receiver, event);
   }
-  if (receiver->isWindowType() && event->type() == QEvent::KeyRelease) {
-    return released(receiver, *static_cast<QKeyEvent*>(event));
-  }
-  return QApplication::notify(receiver, event);
+  return dropping_ || QApplication::notify(receiver, event);
 }
 
-bool Application::pressed(QObject* window, QKeyEvent& press) {
-  if (!isRepeat(press)) {
-    pressedIn_ = window;
-    return QApplication::notify(window, &press);
+/// Sends the key to the application itself: assistive technology, which may stop it on this way and
+/// send it on later, remembers where to, and the window may be gone then.
+bool Application::takeKey(QKeyEvent& key) {
+  const bool repeats = isRepeat(key);
+  if (dropping_) return true;
+  if (!repeats) {
+    if (key.type() == QEvent::KeyPress) Q_EMIT keyPressed();
+    return QApplication::notify(this, &key);
   }
-  if (window != pressedIn_) return true;
-  Repeat repeat(press);
-  return QApplication::notify(window, &repeat);
+  Repeat repeat(key);
+  return QApplication::notify(this, &repeat);
 }
 
-bool Application::released(QObject* window, QKeyEvent& release) {
-  if (release.spontaneous()) {
-    releasedKey_ = release.key();
-    releasedAt_ = release.timestamp();
-  } else if (release.key() == Qt::Key_Alt) {
-    return true;  // the copy would close the menus that the release itself has opened
+bool Application::event(QEvent* event) {
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
+    return QApplication::event(event);
   }
-  return QApplication::notify(window, &release);
+  if (!dropping_) serve(*static_cast<QKeyEvent*>(event));
+  return true;
+}
+
+void Application::serve(QKeyEvent& key) {
+  QWindow* window = keyWindow();
+  if (window == nullptr) return;
+  if (key.type() == QEvent::KeyPress) {
+    if (!key.isAutoRepeat()) pressedIn_ = window;
+    if (window != pressedIn_) return;
+  } else if (key.key() == Qt::Key_Alt && !key.spontaneous()) {
+    return;  // a copy, which would close the menus that the release itself has opened
+  }
+  sendEvent(window, &key);
+}
+
+QWindow* Application::keyWindow() const {
+  if (const QWidget* box = activeModalWidget()) return box->windowHandle();
+  return working_ ? working_->windowHandle() : focusWindow();
 }
 
 /// An X server sends a repeat as a release and a press of the same moment; the toolkit knows the
 /// two for a repeat only where it happens to read them together, and else takes them for a key
 /// pressed anew. Elsewhere the moment is that of the event's making, and no repeat is told by it.
-bool Application::isRepeat(const QKeyEvent& press) const {
-  if (press.isAutoRepeat()) return true;
-  return press.spontaneous() && platformName() == QLatin1String("xcb") &&
-         press.key() == releasedKey_ && press.timestamp() == releasedAt_;
+bool Application::isRepeat(const QKeyEvent& key) {
+  if (key.type() == QEvent::KeyRelease) {
+    releasedKey_ = key.key();
+    releasedAt_ = key.timestamp();
+    return false;
+  }
+  return key.isAutoRepeat() || (platformName() == QLatin1String("xcb") &&
+                                key.key() == releasedKey_ && key.timestamp() == releasedAt_);
+}
+
+/// The first turn of the event loop brings what came meanwhile; idle timers fire after it.
+void Application::dropInput() {
+  dropping_ = true;
+  QTimer::singleShot(0, this,
+                     [this] { QTimer::singleShot(0, this, [this] { dropping_ = false; }); });
 }
 
 }  // namespace karvenis

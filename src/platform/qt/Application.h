@@ -1,33 +1,61 @@
 #pragma once
 
 #include <QApplication>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
 
 class QKeyEvent;
 
 namespace karvenis {
 
-/// The toolkit's application. It sees every key before anybody else, also before the toolkit hands
-/// it to assistive technology and gets back a copy that no longer tells when it was pressed.
+/// The toolkit's application, which the user's keys and clicks pass first: before any window, and
+/// before the toolkit hands a key to assistive technology and gets a copy of it back, late and
+/// without the moment when it was pressed.
 ///
-/// It tells the repeat of a key that is held from a new press (QKeyEvent::isAutoRepeat), and keeps
-/// it from any other window than the one it was pressed in: a box is not answered, and a list not
-/// paged, by a key that was already held when it came.
+/// - The repeat of a key that is held is told from a new press (QKeyEvent::isAutoRepeat), and stays
+///   in the window it was pressed in: a box is not answered, and a list not paged, by a key that
+///   was already held when it came.
+/// - A key belongs to the window that the user works in when it is served, and not to the one that
+///   still had the keyboard when it was pressed: the open box, else the working window.
+/// - What came while a long action ran is dropped, so that it does not become a command after it.
 class Application final : public QApplication {
   Q_OBJECT
 
  public:
   using QApplication::QApplication;
 
+  /// The running application; null where another kind of it runs.
+  static Application* instance() { return qobject_cast<Application*>(qApp); }
+
+  /// Sets the window that has the keys while no box is open; null: the one that has the keyboard.
+  void setWorkingWindow(QWidget* window) { working_ = window; }
+
+  /// Drops the keys and clicks that have come by now.
+  void dropInput();
+  bool isDroppingInput() const { return dropping_; }
+
   bool notify(QObject* receiver, QEvent* event) override;
 
- private:
-  bool isRepeat(const QKeyEvent& press) const;
-  bool pressed(QObject* window, QKeyEvent& press);
-  bool released(QObject* window, QKeyEvent& release);
+ Q_SIGNALS:
+  /// The user has pressed a key, or a mouse button in `window`, and nobody has seen it yet.
+  void keyPressed();
+  void clicked(QWindow* window);
 
-  const QObject* pressedIn_ = nullptr;  // only compared
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  bool takeKey(QKeyEvent& key);
+  void serve(QKeyEvent& key);
+  bool isRepeat(const QKeyEvent& key);
+  QWindow* keyWindow() const;
+
+  QPointer<QWidget> working_;
+  const QWindow* pressedIn_ = nullptr;  // only compared
   int releasedKey_ = 0;
   quint64 releasedAt_ = 0;
+  bool dropping_ = false;
 };
 
 }  // namespace karvenis

@@ -18,7 +18,7 @@ namespace {
 /// How often the screen hears of a new caption while a procedure runs, in milliseconds.
 constexpr qint64 captionInterval = 15;
 
-bool isFunctionKey(int code) { return code >= keyF1 && code <= keyF12; }
+bool isBoxOpen() { return QApplication::activeModalWidget() != nullptr; }
 bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != nullptr; }
 
 }  // namespace
@@ -102,11 +102,33 @@ void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
   });
 }
 
+/// Keys and clicks go to the open box by themselves, but assistive technology presses what it
+/// likes, and the press of a button that began before the box opened ends behind it.
+bool Form::isBehindBox(const QObject* sender) {
+  return isBoxOpen() && (qobject_cast<const QAbstractButton*>(sender) != nullptr ||
+                         qobject_cast<const QAction*>(sender) != nullptr);
+}
+
+/// Puts a choice back that was made behind an open box.
+void Form::keepBehindBox(QAbstractButton* choice) {
+  connect(choice, &QAbstractButton::toggled, this, [this, choice](bool checked) {
+    if (!isBoxOpen() || puttingBack_ || choice->isChecked() != checked) return;
+    puttingBack_ = true;
+    choice->setChecked(!checked);
+    puttingBack_ = false;
+  });
+}
+
 bool Form::event(QEvent* event) {
   const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::WindowActivate && isVisible()) forms_.gotFocus(*this);
+  if (event->type() == QEvent::WindowActivate && isVisible()) forms_.gotKeyboard(*this);
   if (event->type() == QEvent::WindowDeactivate) pressWasFree_ = pressBeforeWasFree_ = false;
   return handled;
+}
+
+void Form::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange && isMinimized()) wasMinimised_ = true;
 }
 
 void Form::showEvent(QShowEvent* event) {
@@ -124,10 +146,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
       return pressesFocused(keyCodeOf(*static_cast<QKeyEvent*>(event)));
     case QEvent::MouseButtonPress:
       notePress(*static_cast<QMouseEvent*>(event));
-      [[fallthrough]];
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-      return forms_.droppingInput();
+      return false;
     default:
       return false;
   }
@@ -138,14 +157,11 @@ bool Form::handleKey(const QKeyEvent& key) {
   const bool inMenus = QApplication::activePopupWidget() != nullptr ||
                        qobject_cast<QMenuBar*>(focusWidget()) != nullptr;
   if (inMenus) return false;
-  if (closing_ || forms_.droppingInput() || QApplication::activeModalWidget() != nullptr)
-    return true;
-  if (isOfScreenReader(key)) return true;
+  if (closing_ || isOfScreenReader(key) || isOfDesktop(key)) return true;
   const int code = keyCodeOf(key);
   const bool once = isFunctionKey(code) || code == keyEscape;
   keyRepeats_ = key.isAutoRepeat();
   if (once && keyRepeats_) return true;
-  if (code == keyEscape && forms_.isLosing(*this)) return true;  // meant for the new window
 
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();
@@ -174,7 +190,9 @@ bool Form::pressFocused(int code, QWidget* focused) {
 
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!closing_) run([this] { closeRequested(); });
+  if (closing_ || isBoxOpen()) return;
+  forms_.settle();
+  run([this] { closeRequested(); });
 }
 
 void Form::resizeEvent(QResizeEvent* event) {

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <type_traits>
+#include <utility>
 
 #include "platform/Keys.h"
 #include "platform/TitleBar.h"
@@ -40,20 +42,24 @@ class Form : public QWidget, public TitleBar {
   void unload();
   bool isClosing() const { return closing_; }
 
-  Form* opener() const { return opener_; }
-  void setOpener(Form* opener) { opener_ = opener; }
+  /// The name of the window that this one was last shown from; empty for the main window.
+  const std::string& opener() const { return opener_; }
+  void setOpener(const std::string& opener) { opener_ = opener; }
+
+  /// Whether the window has been minimised since this was asked last.
+  bool cameBack() { return std::exchange(wasMinimised_, false); }
 
   /// Runs an event procedure; a fault ends the program with its one closing box.
   void run(const std::function<void()>& procedure);
 
   /// The window has been made and is about to be shown.
   virtual void Form_Load() {}
-  /// The window was shown, or takes the place of another window of the program.
+  /// The window became the active one, or came back from being minimised.
   virtual void Form_Activate() {}
 
  protected:
   /// A key, seen before the control that has the focus. F1..F12 come once, however long they are
-  /// held.
+  /// held, and not with Alt.
   virtual void Form_KeyDown(int KeyCode, int Shift);
   /// The character of a key: Enter (13) and Esc (27) only, not while Ctrl or Alt is held.
   virtual void Form_KeyPress(int KeyAscii);
@@ -71,7 +77,9 @@ class Form : public QWidget, public TitleBar {
   /// Connects a control's signal with an event procedure.
   template <typename Sender, typename Signal, typename Procedure>
   void on(Sender* sender, Signal signal, Procedure procedure) {
-    connect(sender, signal, this, [this, procedure] { run(procedure); });
+    connect(sender, signal, this, [this, sender, procedure] {
+      if (!isBehindBox(sender)) run(procedure);
+    });
   }
   /// Counts `container`, a widget that only holds others, as part of the window's own surface.
   static void makeSurface(QWidget* container);
@@ -82,6 +90,7 @@ class Form : public QWidget, public TitleBar {
   Control* control(const QString& controlName, Arguments&&... arguments) {
     auto* made = new Control(std::forward<Arguments>(arguments)..., this);
     made->setObjectName(controlName);
+    if constexpr (std::is_base_of_v<QAbstractButton, Control>) keepBehindBox(made);
     return made;
   }
   /// A command button of this window.
@@ -93,6 +102,7 @@ class Form : public QWidget, public TitleBar {
   QMenuBar* menuBar();
 
   bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -101,6 +111,8 @@ class Form : public QWidget, public TitleBar {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
+  static bool isBehindBox(const QObject* sender);
+  void keepBehindBox(QAbstractButton* choice);
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
   bool pressesFocused(int code) const;
@@ -108,13 +120,15 @@ class Form : public QWidget, public TitleBar {
   bool isFree(const QPoint& place) const;
 
   Forms& forms_;
-  QPointer<Form> opener_;
+  std::string opener_;
   QMenuBar* menuBar_ = nullptr;
   std::string caption_;
   QElapsedTimer sinceShown_;
   QSize lastSize_;
   int running_ = 0;
   bool closing_ = false;
+  bool wasMinimised_ = false;
+  bool puttingBack_ = false;
   bool keyRepeats_ = false;  // the key that is being handled is a repeat
   bool clickArmed_ = false;
   bool pressWasFree_ = false;        // the last press was on the window's own surface

@@ -1,16 +1,20 @@
 #include "platform/qt/Forms.h"
 
-#include <QApplication>
-#include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
 #include "platform/RunTimeError.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Form.h"
 #include "platform/qt/WindowPlace.h"
 
 namespace karvenis {
 namespace {
+
+/// How long the keyboard may be on its way to the window it was given to. A desktop that leaves it
+/// elsewhere for longer has refused.
+constexpr std::chrono::milliseconds patience(2000);
 
 /// What a fault that is not a RunTimeError says to the user.
 std::string words(const std::exception& error) {
@@ -19,6 +23,17 @@ std::string words(const std::exception& error) {
 }
 
 }  // namespace
+
+Forms::Forms(Boxes& boxes) : boxes_(boxes) {
+  settle_.setSingleShot(true);
+  QObject::connect(&settle_, &QTimer::timeout, &settle_, [this] { settle(); });
+  const Application* application = Application::instance();
+  if (application == nullptr) return;
+  QObject::connect(application, &Application::keyPressed, &settle_, [this] { settle(); });
+  QObject::connect(application, &Application::clicked, &settle_, [this](const QWindow* window) {
+    if (Form* form = owning(window)) clicked(*form);
+  });
+}
 
 Forms::~Forms() {
   ending_ = true;
@@ -37,10 +52,19 @@ Form* Forms::find(std::string_view form) const {
   return nullptr;
 }
 
+Form* Forms::owning(const QWindow* window) const {
+  const auto found = std::ranges::find_if(open_, [window](const QPointer<Form>& form) {
+    return form && form->windowHandle() == window;
+  });
+  return found == open_.end() ? nullptr : *found;
+}
+
 void Forms::show(std::string_view form) {
   Form* window = find(form);
   if (window == nullptr) window = open(form);
-  if (window != nullptr) present(*window);
+  if (window == nullptr) return;
+  if (active_ && active_ != window) window->setOpener(active_->name());
+  present(*window);
 }
 
 /// Makes and loads a window; null where it closed itself at once.
@@ -48,7 +72,6 @@ Form* Forms::open(std::string_view form) {
   const auto factory = factories_.find(form);
   if (factory == factories_.end()) throw std::logic_error("no window " + std::string(form));
   Form* window = factory->second();
-  window->setOpener(active_);
   std::erase_if(open_, [](const QPointer<Form>& gone) { return gone.isNull(); });
   open_.emplace_back(window);
   window->run([&] {
@@ -73,32 +96,78 @@ void Forms::placeBeside(Form& window, const Form& opener) const {
 }
 
 void Forms::present(Form& form) {
+  form.setWindowState(form.windowState() & ~Qt::WindowMinimized);
   form.show();
   form.raise();
+  giveKeyboard(form);
+  activate(form);
+}
+
+void Forms::giveKeyboard(Form& form) {
   form.activateWindow();
-  sincePresented_.start();
-  became(form);
+  if (!form.isActiveWindow()) settle_.start(patience);
 }
 
-/// While a procedure runs, the focus moves only because of its boxes, and a box is no activation; a
-/// window that the procedure itself shows is activated by present().
-void Forms::gotFocus(Form& form) {
-  if (running_ == 0) became(form);
+void Forms::gotKeyboard(const Form& form) {
+  if (active_ == &form || !isKeyboardOnItsWay()) settle_.start(0);
 }
 
-/// `form` is the window the user works in now; runs its Form_Activate where it was another before.
-void Forms::became(Form& form) {
-  if (ending_ || active_ == &form || form.isClosing()) return;
+/// While a procedure runs, the keyboard moves only because of its boxes.
+void Forms::settle() {
+  if (running_ > 0 || isKeyboardOnItsWay()) return;
+  if (auto* form = qobject_cast<Form*>(QApplication::activeWindow())) activate(*form);
+}
+
+void Forms::clicked(Form& form) {
+  if (running_ > 0) return;
+  settle_.stop();
+  activate(form);
+}
+
+/// Makes `form` the window that the user works in; runs its Form_Activate where another one was it
+/// before, or where it comes back from being minimised.
+void Forms::activate(Form& form) {
+  if (ending_ || form.isClosing()) return;
+  const bool cameBack = form.cameBack();
+  if (active_ == &form && !cameBack) return;
   active_ = &form;
+  if (Application* application = Application::instance()) application->setWorkingWindow(&form);
   form.run([&] { form.Form_Activate(); });
 }
 
-void Forms::closed(Form& form) {
+QWidget* Forms::boxOpens() {
+  for (const QPointer<Form>& form : open_) {
+    if (form) form->showCaption();
+  }
+  return active_;
+}
+
+void Forms::boxClosed() {
+  if (active_ && !ending_) giveKeyboard(*active_);
+}
+
+void Forms::closed(const Form& form) {
   if (ending_) return;
-  active_ = nullptr;  // so that the next one is activated, also where it already had the focus
-  Form* next = form.opener();
-  if (next == nullptr || next->isClosing()) next = find(mainForm_);
-  if (next != nullptr) present(*next);
+  if (Form* next = successorOf(form)) present(*next);
+}
+
+/// The window that takes the place of `form`; null where the user works elsewhere. What is left is
+/// never only a minimised main window.
+Form* Forms::successorOf(const Form& form) const {
+  Form* main = find(mainForm_);
+  if (active_ == &form) {
+    Form* opener = find(form.opener());
+    return opener != nullptr ? opener : main;
+  }
+  const auto isOpen = [main](const QPointer<Form>& other) {
+    return other && other != main && !other->isClosing();
+  };
+  const bool alone = std::ranges::none_of(open_, isOpen);
+  return alone && main != nullptr && main->isMinimized() ? main : nullptr;
+}
+
+void Forms::dropInput() {
+  if (Application* application = Application::instance()) application->dropInput();
 }
 
 void Forms::end() {
@@ -118,20 +187,6 @@ void Forms::fault(const std::exception& error) {
   status_ = 1;
   boxes_.message(words(error), errorTitle, Icon::critical);
   QCoreApplication::exit(status_);
-}
-
-void Forms::showCaptions() {
-  for (const QPointer<Form>& form : open_) {
-    if (form) form->showCaption();
-  }
-}
-
-void Forms::dropInput() {
-  *dropping_ = true;
-  // The first turn of the event loop brings what came meanwhile; idle timers fire after it.
-  QTimer::singleShot(0, qApp, [dropping = dropping_] {
-    QTimer::singleShot(0, qApp, [dropping] { *dropping = false; });
-  });
 }
 
 }  // namespace karvenis

@@ -1,16 +1,18 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QPointer>
+#include <QTimer>
 #include <exception>
 #include <functional>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "platform/Boxes.h"
 #include "platform/Windows.h"
+
+class QWidget;
+class QWindow;
 
 namespace karvenis {
 
@@ -18,11 +20,16 @@ class Form;
 
 /// The program's windows: makes them, knows which one the user works in and which one opened which,
 /// and ends the program.
+///
+/// A window becomes the active one, with its Form_Activate, when the program shows it, when it is
+/// the opener of the active one that closes, when the user clicks into it, and when the desktop has
+/// given it the keyboard and left it there. Where the program has given the keyboard to a window, a
+/// desktop may pass through others until it gets there; they are not activated.
 class Forms final : public Windows {
  public:
   using Factory = std::function<Form*()>;
 
-  explicit Forms(Boxes& boxes) : boxes_(boxes) {}
+  explicit Forms(Boxes& boxes);
   ~Forms() override;
 
   /// Makes `form` known by its name; `make` returns a new window, which then belongs to itself and
@@ -31,7 +38,7 @@ class Forms final : public Windows {
   /// The open window of that name, or null.
   Form* find(std::string_view form) const;
 
-  /// The window the user works in; null before the first and while one takes another's place.
+  /// The window the user works in; null before the first.
   Form* active() const { return active_; }
 
   void show(std::string_view form) override;
@@ -42,43 +49,47 @@ class Forms final : public Windows {
   /// Whether the program is about to end.
   bool ending() const { return ending_; }
 
-  /// The window system gave `form` the keyboard.
-  void gotFocus(Form& form);
+  /// The desktop gave `form` the keyboard.
+  void gotKeyboard(const Form& form);
+  /// Activates the window that has the keyboard, unless that is only on its way elsewhere.
+  void settle();
   /// An event procedure of some window begins, perhaps inside another one, and ends.
   void procedureBegins() { ++running_; }
   void procedureEnds() { --running_; }
-  /// Whether another window is about to take the place of `form`: a fast key may still reach it.
-  bool isLosing(const Form& form) const {
-    return active_ != &form && sincePresented_.isValid() && sincePresented_.elapsed() < 500;
-  }
-  /// `form` has closed: the window that opened it, else the main window, takes its place.
-  void closed(Form& form);
-  /// Ends the program with one box that says what failed, status 1.
-  void fault(const std::exception& error);
-  /// Brings every window's title on the screen up to date.
-  void showCaptions();
-
+  /// A box is about to open: brings every title on the screen up to date. Returns the window that
+  /// the box belongs to; null where there is none.
+  QWidget* boxOpens();
+  /// The box has closed: its window has the keyboard again, which is no activation.
+  void boxClosed();
+  /// `form` has closed. Where it was the active one, the window that it was last shown from, else
+  /// the main window, takes its place.
+  void closed(const Form& form);
   /// Drops the keys and clicks that came while a long action kept the program busy, so that they do
   /// not become commands after it.
-  void dropInput();
-  bool droppingInput() const { return *dropping_; }
+  static void dropInput();
+  /// Ends the program with one box that says what failed, status 1.
+  void fault(const std::exception& error);
 
  private:
   Form* open(std::string_view form);
   void placeBeside(Form& window, const Form& opener) const;
+  Form* successorOf(const Form& form) const;
+  Form* owning(const QWindow* window) const;
   void present(Form& form);
-  void became(Form& form);
+  void giveKeyboard(Form& form);
+  bool isKeyboardOnItsWay() const { return settle_.isActive() && settle_.interval() > 0; }
+  void clicked(Form& form);
+  void activate(Form& form);
 
   Boxes& boxes_;
   std::map<std::string, Factory, std::less<>> factories_;
   std::string mainForm_;
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
-  QElapsedTimer sincePresented_;
+  QTimer settle_;    // runs until the keyboard is taken to be where it is
   int running_ = 0;  // event procedures that have not ended
   bool ending_ = false;
   int status_ = 0;
-  std::shared_ptr<bool> dropping_ = std::make_shared<bool>(false);  // outlives us in its timers
 };
 
 }  // namespace karvenis

@@ -49,6 +49,11 @@ int shiftOf(const QKeyEvent& key) {
          (held.testFlag(Qt::AltModifier) ? altKey : 0);
 }
 
+bool isOfDesktop(const QKeyEvent& key) {
+  const int code = keyCodeOf(key);
+  return (shiftOf(key) & altKey) != 0 && (isFunctionKey(code) || code == keyEscape);
+}
+
 bool isOfScreenReader(const QKeyEvent& key) {
   if (!QAccessible::isActive()) return false;
   return key.key() == Qt::Key_Control || key.key() == Qt::Key_CapsLock ||

@@ -10,6 +10,9 @@ int keyCodeOf(const QKeyEvent& key);
 /// The Shift argument of a key event: ShiftMask bits.
 int shiftOf(const QKeyEvent& key);
 
+/// Whether the key is the desktop's own: Alt with a function key or with Esc.
+bool isOfDesktop(const QKeyEvent& key);
+
 /// Whether the key is one that a screen reader is worked with, and one listens: Ctrl, Insert and
 /// Caps Lock alone.
 bool isOfScreenReader(const QKeyEvent& key);

@@ -77,34 +77,36 @@ void fill(QMessageBox& box, const std::string& text, const std::string& title, I
 
 }  // namespace
 
-/// Returns the window that the box belongs to.
-QWidget* QtBoxes::prepare() const {
-  if (beforeBox) beforeBox();
-  QWidget* window = owner ? owner() : nullptr;
-  return window != nullptr ? window : QApplication::activeWindow();
+QWidget* QtBoxes::owner() const { return opens ? opens() : QApplication::activeWindow(); }
+
+/// Shows the box until it is answered. Returns its result.
+int QtBoxes::serve(QDialog& box) const {
+  const int result = box.exec();
+  if (closed) closed();
+  return result;
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  QMessageBox box(prepare());
+  QMessageBox box(owner());
   fill(box, text, title, icon);
   box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
-  box.exec();
+  serve(box);
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
-  QMessageBox box(prepare());
+  QMessageBox box(owner());
   fill(box, text, title, Icon::question);
   QPushButton* yes = box.addButton(u"Evet"_s, QMessageBox::YesRole);
   QPushButton* no = box.addButton(u"Hayır"_s, QMessageBox::NoRole);
   box.setDefaultButton(yes);
   box.setEscapeButton(no);
-  box.exec();
+  serve(box);
   return box.clickedButton() == yes;
 }
 
 std::string QtBoxes::input(const std::string& prompt, const std::string& title,
                            const std::string& preset) {
-  QInputDialog box(prepare());
+  QInputDialog box(owner());
   box.setWindowTitle(toQt(title));
   box.setLabelText(toQtLines(prompt));
   box.setTextValue(toQt(preset));
@@ -118,7 +120,7 @@ std::string QtBoxes::input(const std::string& prompt, const std::string& title,
   }
   for (QPushButton* button : box.findChildren<QPushButton*>()) button->setIcon(QIcon());
   box.setWindowFlags(boxFlags);
-  return box.exec() == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
+  return serve(box) == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
 }
 
 void QtBoxes::beep() { bell_.ring(); }

@@ -5,6 +5,7 @@
 #include "platform/Boxes.h"
 #include "platform/qt/Bell.h"
 
+class QDialog;
 class QWidget;
 
 namespace karvenis {
@@ -13,10 +14,10 @@ namespace karvenis {
 /// language.
 class QtBoxes final : public Boxes {
  public:
-  /// Runs before a box opens.
-  std::function<void()> beforeBox;
-  /// The window that a box belongs to; null: the one that has the focus.
-  std::function<QWidget*()> owner;
+  /// Runs before a box opens; returns the window that the box belongs to, or null.
+  std::function<QWidget*()> opens;
+  /// Runs when a box has closed.
+  std::function<void()> closed;
 
   void message(const std::string& text, const std::string& title, Icon icon) override;
   bool ask(const std::string& text, const std::string& title) override;
@@ -26,7 +27,8 @@ class QtBoxes final : public Boxes {
   void pointer(Pointer shape) override;
 
  private:
-  QWidget* prepare() const;
+  QWidget* owner() const;
+  int serve(QDialog& box) const;
 
   Bell bell_;
 };
