@@ -13,7 +13,7 @@ use-pixman=true
 idle-time=0
 [output]
 name=X1
-mode={size}
+mode={width}x{height}
 [shell]
 background-color=0xff000000
 panel-position=none
@@ -24,6 +24,9 @@ startup-animation=none
 focus-animation=none
 """
 
+# Pixels at the foot of the screen that the compositor's window leaves free.
+_STRIP = 8
+
 # A window in the compositor's own list of what it shows: its title and its corners.
 _WINDOW = re.compile(r"top-level window '(.*)' of .*\n"
                      r"\s+position: \((-?\d+), (-?\d+)\) -> \((-?\d+), (-?\d+)\)")
@@ -32,17 +35,22 @@ _WINDOW = re.compile(r"top-level window '(.*)' of .*\n"
 class WaylandScreen(Screen):
     def _open_display(self, size):
         super()._open_display(size)
+        self._width, self._height = map(int, size.split("x"))
         self._settings = os.path.join(self.home, "weston.ini")
         with open(self._settings, "w", encoding="utf-8") as file:
-            file.write(_SETTINGS.format(size=size))
+            file.write(_SETTINGS.format(width=self._width, height=self._height - _STRIP))
 
     def _manage(self):
+        # The compositor takes the pointer's place for its own when the pointer enters its window; a
+        # pointer that is there from the start may stay unknown to it.
+        self.run("xdotool", "mousemove", str(self._width // 2), str(self._height - 1))
         self._start(["weston", "--debug", f"--config={self._settings}", "--socket=desktop"])
         self.environment |= {"WAYLAND_DISPLAY": "desktop", "QT_QPA_PLATFORM": "wayland"}
         wait_for(lambda: "background for output" in self._scene(), "the compositor's desktop")
         # There is no X window manager that would give the compositor's window the keyboard.
         self.run("xdotool", "search", "--sync", "--onlyvisible", "--class", "weston",
                  "windowfocus", "--sync")
+        self.run("xdotool", "mousemove", str(self._width // 2), str(self._height // 2))
 
     def _scene(self):
         """What the compositor shows, in its own words; the front comes first."""
