@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWidget>
