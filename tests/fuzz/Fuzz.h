@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <map>
 #include <span>
 #include <string>
 
@@ -9,11 +10,20 @@
 #include "doubles/QuietWorld.h"
 #include "platform/RunTimeError.h"
 
-/// What a fuzzing target gives to the fuzzer and to the test of the kept inputs: it takes any bytes
-/// and must come back.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
-
 namespace karvenis {
+
+/// A fuzzing target takes any bytes and must come back.
+using FuzzTarget = void (*)(const std::uint8_t* data, std::size_t size);
+
+/// Every target by its name.
+inline std::map<std::string, FuzzTarget>& fuzzTargets() {
+  static std::map<std::string, FuzzTarget> all;
+  return all;
+}
+/// Makes a target known to the fuzzer and to the test of the kept inputs.
+inline bool addTarget(const char* name, FuzzTarget target) {
+  return fuzzTargets().emplace(name, target).second;
+}
 
 inline void require(bool holds) {
   if (!holds) std::abort();

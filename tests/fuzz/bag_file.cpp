@@ -6,15 +6,12 @@
 
 #include "fuzz/Fuzz.h"
 
-using namespace karvenis;
-
+namespace karvenis {
 namespace {
 
 bool isBag(const SharedState& state) { return std::ranges::all_of(state.Bag.balls(), isBall); }
 
-}  // namespace
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+const bool added = addTarget("bag_file", [](const std::uint8_t* data, std::size_t size) {
   QuietWorld world;
   world.files.folder[bagFileName] = bytesOf(data, size);
   world.state.Banko.add(7);
@@ -24,5 +21,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   allowingFaults([&] { LoadBankoFromFile(world.around); });
   require(isBag(world.state));
   require(world.files.bytes(bagFileName) == bytesOf(data, size));
-  return 0;
-}
+});
+
+}  // namespace
+}  // namespace karvenis

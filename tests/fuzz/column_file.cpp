@@ -6,8 +6,7 @@
 #include "main/NewColumn.h"
 #include "randomlist/RandomColumnList.h"
 
-using namespace karvenis;
-
+namespace karvenis {
 namespace {
 
 class NoSurface final : public TextSurface {
@@ -30,9 +29,7 @@ void look(QuietWorld& world) {
   allowingFaults([&] { listRandomColumns(world.around, world.title, Output::text); });
 }
 
-}  // namespace
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+const bool added = addTarget("column_file", [](const std::uint8_t* data, std::size_t size) {
   const Bytes bytes = bytesOf(data, size);
   QuietWorld world;
   world.files.folder = {{randomColumns, bytes}, {combinationList, bytes}};
@@ -45,5 +42,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   allowingFaults([&] { DeleteColumn(world.around, page); });
   allowingFaults([&] { appendToCombinationList(world.around, page); });
   require(world.files.bytes(randomColumns) == bytes);
-  return 0;
-}
+});
+
+}  // namespace
+}  // namespace karvenis

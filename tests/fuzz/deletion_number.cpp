@@ -6,13 +6,14 @@
 #include "fuzz/Fuzz.h"
 #include "randomlist/ColumnDeletion.h"
 
-using namespace karvenis;
+namespace karvenis {
+namespace {
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+const bool added = addTarget("deletion_number", [](const std::uint8_t* data, std::size_t size) {
   static const Bytes list = soundList(20);
   const std::string typed = textOf(data, size);
   const std::int32_t number = typedNumber32(typed);
-  if (std::hash<std::string>()(typed) % 32 != 0 && size > 3) return 0;  // deleting takes long
+  if (std::hash<std::string>()(typed) % 32 != 0 && size > 3) return;  // deleting takes long
   const bool there = number >= 1 && number <= 20;
   QuietWorld world;
   world.files.folder = {{randomColumns, list}, {combinationList, list}};
@@ -25,5 +26,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   require(world.files.bytes(combinationList).size() == left);
   require(world.files.bytes(combinationList) == world.files.bytes(randomColumns));
   require(world.files.folder.size() == (there ? 3U : 2U));
-  return 0;
-}
+});
+
+}  // namespace
+}  // namespace karvenis

@@ -1,7 +1,13 @@
 // The input of the filter on F5: any text leaves the list as it was or thins it out.
 #include "fuzz/Filtering.h"
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  karvenis::filterWith(karvenis::Filter::FilterUnwantedNumbers, karvenis::textOf(data, size));
-  return 0;
-}
+namespace karvenis {
+namespace {
+
+const bool added =
+    addTarget("filter_unwanted_numbers", [](const std::uint8_t* data, std::size_t size) {
+      filterWith(Filter::FilterUnwantedNumbers, textOf(data, size));
+    });
+
+}  // namespace
+}  // namespace karvenis

@@ -1,7 +1,13 @@
 // The input of the filter on F7: any text leaves the list as it was or thins it out.
 #include "fuzz/Filtering.h"
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  karvenis::filterWith(karvenis::Filter::FilterUnwantedPair, karvenis::textOf(data, size));
-  return 0;
-}
+namespace karvenis {
+namespace {
+
+const bool added =
+    addTarget("filter_unwanted_pair", [](const std::uint8_t* data, std::size_t size) {
+      filterWith(Filter::FilterUnwantedPair, textOf(data, size));
+    });
+
+}  // namespace
+}  // namespace karvenis

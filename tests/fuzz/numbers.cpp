@@ -6,9 +6,10 @@
 #include "bag/BankoActions.h"
 #include "fuzz/Fuzz.h"
 
-using namespace karvenis;
+namespace karvenis {
+namespace {
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+const bool added = addTarget("numbers", [](const std::uint8_t* data, std::size_t size) {
   const std::string text = textOf(data, size);
   const double number = leadingNumber(text);
   require(!std::isnan(number));
@@ -18,5 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   require(typedNumber32(" " + text) == wide);
   const std::string banko = bankoText(text);
   require(banko.empty() || bankoText(banko) == banko);
-  return 0;
-}
+});
+
+}  // namespace
+}  // namespace karvenis

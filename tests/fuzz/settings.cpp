@@ -5,13 +5,16 @@
 
 #include "fuzz/Fuzz.h"
 
-using namespace karvenis;
+namespace karvenis {
+namespace {
 
-int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+const bool added = addTarget("settings", [](const std::uint8_t* data, std::size_t size) {
   QuietWorld world;
   world.files.folder[settingsFile] = bytesOf(data, size);
   const auto place = readPlace(world.files);
   require(!place || (std::isfinite(place->top) && std::isfinite(place->left)));
   require(world.files.bytes(settingsFile) == bytesOf(data, size));
-  return 0;
-}
+});
+
+}  // namespace
+}  // namespace karvenis

@@ -6,7 +6,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QtTest>
+#include <QTest>
 
 #include "platform/qt/Text.h"
 

@@ -5,7 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 #include "doubles/Doubles.h"
 #include "platform/qt/Application.h"
