@@ -36,6 +36,10 @@ class BellTest : public testing::Test {
   static bool waitFor(Condition condition) {
     return QTest::qWaitFor(condition, 20000);
   }
+  /// Players that have been left alone end by themselves; none stays for the next test.
+  void TearDown() override {
+    EXPECT_TRUE(waitFor([] { return !hasChild(); }));
+  }
   static bool hasChild() { return ::waitpid(-1, nullptr, WNOHANG) == 0 || errno != ECHILD; }
 };
 
