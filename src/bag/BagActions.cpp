@@ -1,6 +1,7 @@
 #include "bag/BagActions.h"
 
 #include "bag/BagFile.h"
+#include "bag/Spoken.h"
 #include "bag/Texts.h"
 
 namespace karvenis {
@@ -37,6 +38,7 @@ void applyBag(Surroundings& around, BallButtons& buttons) {
   around.boxes.beep();
   around.state.Bag.remove(around.state.Banko);
   markBag(around.state, buttons);
+  around.windows.announce(spokenBag(around.state));
 }
 
 void loadBagInBagWindow(Surroundings& around, BallButtons& buttons) {
@@ -59,6 +61,7 @@ void loadBagInBagWindow(Surroundings& around, BallButtons& buttons) {
   around.state.Bag.remove(around.state.Banko);
   markBag(around.state, buttons);
   file.close();
+  around.windows.announce(spokenBag(around.state));
 }
 
 void saveBag(Surroundings& around, const BallButtons& buttons) {

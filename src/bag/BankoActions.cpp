@@ -1,6 +1,7 @@
 #include "bag/BankoActions.h"
 
 #include "bag/BagFile.h"
+#include "bag/Spoken.h"
 #include "bag/Texts.h"
 
 namespace karvenis {
@@ -57,6 +58,7 @@ void applyBanko(Surroundings& around, BankoBoxes& boxes) {
   clearBoxes(boxes);
   around.state.Bag.remove(around.state.Banko);
   ShowBankoSelection(around.state, boxes);
+  around.windows.announce(spokenBanko(around.state));
 }
 
 void clearBanko(SharedState& state) { state.Banko.clear(); }
@@ -74,6 +76,7 @@ void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
     around.state.Banko = file.bankos(count);
     clearBoxes(boxes);
     ShowBankoSelection(around.state, boxes);
+    around.windows.announce(spokenBanko(around.state));
   } else {
     around.boxes.warn(bagFileBroken, errorTitle);
   }

@@ -13,6 +13,7 @@ void Coupon::start() {
 }
 
 void Coupon::newPage() {
+  spoken_.clear();
   surface_.cls();
   surface_.currentY(topMargin);
   window_.enableTimer1(true);
@@ -44,10 +45,12 @@ void Coupon::startColumn() {
   surface_.print(" Kolon " + withBlank(column_) + " - ");
   drawDistinct(around_.state, around_.chance);
   SortColumn(around_.state.Drawn);
+  spoken_ += "Kolon" + withBlank(column_) + ": " + listed(around_.state.Drawn) + ". ";
   surface_.foreColor(QBColor::blue);
 }
 
 void Coupon::finish() {
+  around_.windows.announce(spoken_);
   rewind();
   window_.enableTimer1(false);
   window_.hideLabel1();
@@ -63,6 +66,7 @@ void Coupon::refuse() {
 void Coupon::rewind() {
   column_ = 0;
   ball_ = ballsInColumn;
+  spoken_.clear();
 }
 
 void Coupon::showKeys() {

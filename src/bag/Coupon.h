@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "core/Surroundings.h"
 #include "platform/TextSurface.h"
@@ -48,6 +49,7 @@ class Coupon {
   Surroundings& around_;
   TextSurface& surface_;
   CouponWindow& window_;
+  std::string spoken_;                 // the columns of the page, for those who hear them
   std::int16_t column_ = 0;            // 0..8
   std::int16_t ball_ = ballsInColumn;  // 0..6; 6 asks for the next column
 };

@@ -1,6 +1,7 @@
 #include "bag/MainWindowLoads.h"
 
 #include "bag/BagFile.h"
+#include "bag/Spoken.h"
 
 namespace karvenis {
 void loadBagInMainWindow(Surroundings& around) {
@@ -27,6 +28,7 @@ void LoadBagFromFile(Surroundings& around) {
       around.boxes.beep();
       around.state.Bag = file.bag(count);
       around.state.Bag.remove(around.state.Banko);
+      around.windows.announce(spokenBag(around.state));
     }
     file.close();
   }
@@ -37,7 +39,10 @@ void LoadBankoFromFile(Surroundings& around) {
   if (around.files.exists(bagFileName)) {  // else opening would make one
     BagFile file(around.files);
     const std::int16_t count = file.bankoCount();
-    if (holdsBankos(file.length(), count)) around.state.Banko = file.bankos(count);
+    if (holdsBankos(file.length(), count)) {
+      around.state.Banko = file.bankos(count);
+      around.windows.announce(spokenBanko(around.state));
+    }
     file.close();
     around.state.Bag.remove(around.state.Banko);
   }

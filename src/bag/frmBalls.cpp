@@ -66,6 +66,7 @@ void frmBalls::buildCell(int index) {
   auto* cell = new BallCell(caption, Frame1);
   cell->setObjectName(u"cmdBall_%1"_s.arg(index));
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
+  cell->setAccessibleName(cell->toolTip());
   cmdBall[static_cast<std::size_t>(index)] = cell;
   if (!isBall) {
     cell->hide();
@@ -114,8 +115,16 @@ void frmBalls::cmdBall_Click(int Index) {
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
 void frmBalls::Command3_Click() { loadBagInBagWindow(around_, *this); }
 void frmBalls::Command4_Click() { saveBag(around_, *this); }
-void frmBalls::mnuHepsi_Click() { markAll(true); }
-void frmBalls::mnuHicbiri_Click() { markAll(false); }
+
+void frmBalls::mnuHepsi_Click() {
+  markAll(true);
+  around_.windows.announce("49 top işaretli");
+}
+
+void frmBalls::mnuHicbiri_Click() {
+  markAll(false);
+  around_.windows.announce("İşaretli top yok");
+}
 
 void frmBalls::mnuFunctionKeys_Click() {
   around_.boxes.beep();
@@ -139,8 +148,6 @@ void frmBalls::setMarked(int ball, bool marked) {
   if (marked) colours.setColor(QPalette::Button, Qt::white);
   cell->setPalette(colours);
   cell->setProperty(tag, marked ? u"1"_s : u"0"_s);
-  const QString told = u"%1, %2"_s.arg(ball).arg(marked ? u"işaretli"_s : u"işaretsiz"_s);
-  if (cell->accessibleName() != told) cell->setAccessibleName(told);
 }
 
 /// Moves the focus inside the grid; at its border it stays.

@@ -2,13 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "bag/Texts.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -75,7 +75,7 @@ QWidget* frmBanko::buildBoxes() {
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
   for (int index = 0; index < mostBankos; ++index) {
-    auto* box = control<QLineEdit>(u"Text1_%1"_s.arg(index));
+    auto* box = control<TextBox>(u"Text1_%1"_s.arg(index));
     box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
     box->setAlignment(Qt::AlignCenter);
     box->setFixedHeight(boxHeight);

@@ -19,6 +19,8 @@ frmComLst::frmComLst(Surroundings& around)
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(surface_);
+  surface_->setFocusPolicy(Qt::StrongFocus);
+  surface_->setFocus();
   const QSize rows = surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_));
   surface_->setMinimumSize(rows.expandedTo({titleWidth, 0}));
 }
@@ -83,6 +85,9 @@ void frmComLst::runFilter(Filter filter) {
   if (filterList(filter, around_, page_, *this)) forms().dropInput();
 }
 
-void frmComLst::redraw() { ShowPage(around_, page_, *surface_, *this); }
+void frmComLst::redraw() {
+  ShowPage(around_, page_, *surface_, *this);
+  surface_->setPage(page_.PageNo);
+}
 
 }  // namespace karvenis

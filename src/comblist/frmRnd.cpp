@@ -3,13 +3,13 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "platform/qt/Forms.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,7 +43,7 @@ frmRnd::frmRnd(Surroundings& around)
 
 QLayout* frmRnd::buildCount() {
   Label1 = control<QLabel>(u"Label1"_s, u"Kolon Sayısı:"_s);
-  Text1 = control<QLineEdit>(u"Text1"_s, u"32767"_s);
+  Text1 = control<TextBox>(u"Text1"_s, u"32767"_s);
   Text1->setToolTip(u"Rastgele küme oluşturmak için en çok deneme sayısı."_s);
   Label1->setBuddy(Text1);
   auto* row = new QHBoxLayout;

@@ -27,6 +27,15 @@ std::string padded(std::int64_t number, std::size_t digits) {
   return text;
 }
 
+std::string listed(std::span<const std::int16_t> numbers) {
+  std::string text;
+  for (const std::int16_t number : numbers) {
+    if (!text.empty()) text += ", ";
+    text += std::to_string(number);
+  }
+  return text;
+}
+
 double leadingNumber(std::string_view text) {
   std::string number;
   bool signAllowed = true;

@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,6 +17,9 @@ template <std::integral Number>
 
 /// `number` without blanks, padded on the left with "0" to at least `digits` characters.
 [[nodiscard]] std::string padded(std::int64_t number, std::size_t digits);
+
+/// `numbers` as they are enumerated in a sentence: "4, 8, 15".
+[[nodiscard]] std::string listed(std::span<const std::int16_t> numbers);
 
 /// The number that `text` begins with, whatever follows it; 0 if it begins with none. Blanks are
 /// skipped, also between digits ("1 2" is 12); one sign and one decimal point are understood. ASCII

@@ -2,11 +2,11 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "core/Numbers.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,9 +15,9 @@ namespace karvenis {
 frmCLPrint::frmCLPrint(Surroundings& around)
     : frmListing(around, "frmCLPrint", combinationListing),
       Label1(control<QLabel>(u"Label1"_s, u"Başlangıç :"_s)),
-      Text1(control<QLineEdit>(u"Text1"_s, u"1"_s)),
+      Text1(control<TextBox>(u"Text1"_s, u"1"_s)),
       Label2(control<QLabel>(u"Label2"_s, u"Bitiş :"_s)),
-      Text2(control<QLineEdit>(u"Text2"_s)) {
+      Text2(control<TextBox>(u"Text2"_s)) {
   Label1->setBuddy(Text1);
   Label2->setBuddy(Text2);
   auto* grid = new QGridLayout(this);

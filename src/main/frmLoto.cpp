@@ -8,6 +8,7 @@
 
 #include "bag/MainWindowLoads.h"
 #include "core/Draw.h"
+#include "core/Numbers.h"
 #include "main/NewColumn.h"
 #include "main/Settings.h"
 #include "main/Texts.h"
@@ -64,6 +65,7 @@ void frmLoto::newColumnFromList() {
   if (const auto pick = PickFromList(around_)) {
     ShowColumn();
     setCaption(pickTitle(*pick));
+    around_.windows.announce("Kayıt" + withBlank(pick->record) + ": " + drawn());
   }
 }
 
@@ -79,7 +81,22 @@ void frmLoto::Check1_Click() {
   if (!Check1->isChecked()) return;
   SortColumn(around_.state.Drawn);
   ShowColumn();
+  tellColumn();
 }
+
+void frmLoto::Timer_Timer(int ball) {
+  animation_.tick(ball);
+  const bool last = ball == ballsInColumn && !Timer[ballsInColumn]->isActive();
+  if (last) tellColumn();
+}
+
+/// Tells the numbers to those who hear them, where all of them are seen.
+void frmLoto::tellColumn() {
+  const bool rolling = Label1.back()->isHidden();
+  if (!rolling && Picture0->isHidden()) around_.windows.announce("Kolon: " + drawn());
+}
+
+std::string frmLoto::drawn() const { return listed(around_.state.Drawn); }
 
 void frmLoto::Picture0_Click() {
   around_.boxes.beep();

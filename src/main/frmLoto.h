@@ -61,6 +61,7 @@ class frmLoto final : public Form, private BallStage {
   void Picture0_Click();
   void Label1_MouseMove(int Index);
   void Timer0_Timer();
+  void Timer_Timer(int ball);
   void mnuSaveRndColumn_Click();
   void mnuShowRndList_Click();
   void mnuChangeRndFile_Click();
@@ -78,6 +79,8 @@ class frmLoto final : public Form, private BallStage {
   void newColumnFromBag();
   void newColumnFromList();
   void ShowColumn();
+  void tellColumn();
+  std::string drawn() const;
 
   void showImage(int index, bool visible) override;
   void showLabel(int index, bool visible) override;

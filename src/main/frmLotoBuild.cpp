@@ -271,7 +271,7 @@ void frmLoto::buildTimers() {
       if (number == 0) {
         Timer0_Timer();
       } else {
-        animation_.tick(number);
+        Timer_Timer(number);
       }
     });
   }

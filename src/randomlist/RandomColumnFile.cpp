@@ -38,7 +38,9 @@ void saveRndColumn(Surroundings& around, TitleBar& title, bool sorted) {
   writeDrawn(around.state, around.files, count + 1);
   around.boxes.beep();
   around.boxes.pointer(Pointer::normal);
-  title.setCaption(" KARVENIS.RND Kayıt No=" + withBlank(count + 1));
+  const std::string kept = " KARVENIS.RND Kayıt No=" + withBlank(count + 1);
+  title.setCaption(kept);
+  around.windows.announce(kept);
 }
 
 void showRndList(Surroundings& around, TitleBar& title) {

@@ -2,11 +2,11 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "core/Numbers.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ frmRndDel::frmRndDel(Surroundings& around)
     : Form(around.windows, "frmRndDel"),
       deletion_(around),
       Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
-      Text1(control<QLineEdit>(u"Text1"_s)),
+      Text1(control<TextBox>(u"Text1"_s)),
       Command1(command("Command1", u"Tamam", u"", [this] { Command1_Click(); })),
       Command2(command("Command2", u"İptal", u"", [this] { Command2_Click(); })) {
   setCaption(" Kolon Silme");

@@ -15,6 +15,8 @@ frmRndLst::frmRndLst(Surroundings& around)
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
   whole->addWidget(surface_);
+  surface_->setFocusPolicy(Qt::StrongFocus);
+  surface_->setFocus();
   const double edge = std::max(widestRow(*surface_), titleEdge);
   surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, edge));
 }
@@ -61,6 +63,9 @@ void frmRndLst::showFirstPage() {
   redraw();
 }
 
-void frmRndLst::redraw() { ShowRndPage(around_, page_, *surface_, *this); }
+void frmRndLst::redraw() {
+  ShowRndPage(around_, page_, *surface_, *this);
+  surface_->setPage(page_.PageNo);
+}
 
 }  // namespace karvenis

@@ -197,7 +197,7 @@ class Program:
         """The window of this title, as the window manager knows it."""
         told = self.screen.run("xprop", "-root", "_NET_CLIENT_LIST")
         (found,) = [window_id for window_id in re.findall(r"0x[0-9a-f]+", told)
-                    if self.title_of(window_id) == title]
+                    if self.screen.title_of(window_id) == title]
         return found
 
     def go_to(self, title):

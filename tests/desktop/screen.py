@@ -156,7 +156,10 @@ class Screen:
 
     def active_title(self, program):
         """The title that the window manager shows for the window with the keyboard."""
-        told = self.run("xprop", "-notype", "-id", self._active_id(), "-f", "_NET_WM_NAME", "8u",
+        return self.title_of(self._active_id())
+
+    def title_of(self, window_id):
+        told = self.run("xprop", "-notype", "-id", window_id, "-f", "_NET_WM_NAME", "8u",
                         " = $0\n", "_NET_WM_NAME")
         found = re.search(r'_NET_WM_NAME = "(.*)"', told)
         return found.group(1) if found else None

@@ -42,9 +42,11 @@ class _Client(socketserver.StreamRequestHandler):
             yield line.decode().rstrip("\r\n")
 
     def _message(self):
-        """The words of a message, which a line with a single dot ends."""
+        """The words of a message, which a line with a single dot ends; with single blanks between
+        them and without the full stops that only some versions of Orca put behind them."""
         lines = list(iter(functools.partial(next, self._lines()), "."))
-        return html.unescape(re.sub(r"<[^>]*>", "", "\n".join(lines))).strip()
+        words = html.unescape(re.sub(r"<[^>]*>", "", " ".join(lines))).split()
+        return " ".join(words).rstrip(".")
 
     def _answer(self, text):
         self.wfile.write(text.encode() + b"\r\n")
@@ -80,10 +82,12 @@ class SpeakingScreen(Screen):
         self.environment |= {"LANG": LANGUAGE, "LOCPATH": compiled(os.path.join(self.home, "locale"), LANGUAGE),
                              "GSETTINGS_BACKEND": "memory",
                              "SPEECHD_ADDRESS": f"unix_socket:{self.voice.server_address}"}
-        self._start(["orca", "--disable", "key-echo"])
-        wait_for(lambda: "Ekran okuyucusu açık." in self.voice.lines, "Orca to say that it is on")
+        self._orca = self._start(["orca", "--disable", "key-echo"])
+        wait_for(lambda: "Ekran okuyucusu açık" in self.voice.lines, "Orca to say that it is on")
 
     def close(self):
+        if hasattr(self, "_orca"):
+            self._orca.kill()  # it takes its time to end by itself
         super().close()
         if hasattr(self, "voice"):
             self.voice.close()

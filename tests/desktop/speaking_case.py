@@ -1,5 +1,7 @@
 """The base of the tests that listen: what the screen reader says, line by line."""
 
+import re
+
 from desktop_case import DesktopCase
 from screen import TooLate
 from speaking import SpeakingScreen, Voice
@@ -18,8 +20,13 @@ class SpeakingCase(DesktopCase):
     def start(self, files=None, **options):
         self._heard = len(self.screen.voice.lines)  # how many lines the test has told of
         program = super().start(files, **options)
-        self.hear("KARVENIS 2005 Randomizer.", "Kolon düğme.", "Yeni Kolon.")
+        self.hear("KARVENIS 2005 Randomizer", "Kolon düğme", "Yeni Kolon")
         return program
+
+    def press(self, key, *lines):
+        """A key, and what is spoken then."""
+        self.program.keys(key)
+        self.hear(*lines)
 
     def hear(self, *lines):
         """Exactly these lines come next, and none of them is cut off by the one behind it."""
@@ -27,7 +34,7 @@ class SpeakingCase(DesktopCase):
 
         def spoken():
             nonlocal end
-            coming = self.screen.voice.lines[self._heard:]
+            coming = self._coming()
             first = next((i for i, line in enumerate(coming) if line is not Voice.CUT),
                          len(coming))
             end = first + len(lines)
@@ -36,10 +43,19 @@ class SpeakingCase(DesktopCase):
             self.program.until(lambda: len(spoken()) == len(lines), "words")
         except TooLate:
             pass
-        self.assertEqual(spoken(), list(lines), self.screen.voice.lines[self._heard:])
+        self.assertEqual(spoken(), list(lines), self._coming())
         self._heard += end
 
-    def press(self, keys, *lines):
-        """Keys, and what is spoken then."""
-        self.program.keys(*keys.split())
-        self.hear(*lines)
+    def listen(self, pattern):
+        """The next line that matches, as its match; those before it are passed over."""
+        def matching():
+            for place, line in enumerate(self._coming()):
+                found = line is not Voice.CUT and re.fullmatch(pattern, line)
+                if found:
+                    self._heard += place + 1
+                    return found
+            return None
+        return self.program.until(matching, f"«{pattern}» to be spoken; heard: {self._coming()}")
+
+    def _coming(self):
+        return self.screen.voice.lines[self._heard:]

@@ -15,12 +15,11 @@ SAVED = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı..."
 
 class Bag(DesktopCase):
     def marked(self):
-        return [int(button.name.split(",")[0]) for button in self.bag.all("push button")
-                if button.name.endswith(", işaretli")]
+        return [int(ball.name) for ball in self.bag.all("check box") if ball.has("checked")]
 
     def mark(self, *balls):
         for ball in balls:
-            self.program.click(self.bag.find("push button", f"{ball}, işaretsiz"))
+            self.program.click(self.bag.find("check box", str(ball)))
             self.program.until(lambda: ball in self.marked(), f"ball {ball} to be marked")
 
     def test_marks_are_saved_and_drawn_from(self):

@@ -31,8 +31,9 @@ class Locales(DesktopCase):
         def work(program):
             bag = self.open("F5", "6/49 Top Seçme Tablosu")
             for ball in (1, 10, 49):
-                program.click(bag.find("push button", f"{ball}, işaretsiz"))
-                program.until(lambda: bag.find("push button", f"{ball}, işaretli"), "the mark")
+                cell = bag.find("check box", str(ball))
+                program.click(cell)
+                program.until(lambda: cell.has("checked"), "the mark")
             program.keys("F3")
             self.expect_question("Topları KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?",
                                  "Evet")

@@ -78,9 +78,9 @@ class Tour:
     def choose_bag(self):
         window = self.key("F5", "6/49 Top Seçme Tablosu")
         for ball in BAG:
-            self.program.click(window.find("push button", f"{ball}, işaretsiz"))
-        self.program.until(lambda: window.find("push button", f"{BAG[-1]}, işaretli"),
-                           "the last ball to be marked")
+            cell = window.find("check box", str(ball))
+            self.program.click(cell)
+        self.program.until(lambda: cell.has("checked"), "the last ball to be marked")
         self.picture("bag", f"F5: {len(BAG)} balls are marked for the bag.")
         self.program.keys("F1", "F3")
         self.agree("kayıtlamak istiyormusunuz", "kayıtlandı")

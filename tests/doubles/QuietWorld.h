@@ -74,11 +74,13 @@ class RecordingPrinter final : public Printer {
   }
 };
 
-/// Keeps the names of the windows that were asked for.
+/// Keeps the names of the windows that were asked for, and the words that were to be spoken.
 class RecordingWindows final : public Windows {
  public:
   std::vector<std::string> shown;
+  std::vector<std::string> announced;
   bool ended = false;
+  void announce(std::string_view words) override { announced.emplace_back(words); }
   void show(std::string_view form) override { shown.emplace_back(form); }
   void end() override { ended = true; }
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bitset>
 
+#include "bag/Spoken.h"
 #include "bag/Texts.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
@@ -17,6 +18,8 @@ constexpr char loadQuestion[] = "Topları KARVENIS.DAT dosyasından yüklemek is
 constexpr char saveQuestion[] = "Topları KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?";
 constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
 constexpr char saved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
+
+using Words = std::vector<std::string>;
 
 /// Buttons without a window; a ball outside 1..49 fails the test.
 class PlainButtons final : public BallButtons {
@@ -93,6 +96,7 @@ TEST_P(ApplyBag, TakesTheMarkedBallsWithoutTheBankos) {
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   EXPECT_EQ(buttons.marked(), GetParam().bag) << "only what remains is marked again";
   EXPECT_EQ(bankoOf(world.state), GetParam().banko);
+  EXPECT_EQ(world.windows.announced, Words{spokenBag(world.state)});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -160,6 +164,7 @@ TEST_P(LoadBagInWindow, TakesAndShowsTheFile) {
   sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
   EXPECT_EQ(buttons.marked(), sorted);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
+  EXPECT_EQ(world.windows.announced, Words{spokenBag(world.state)});
 }
 
 std::vector<int> countAndBalls(int count) {
@@ -205,6 +210,7 @@ TEST_P(LoadBrokenBag, SaysSoAndLeavesBagAndMarks) {
   loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(bagOf(world.state), (Set{40, 41}));
   EXPECT_EQ(buttons.marked(), (Set{1, 2}));
+  EXPECT_EQ(world.windows.announced, Words{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, LoadBrokenBag,
@@ -229,6 +235,7 @@ TEST_P(LoadBagTooShort, StopsBeforeTheQuestion) {
   world.boxes.expectBeep();
   loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(buttons.marked(), Set{1});
+  EXPECT_EQ(world.windows.announced, Words{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Lengths, LoadBagTooShort, testing::Values(0, 1, 2));

@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "bag/Spoken.h"
 #include "bag/Texts.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
@@ -18,6 +19,7 @@ constexpr char saveQuestion[] =
 constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
 constexpr char saved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
 
+using Words = std::vector<std::string>;
 using Texts = std::array<std::string, 5>;
 
 /// Boxes without a window, with the filter that the window gives them.
@@ -93,6 +95,7 @@ TEST_P(ApplyBanko, TakesTheDistinctNumbersInTheirOrder) {
   EXPECT_EQ(boxes.chosen, static_cast<int>(GetParam().banko.size()));
   EXPECT_EQ(boxes.texts, GetParam().shown);
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
+  EXPECT_EQ(world.windows.announced, Words{spokenBanko(world.state)});
 }
 
 const Set wholeBag = {7, 12, 30, 44};
@@ -195,6 +198,7 @@ TEST_P(LoadBankoInWindow, TakesAndShowsTheFile) {
   EXPECT_EQ(boxes.texts, GetParam().shown);
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), file) << "a load writes nothing";
+  EXPECT_EQ(world.windows.announced, Words{spokenBanko(world.state)});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -231,6 +235,7 @@ TEST_P(LoadBrokenBanko, SaysSoAndLeavesTheBankos) {
   EXPECT_EQ(boxes.chosen, 3);
   EXPECT_EQ(boxes.texts, (Texts{"1", "2", "3"}));
   EXPECT_EQ(bagOf(world.state), Set{7}) << "the bankos still leave the bag";
+  EXPECT_EQ(world.windows.announced, Words{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, LoadBrokenBanko,

@@ -92,6 +92,28 @@ TEST_F(CouponTest, AFullCouponTakesFiftySevenTicks) {
   EXPECT_TRUE(hidden);
 }
 
+TEST_F(CouponTest, IsSpokenOnceWhenItIsFull) {
+  setBag(world.state, {23, 7, 6, 5, 49, 1});
+  coupon.start();
+  world.boxes.expectBeep(48);
+  tick(56);
+  EXPECT_TRUE(world.windows.announced.empty());
+  tick(1);
+  std::string all;
+  for (int k = 1; k <= 8; ++k) all += "Kolon " + std::to_string(k) + ": 1, 5, 6, 7, 23, 49. ";
+  EXPECT_EQ(world.windows.announced, std::vector{all});
+}
+
+TEST_F(CouponTest, OfANewPageOnlyItsOwnColumnsAreSpoken) {
+  setBag(world.state, {23, 7, 6, 5, 49, 1});
+  coupon.start();
+  world.boxes.expectBeep(48);
+  tick(6 * 7 + 3);
+  coupon.newPage();
+  tick(1000);
+  EXPECT_EQ(world.windows.announced, std::vector<std::string>{"Kolon 8: 1, 5, 6, 7, 23, 49. "});
+}
+
 TEST_F(CouponTest, ANewCouponStartsAtOne) {
   coupon.start();
   EXPECT_EQ(typeAll(), 57);

@@ -4,12 +4,15 @@
 
 #include <tuple>
 
+#include "bag/Spoken.h"
 #include "doubles/Doubles.h"
 #include "doubles/FailingFiles.h"
 #include "doubles/Sets.h"
 
 namespace karvenis {
 namespace {
+
+using Words = std::vector<std::string>;
 
 constexpr char question6[] = "Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz?";
 constexpr char question8[] = "Banko seçimini KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?";
@@ -53,6 +56,8 @@ TEST_P(LoadBag, TakesWhatIsUsable) {
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   EXPECT_EQ(bankoOf(world.state), GetParam().banko);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
+  const bool loaded = GetParam().beeps == 2;
+  EXPECT_EQ(world.windows.announced, loaded ? Words{spokenBag(world.state)} : Words{});
 }
 
 const Set before = {40, 41};
@@ -126,6 +131,8 @@ TEST_P(LoadBanko, TakesWhatIsWhole) {
   world.boxes.expectBeep().expectQuestion(question8, true).expectBeep();
   loadBankoInMainWindow(world.around);
   EXPECT_EQ(bankoOf(world.state), GetParam().bankoAfter);
+  const bool loaded = GetParam().bankoAfter != before;
+  EXPECT_EQ(world.windows.announced, loaded ? Words{spokenBanko(world.state)} : Words{});
   EXPECT_EQ(bagOf(world.state), GetParam().bagAfter);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
 }

@@ -32,6 +32,13 @@ TEST_P(TypedNumber, IsTheLeadingOneRounded) {
   EXPECT_EQ(typedNumber32(GetParam().text), GetParam().number) << "[" << GetParam().text << "]";
 }
 
+TEST(Listed, EnumeratesNumbers) {
+  const auto listedOf = [](std::vector<std::int16_t> numbers) { return listed(numbers); };
+  EXPECT_EQ(listedOf({}), "");
+  EXPECT_EQ(listedOf({7}), "7");
+  EXPECT_EQ(listedOf({49, 3, 27}), "49, 3, 27");
+}
+
 INSTANTIATE_TEST_SUITE_P(Good, TypedNumber,
                          testing::Values(Typed{"12", 12}, Typed{"  12", 12}, Typed{"1 2", 12},
                                          Typed{"12abc", 12}, Typed{"12,5", 12}, Typed{"2.6", 3},

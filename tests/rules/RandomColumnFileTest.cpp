@@ -27,6 +27,7 @@ TEST(SaveRndColumn, MakesTheFileAndItsFirstRecordAscending) {
   EXPECT_EQ(world.state.Drawn, column(1, 7, 11, 30, 42, 49)) << "the array itself is sorted";
   EXPECT_EQ(world.title.captions,
             (Captions{" Kolon kayıtlanıyor...", " KARVENIS.RND Kayıt No= 1"}));
+  EXPECT_EQ(world.windows.announced, Captions{" KARVENIS.RND Kayıt No= 1"});
   EXPECT_EQ(world.boxes.pointers, (std::vector{Pointer::hourglass, Pointer::normal}));
   EXPECT_EQ(world.state.FileNo, 0);
 }
@@ -104,6 +105,7 @@ TEST(SaveRndColumn, DoesNothingWhileTheDrawIsNotComplete) {
     saveRndColumn(world.around, world.title, false);
     EXPECT_TRUE(world.files.folder.empty());
     EXPECT_TRUE(world.title.captions.empty());
+    EXPECT_TRUE(world.windows.announced.empty());
   }
 }
 
@@ -112,6 +114,7 @@ TEST(SaveRndColumn, AFullFileBeepsEvenBeforeADraw) {
   world.files.folder["KARVENIS.RND"] = Bytes(32767U * 16);
   world.boxes.expectBeep();
   saveRndColumn(world.around, world.title, false);
+  EXPECT_TRUE(world.windows.announced.empty()) << "the beep says it";
 }
 
 TEST(SaveRndColumn, AFailingWriteIsAFault) {

@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "platform/qt/Accessibles.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {
@@ -36,6 +37,47 @@ TEST(SurfaceColours, AreThoseOfThePaletteOnWhite) {
       EXPECT_EQ(seen.contains(foreign), other == colour) << static_cast<int>(other);
     }
   }
+}
+
+/// A printed line as assistive technology knows it.
+QAccessibleInterface* line(Surface& surface, int index) {
+  return QAccessible::queryAccessibleInterface(&surface)->child(index);
+}
+
+QString spoken(Surface& surface, int index) {
+  return line(surface, index)->text(QAccessible::Name);
+}
+
+void printPage(Surface& surface, int page) {
+  surface.cls();
+  surface.printLine("Kolon -  1 :   7  49  [ 056 ]");
+  surface.printLine("Kolon -  2 :   8  49  [ 057 ]");
+  surface.setPage(page);
+}
+
+TEST(SurfaceLines, AreItemsOfAListThatIsSpokenPageByPage) {
+  installAccessibles();
+  Surface surface(nullptr);
+  printPage(surface, 1);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&surface)->role(), QAccessible::List);
+  EXPECT_EQ(line(surface, 0)->role(), QAccessible::ListItem);
+  EXPECT_EQ(spoken(surface, 0), "Kolon - 1 : 7 49 [ 056 ]") << "the title tells the first page";
+  EXPECT_EQ(spoken(surface, 1), "Kolon - 2 : 8 49 [ 057 ]");
+  printPage(surface, 2);
+  EXPECT_EQ(spoken(surface, 0), "Sayfa 2. Kolon - 1 : 7 49 [ 056 ]");
+  EXPECT_EQ(spoken(surface, 1), "Kolon - 2 : 8 49 [ 057 ]");
+  printPage(surface, 2);
+  EXPECT_EQ(spoken(surface, 0), "Kolon - 1 : 7 49 [ 056 ]");
+}
+
+TEST(SurfaceLines, AreOtherObjectsAfterEachRedraw) {
+  installAccessibles();
+  Surface surface(nullptr);
+  printPage(surface, 1);
+  const QAccessible::Id before = QAccessible::uniqueId(line(surface, 0));
+  EXPECT_EQ(QAccessible::uniqueId(line(surface, 0)), before);
+  printPage(surface, 1);
+  EXPECT_NE(QAccessible::uniqueId(line(surface, 0)), before);
 }
 
 }  // namespace

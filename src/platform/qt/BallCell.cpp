@@ -1,5 +1,6 @@
 #include "platform/qt/BallCell.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -14,7 +15,9 @@ constexpr double ringDiameter = 36;
 
 }  // namespace
 
-BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+/// The caption comes last: it makes the cell known to assistive technology, as what it is by then.
+BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(parent) {
+  setText(caption);
   QFont number = font();
   number.setPixelSize(textPixels);
   setFont(number);
@@ -23,11 +26,28 @@ BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(captio
 
 QSize BallCell::sizeHint() const { return cellSize; }
 
+/// A procedure may turn a mark twice; what it has become is told when it has ended.
+void BallCell::changeEvent(QEvent* event) {
+  QPushButton::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    QMetaObject::invokeMethod(this, &BallCell::tellMark, Qt::QueuedConnection);
+  }
+}
+
+void BallCell::tellMark() {
+  if (told_ == isMarked()) return;
+  told_ = isMarked();
+  QAccessible::State changed;
+  changed.checked = true;
+  QAccessibleStateChangeEvent event(this, changed);
+  QAccessible::updateAccessibility(&event);
+}
+
 void BallCell::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF cell = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
-  const bool marked = font().bold();
+  const bool marked = isMarked();
   QColor ground = palette().color(QPalette::Button);
   if (isDown()) {
     ground = ground.darker(115);

@@ -13,6 +13,7 @@ class BallCell final : public QPushButton {
   BallCell(const QString& caption, QWidget* parent);
 
   QSize sizeHint() const override;
+  bool isMarked() const { return font().bold(); }
 
  Q_SIGNALS:
   /// An arrow key asks for the cell that many columns and rows away.
@@ -21,9 +22,15 @@ class BallCell final : public QPushButton {
   void entered();
 
  protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void tellMark();
+
+  bool told_ = false;  // the mark that assistive technology knows of
 };
 
 }  // namespace karvenis

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QWindow>
 
+#include "platform/qt/Accessibles.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/KeyCodes.h"
 #include "platform/qt/Text.h"
@@ -25,6 +26,7 @@ bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != n
 
 Form::Form(Windows& windows, const char* name) : forms_(dynamic_cast<Forms&>(windows)) {
   setObjectName(QLatin1String(name));
+  installAccessibles();
 }
 
 void Form::setCaption(std::string_view caption) {

@@ -1,12 +1,15 @@
 #include "platform/qt/Forms.h"
 
+#include <QAccessible>
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
 
 #include "platform/RunTimeError.h"
+#include "platform/qt/Announcer.h"
 #include "platform/qt/Application.h"
 #include "platform/qt/Form.h"
+#include "platform/qt/Text.h"
 #include "platform/qt/WindowPlace.h"
 
 namespace karvenis {
@@ -110,6 +113,7 @@ void Forms::giveKeyboard(Form& form) {
 
 void Forms::gotKeyboard(const Form& form) {
   if (active_ == &form || !isKeyboardOnItsWay()) settle_.start(0);
+  speak();
 }
 
 /// While a procedure runs, the keyboard moves only because of its boxes.
@@ -168,6 +172,26 @@ Form* Forms::successorOf(const Form& form) const {
 
 void Forms::dropInput() {
   if (Application* application = Application::instance()) application->dropInput();
+}
+
+void Forms::procedureEnds() {
+  --running_;
+  speak();
+}
+
+void Forms::announce(std::string_view words) {
+  if (QAccessible::isActive()) announcement_ = words;
+}
+
+/// Words are spoken behind what the focus is on, and wait for a window that has it: what is read
+/// with a window that gets the focus would cut them off.
+void Forms::speak() {
+  auto* window = qobject_cast<Form*>(QApplication::activeWindow());
+  if (announcement_.empty() || running_ > 0 || window == nullptr) return;
+  const auto say = [window, words = toQt(std::exchange(announcement_, {})).trimmed()] {
+    new Announcer(window, words);
+  };
+  QMetaObject::invokeMethod(window, say, Qt::QueuedConnection);
 }
 
 void Forms::end() {

@@ -42,6 +42,7 @@ class Forms final : public Windows {
   Form* active() const { return active_; }
 
   void show(std::string_view form) override;
+  void announce(std::string_view words) override;
   void end() override;
   /// Shows the main window and serves the user until the program ends; its exit status, which is 1
   /// after a fault, also one at the start.
@@ -55,7 +56,7 @@ class Forms final : public Windows {
   void settle();
   /// An event procedure of some window begins, perhaps inside another one, and ends.
   void procedureBegins() { ++running_; }
-  void procedureEnds() { --running_; }
+  void procedureEnds();
   /// A box is about to open: brings every title on the screen up to date. Returns the window that
   /// the box belongs to; null where there is none.
   QWidget* boxOpens();
@@ -80,14 +81,16 @@ class Forms final : public Windows {
   bool isKeyboardOnItsWay() const { return settle_.isActive() && settle_.interval() > 0; }
   void clicked(Form& form);
   void activate(Form& form);
+  void speak();
 
   Boxes& boxes_;
   std::map<std::string, Factory, std::less<>> factories_;
   std::string mainForm_;
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
-  QTimer settle_;    // runs until the keyboard is taken to be where it is
-  int running_ = 0;  // event procedures that have not ended
+  QTimer settle_;             // runs until the keyboard is taken to be where it is
+  std::string announcement_;  // what is to be spoken
+  int running_ = 0;           // event procedures that have not ended
   bool ending_ = false;
   int status_ = 0;
 };

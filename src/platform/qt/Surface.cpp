@@ -10,7 +10,6 @@
 #include <cmath>
 
 #include "platform/Twips.h"
-#include "platform/qt/SurfaceAccessible.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -49,7 +48,6 @@ QColor shown(QBColor colour) {
 }  // namespace
 
 Surface::Surface(QWidget* parent) : QWidget(parent), zoom_(zoomOf(font())) {
-  installSurfaceAccessible();
   setObjectName(u"Surface"_s);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setTextSize(textPixels);
@@ -80,6 +78,8 @@ void Surface::cls() {
   lineOpen_ = false;
   x_ = y_ = 0;
   update();
+  ++redraws_;
+  tellFirstLine();
 }
 
 void Surface::print(const std::string& text) {
@@ -102,8 +102,35 @@ void Surface::note(const QString& text) {
   if (!lineOpen_) lines_.push_back({QString(), y_});
   lineOpen_ = true;
   lines_.back().text += text;
-  QAccessibleEvent changed(this, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&changed);
+}
+
+void Surface::setPage(int number) {
+  const bool told = number == page_ || page_ == 0;  // the title tells a new window's first page
+  heading_ = told ? QString() : u"Sayfa %1. "_s.arg(number);
+  page_ = number;
+}
+
+QString Surface::spokenLine(std::size_t index) const {
+  const QString text = lines_[index].text.simplified();
+  return index == 0 ? heading_ + text : text;
+}
+
+void Surface::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  tellFirstLine();
+}
+
+/// A screen reader speaks what the focus moves to, here the first line when the redraw has ended.
+/// It is another object than the one before it, so that it is spoken after every redraw.
+void Surface::tellFirstLine() {
+  if (!QAccessible::isActive()) return;
+  const auto tell = [this] {
+    if (!hasFocus() || lines_.empty()) return;
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(this);
+    QAccessibleEvent focused(list->child(0), QAccessible::Focus);
+    QAccessible::updateAccessibility(&focused);
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 QRect Surface::lineRect(std::size_t index) const {

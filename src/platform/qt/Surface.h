@@ -32,6 +32,12 @@ class Surface final : public QWidget, public TextSurface {
     double top;  // twips
   };
   const std::vector<Line>& lines() const { return lines_; }
+  /// Tells which page of a list has been printed; another one than before is spoken.
+  void setPage(int number);
+  /// Line `index` as it is spoken.
+  QString spokenLine(std::size_t index) const;
+  /// How often the surface has been cleared.
+  int redraws() const { return redraws_; }
   /// Where line `index` stands on the widget.
   QRect lineRect(std::size_t index) const;
   /// Pixels (device independent) of a length in twips.
@@ -43,6 +49,7 @@ class Surface final : public QWidget, public TextSurface {
   QSize sizeFor(double margin, int lines, double right) const;
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
@@ -52,6 +59,7 @@ class Surface final : public QWidget, public TextSurface {
     QString text;
   };
   void note(const QString& text);
+  void tellFirstLine();
 
   double twips(double pixels) const;
 
@@ -62,6 +70,9 @@ class Surface final : public QWidget, public TextSurface {
   std::vector<Run> runs_;
   std::vector<Line> lines_;
   bool lineOpen_ = false;
+  int redraws_ = 0;
+  int page_ = 0;
+  QString heading_;  // what is spoken before the first line
 };
 
 }  // namespace karvenis

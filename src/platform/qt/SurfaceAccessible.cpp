@@ -8,7 +8,7 @@
 namespace karvenis {
 namespace {
 
-/// One printed line.
+/// One printed line. The first one has the focus of its list.
 class LineAccessible final : public QAccessibleInterface {
  public:
   LineAccessible(Surface* surface, int index) : surface_(surface), index_(index) {}
@@ -26,7 +26,7 @@ class LineAccessible final : public QAccessibleInterface {
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Name || !isValid()) return {};
-    return surface_->lines()[static_cast<std::size_t>(index_)].text;
+    return surface_->spokenLine(static_cast<std::size_t>(index_));
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {
@@ -34,10 +34,12 @@ class LineAccessible final : public QAccessibleInterface {
     const QRect line = surface_->lineRect(static_cast<std::size_t>(index_));
     return {surface_->mapToGlobal(line.topLeft()), line.size()};
   }
-  QAccessible::Role role() const override { return QAccessible::StaticText; }
+  QAccessible::Role role() const override { return QAccessible::ListItem; }
   QAccessible::State state() const override {
     QAccessible::State state;
     state.readOnly = true;
+    state.focusable = true;
+    state.focused = index_ == 0 && surface_ != nullptr && surface_->hasFocus();
     return state;
   }
 
@@ -50,13 +52,13 @@ class SurfaceAccessible final : public QAccessibleWidget {
  public:
   explicit SurfaceAccessible(Surface* surface)
       : QAccessibleWidget(surface, QAccessible::List), surface_(surface) {}
-  ~SurfaceAccessible() override {
-    for (const auto& [index, id] : lines_) QAccessible::deleteAccessibleInterface(id);
-  }
+  ~SurfaceAccessible() override { forget(); }
 
   int childCount() const override { return static_cast<int>(surface_->lines().size()); }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
+    if (redraws_ != surface_->redraws()) forget();
+    redraws_ = surface_->redraws();
     const auto known = lines_.find(index);
     if (known != lines_.end()) return QAccessible::accessibleInterface(known->second);
     auto* line = new LineAccessible(surface_, index);
@@ -71,20 +73,20 @@ class SurfaceAccessible final : public QAccessibleWidget {
   }
 
  private:
+  void forget() const {
+    for (const auto& [index, id] : lines_) QAccessible::deleteAccessibleInterface(id);
+    lines_.clear();
+  }
+
   Surface* surface_;
   mutable std::map<int, QAccessible::Id> lines_;
+  mutable int redraws_ = 0;
 };
-
-QAccessibleInterface* make(const QString&, QObject* object) {
-  auto* surface = dynamic_cast<Surface*>(object);
-  return surface == nullptr ? nullptr : new SurfaceAccessible(surface);
-}
 
 }  // namespace
 
-void installSurfaceAccessible() {
-  static const bool installed = (QAccessible::installFactory(make), true);
-  static_cast<void>(installed);
+QAccessibleInterface* makeSurfaceAccessible(Surface* surface) {
+  return new SurfaceAccessible(surface);
 }
 
 }  // namespace karvenis

@@ -1,9 +1,12 @@
 #pragma once
 
+class QAccessibleInterface;
+
 namespace karvenis {
 
-/// Makes the lines of every Surface known to assistive technology. Calling it again changes
-/// nothing.
-void installSurfaceAccessible();
+class Surface;
+
+/// What assistive technology knows of a Surface: a list whose items are the printed lines.
+QAccessibleInterface* makeSurfaceAccessible(Surface* surface);
 
 }  // namespace karvenis
