@@ -1,7 +1,10 @@
 #include "comblist/GeneratorDraw.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
+
+#include "core/Draw.h"
 
 namespace karvenis {
 
@@ -42,11 +45,13 @@ std::int16_t GeneratorDraw::take(std::int16_t drawn) {
 
 /// Puts the balls of `column` in front, ascending and each once; the positions behind them stay.
 void GeneratorDraw::sortByPresence(Column& column) {
-  Column balls{};
-  auto end = std::ranges::copy_if(column, balls.begin(), isBall).out;
-  std::sort(balls.begin(), end);
-  end = std::unique(balls.begin(), end);
-  std::copy(balls.begin(), end, column.begin());
+  Column sorted = column;
+  SortColumn(sorted);
+  auto end = column.begin();
+  for (const std::int16_t ball : sorted) {
+    const bool isNew = end == column.begin() || *std::prev(end) != ball;
+    if (isBall(ball) && isNew) *end++ = ball;
+  }
 }
 
 }  // namespace karvenis
