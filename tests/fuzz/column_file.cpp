@@ -1,3 +1,5 @@
+#include <tuple>
+
 // A column file: any bytes are shown, drawn from, listed and filtered, or end in the one fault.
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
@@ -25,7 +27,7 @@ void look(QuietWorld& world) {
   NoSurface surface;
   allowingFaults([&] { ShowRndPage(world.around, page, surface, world.title); });
   allowingFaults([&] { ShowPage(world.around, page, surface, world.title); });
-  allowingFaults([&] { PickFromList(world.around); });
+  allowingFaults([&] { std::ignore = PickFromList(world.around); });
   allowingFaults([&] { listRandomColumns(world.around, world.title, Output::text); });
 }
 

@@ -66,11 +66,11 @@ class FormsTest : public WindowTest {
     form->activateWindow();
     EXPECT_TRUE(waitFor([&] { return forms.active() == form; }));
   }
-  /// Runs the event loop until it has nothing left to do.
-  static void letSettle() {
+  /// Runs the event loop until it has nothing left to do and the keyboard has settled.
+  void letSettle() {
     bool idle = false;
     QTimer::singleShot(0, qApp, [&] { QTimer::singleShot(0, qApp, [&] { idle = true; }); });
-    EXPECT_TRUE(waitFor([&] { return idle; }));
+    EXPECT_TRUE(waitFor([&] { return idle && forms.isSettled(); }));
   }
   /// One key press, without those of the keys that are held with it.
   static void send(Form* form, Qt::Key key, Qt::KeyboardModifiers held = {}) {

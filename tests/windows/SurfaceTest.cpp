@@ -1,5 +1,6 @@
 #include "platform/qt/Surface.h"
 
+#include <QAccessible>
 #include <QImage>
 
 #include "platform/qt/Accessibles.h"

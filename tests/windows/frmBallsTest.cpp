@@ -1,5 +1,6 @@
 #include "bag/frmBalls.h"
 
+#include <QAccessible>
 #include <QLabel>
 
 #include "bag/Texts.h"

@@ -130,7 +130,12 @@ bool Form::event(QEvent* event) {
 
 void Form::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange && isMinimized()) wasMinimised_ = true;
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (isMinimized()) {
+    wasMinimised_ = true;
+  } else {
+    forms_.gotKeyboard(*this);
+  }
 }
 
 void Form::showEvent(QShowEvent* event) {

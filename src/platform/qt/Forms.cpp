@@ -19,6 +19,11 @@ namespace {
 /// elsewhere for longer has refused.
 constexpr std::chrono::milliseconds patience(2000);
 
+/// How long the keyboard must stay in a window before that is taken for the one the user went to: a
+/// desktop may also pass through another window after it has been to the right one. A key or a
+/// click tells it at once.
+constexpr std::chrono::milliseconds calm(200);
+
 /// What a fault that is not a RunTimeError says to the user.
 std::string words(const std::exception& error) {
   if (const auto* known = dynamic_cast<const RunTimeError*>(&error)) return describe(*known);
@@ -112,14 +117,19 @@ void Forms::giveKeyboard(Form& form) {
 }
 
 void Forms::gotKeyboard(const Form& form) {
-  if (active_ == &form || !isKeyboardOnItsWay()) settle_.start(0);
+  if (active_ == &form || !isKeyboardOnItsWay()) settle_.start(calm);
   speak();
+}
+
+bool Forms::isKeyboardOnItsWay() const {
+  return settle_.isActive() && settle_.intervalAsDuration() == patience;
 }
 
 /// While a procedure runs, the keyboard moves only because of its boxes.
 void Forms::settle() {
   if (running_ > 0 || isKeyboardOnItsWay()) return;
-  if (auto* form = qobject_cast<Form*>(QApplication::activeWindow())) activate(*form);
+  auto* form = qobject_cast<Form*>(QApplication::activeWindow());
+  if (form != nullptr && !form->isMinimized()) activate(*form);
 }
 
 void Forms::clicked(Form& form) {

@@ -50,10 +50,12 @@ class Forms final : public Windows {
   /// Whether the program is about to end.
   bool ending() const { return ending_; }
 
-  /// The desktop gave `form` the keyboard.
+  /// The desktop gave `form` the keyboard, or brought it back from being minimised.
   void gotKeyboard(const Form& form);
   /// Activates the window that has the keyboard, unless that is only on its way elsewhere.
   void settle();
+  /// Whether the keyboard is taken to be where it is.
+  bool isSettled() const { return !settle_.isActive(); }
   /// An event procedure of some window begins, perhaps inside another one, and ends.
   void procedureBegins() { ++running_; }
   void procedureEnds();
@@ -78,7 +80,7 @@ class Forms final : public Windows {
   Form* owning(const QWindow* window) const;
   void present(Form& form);
   void giveKeyboard(Form& form);
-  bool isKeyboardOnItsWay() const { return settle_.isActive() && settle_.interval() > 0; }
+  bool isKeyboardOnItsWay() const;
   void clicked(Form& form);
   void activate(Form& form);
   void speak();
