@@ -139,7 +139,7 @@ class ListCase(DesktopCase):
         return program
 
     def shown(self):
-        told = [re.match(r"Kolon - (\d+) : ", line.name)
+        told = [re.search(r"Kolon - (\d+) : ", line.name)
                 for line in self.list.find("list").children]
         return [int(number.group(1)) for number in told]
 

@@ -45,7 +45,7 @@ class RandomListCase(DesktopCase):
 
     def shown(self):
         """The numbers of the columns on the page, first to last."""
-        told = [re.match(r"Kolon - (\d+) : ", line.name)
+        told = [re.search(r"Kolon - (\d+) : ", line.name)
                 for line in self.list.find("list").children]
         return [int(number.group(1)) for number in told]
 

@@ -111,7 +111,7 @@ void Surface::setPage(int number) {
 }
 
 QString Surface::spokenLine(std::size_t index) const {
-  const QString text = lines_[index].text.simplified();
+  const QString& text = lines_[index].text;
   return index == 0 ? heading_ + text : text;
 }
 
