@@ -14,8 +14,8 @@ class Printer {
   virtual void fontSize(double points) = 0;
   virtual void currentX(double twips) = 0;
   virtual void currentY(double twips) = 0;
-  /// Prints `text` at the current position and ends the line: the next one stands below it, on a new
-  /// page if this one is full.
+  /// Prints `text` at the current position and ends the line: the next one stands below it, on a
+  /// new page if this one is full.
   virtual void printLine(const std::string& text) = 0;
   /// Sends the document to the queue.
   virtual void endDocument() = 0;

@@ -240,12 +240,13 @@ TEST_F(FormsTest, AWindowThatComesBackFromBeingMinimisedIsActivated) {
   Noting* b = show("frmB");
   b->showMinimized();
   EXPECT_TRUE(waitFor([b] { return b->isMinimized(); }));
+  letSettle();
   taken();
   show("frmB");
   EXPECT_FALSE(b->isMinimized());
   EXPECT_EQ(taken(), (Log{"frmB Form_Activate"}));
   letSettle();
-  EXPECT_TRUE(taken().empty()) << "once";
+  EXPECT_EQ(taken(), Log()) << "once";
 }
 
 TEST_F(FormsTest, TheMinimisedMainWindowComesBackWhenTheLastOtherCloses) {
@@ -288,7 +289,7 @@ TEST_F(FormsTest, CtrlInsertAndCapsLockAreKeysWhileNoScreenReaderListens) {
   ASSERT_FALSE(QAccessible::isActive());
   taken();
   for (const auto key : {Qt::Key_Control, Qt::Key_Insert, Qt::Key_CapsLock}) send(a, key);
-  EXPECT_EQ(taken(), Log(3, "frmA KeyDown 255/0"));
+  EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/2", "frmA KeyDown 255/0", "frmA KeyDown 255/0"}));
 }
 
 TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {

@@ -62,7 +62,8 @@ TEST(SurfaceLines, AreItemsOfAListThatIsSpokenPageByPage) {
   printPage(surface, 1);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&surface)->role(), QAccessible::List);
   EXPECT_EQ(line(surface, 0)->role(), QAccessible::ListItem);
-  EXPECT_EQ(spoken(surface, 0), "Kolon -  1 :   7  49  [ 056 ]") << "the title tells the first page";
+  EXPECT_EQ(spoken(surface, 0), "Kolon -  1 :   7  49  [ 056 ]")
+      << "the title tells the first page";
   EXPECT_EQ(spoken(surface, 1), "Kolon -  2 :   8  49  [ 057 ]");
   printPage(surface, 2);
   EXPECT_EQ(spoken(surface, 0), "Sayfa 2. Kolon -  1 :   7  49  [ 056 ]");
