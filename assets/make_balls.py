@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: CC0-1.0
-"""Writes ball.svg: six lottery balls (p1..p6), each in four steps (a..d).
+"""Writes ball.svg: six lottery balls (p1..p6), each in four steps (a..d), and
+boxes.svg: the balls that message boxes show as icons.
 
 Every ball is a real sphere seen from the front: a near-white cap on either
 pole, a printed ring pattern around each cap and a thin stripe on the equator.
@@ -255,15 +256,26 @@ def definitions(used=COLOURS):
     return "\n".join(lines)
 
 
+def head(width, height, title, used):
+    return ['<?xml version="1.0" encoding="UTF-8"?>',
+            '<!-- Own drawing, CC0-1.0. Written by make_balls.py. -->',
+            '<svg xmlns="http://www.w3.org/2000/svg" '
+            'xmlns:xlink="http://www.w3.org/1999/xlink" version="1.2" '
+            f'baseProfile="tiny" width="{width}" height="{height}" '
+            f'viewBox="0 0 {width} {height}">',
+            f'<title>{title}</title>',
+            definitions(used)]
+
+
+def contact():
+    """The shadow of a ball that lies still."""
+    return ('  <ellipse cx="0" cy="0" rx="40" ry="7" '
+            f'transform="translate({num(CENTRE[0] + 3)} 88.5)" '
+            'fill="url(#contact)"/>')
+
+
 def sheet():
-    out = ['<?xml version="1.0" encoding="UTF-8"?>',
-           '<!-- Own drawing, CC0-1.0. Written by make_balls.py. -->',
-           '<svg xmlns="http://www.w3.org/2000/svg" '
-           'xmlns:xlink="http://www.w3.org/1999/xlink" version="1.2" '
-           'baseProfile="tiny" width="384" height="576" '
-           'viewBox="0 0 384 576">',
-           '<title>Six lottery balls in four steps</title>',
-           definitions()]
+    out = head(384, 576, "Six lottery balls in four steps", COLOURS)
     cx, cy = CENTRE
     for p, (name, *_) in COLOURS.items():
         out.append(f"<!-- position {p}: {name} -->")
@@ -273,10 +285,8 @@ def sheet():
                        f'transform="translate({96 * i} {96 * (p - 1)})">')
             out.append('  <rect width="96" height="96" fill="#ffffff" '
                        'fill-opacity="0"/>')
-            out.append(f'  <ellipse cx="0" cy="0" rx="40" ry="7" '
-                       f'transform="translate({num(cx + 3)} 88.5)" '
-                       f'fill="url(#contact)"'
-                       + (' fill-opacity="0.6"' if rolling else "") + '/>')
+            if not rolling:  # a rolling one has its shadow on the tray
+                out.append(contact())
             out.append(f'  <g transform="translate({num(cx)} {num(cy)})">')
             smear = ((20, 0.16), (10, 0.3)) if rolling else ()
             out.append(ball(p, degrees, smear, indent="    "))
@@ -285,7 +295,41 @@ def sheet():
     return "\n".join(out)
 
 
+# ---- the icons of message boxes -----------------------------------------
+# name, colour of the ball, what stands on its disc: strokes, filled shapes
+MARKS = (
+    ("question", 3, "M-9 -7.5C-9 -13.2 -5 -16.6 .2 -16.6C5.4 -16.6 9.2 -13.4 "
+     "9.2 -8.8C9.2 -2.8 .4 -3 .4 4", '<circle cx="0.4" cy="13.4" r="4"/>'),
+    ("warning", 1, "", '<path d="M-4.6 -17.4H4.6L3 6H-3Z"/>'
+     '<circle cy="13.4" r="4"/>'),
+    ("critical", 2, "M-10 -10L10 10M10 -10L-10 10", ""),
+)
+
+
+def boxes():
+    out = head(96 * len(MARKS), 96, "Balls that ask, warn and report an error",
+               [colour for _, colour, *_ in MARKS])
+    cx, cy = CENTRE
+    for i, (name, colour, strokes, shapes) in enumerate(MARKS):
+        out.append(f'<g id="{name}" transform="translate({96 * i} 0)">')
+        out.append('  <rect width="96" height="96" fill="#ffffff" '
+                   'fill-opacity="0"/>')
+        out.append(contact())
+        out.append(f'  <g transform="translate({num(cx)} {num(cy)})">')
+        out.append(ball(colour, 0.0, (), indent="    "))
+        if strokes:
+            out.append('    <path fill="none" stroke="#2a2622" '
+                       'stroke-width="6.6" stroke-linecap="round" '
+                       f'd="{strokes}"/>')
+        if shapes:
+            out.append(f'    <g fill="#2a2622">{shapes}</g>')
+        out.append("  </g>\n</g>")
+    out.append("</svg>\n")
+    return "\n".join(out)
+
+
 if __name__ == "__main__":
-    target = Path(__file__).with_name("ball.svg")
-    target.write_text(sheet(), encoding="utf-8")
-    print(target.name, target.stat().st_size, "bytes")
+    for name, drawing in (("ball.svg", sheet()), ("boxes.svg", boxes())):
+        target = Path(__file__).with_name(name)
+        target.write_text(drawing, encoding="utf-8")
+        print(target.name, target.stat().st_size, "bytes")

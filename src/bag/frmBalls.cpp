@@ -9,7 +9,8 @@
 
 #include "bag/Texts.h"
 #include "core/Numbers.h"
-#include "platform/qt/BallCell.h"
+#include "bag/widgets/BallCell.h"
+#include "platform/qt/Letters.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -18,21 +19,22 @@ namespace karvenis {
 namespace {
 
 constexpr int cellsInRow = 7;
-constexpr int margin = 16;
 constexpr char tag[] = "Tag";
 
 }  // namespace
 
 frmBalls::frmBalls(Surroundings& around) : frmSelection(around, "frmBalls") {
   auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(margin, margin, margin, margin);
-  whole->setSpacing(margin - 4);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   setCaption("6/49 Top Seçme Tablosu");
   buildMenus();
+  Label1 = control<QLabel>(u"Label1"_s);
   buildCells();
   whole->addWidget(Frame1);
   whole->addWidget(buildFoot());
+  growWithLetters(*this, [this](double growth) {
+    for (BallCell* cell : cmdBall) cell->grow(growth);
+  });
   takeTabStop(1);
   cmdBall[1]->setFocus();
 }
@@ -82,13 +84,16 @@ void frmBalls::buildCell(int index) {
 
 QWidget* frmBalls::buildFoot() {
   auto* holder = new QWidget(this);
-  auto* row = new QHBoxLayout(holder);
-  row->setContentsMargins(0, 0, 0, 0);
-  buildCommands(row);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(buildCommands());
   Label2 = control<QLabel>(u"Label2"_s, u"F10= Yardım"_s);
   Label2->setToolTip(u"KARVENIS 2005"_s);
-  row->addStretch();
-  row->addWidget(Label2);
+  auto* foot = new QHBoxLayout;
+  foot->addWidget(Label1);
+  foot->addStretch();
+  foot->addWidget(Label2);
+  column->addLayout(foot);
   return holder;
 }
 
@@ -140,6 +145,8 @@ bool frmBalls::isMarked(int ball) const {
 }
 
 void frmBalls::setMarked(int ball, bool marked) {
+  markedBalls_ += static_cast<int>(marked) - static_cast<int>(isMarked(ball));
+  Label1->setText(u"%1 top işaretli"_s.arg(markedBalls_));
   BallCell* cell = cmdBall[static_cast<std::size_t>(ball)];
   QFont number = cell->font();
   number.setBold(marked);

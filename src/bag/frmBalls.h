@@ -46,9 +46,11 @@ class frmBalls final : public frmSelection, private BallButtons {
   void setMarked(int ball, bool marked) override;
 
   int tabStop_ = 1;  // the ball that Tab leads to
+  int markedBalls_ = 0;
 
   QFrame* Frame1 = nullptr;                         // holds the ball buttons
   std::array<BallCell*, ballsInAll + 1> cmdBall{};  // 1..49: the balls; 0: a template, never shown
+  QLabel* Label1 = nullptr;                         // how many balls are marked
   QLabel* Label2 = nullptr;                         // "F10= Yardım"
 };
 

@@ -7,24 +7,23 @@
 #include <QVBoxLayout>
 
 #include "bag/Texts.h"
+#include "platform/qt/Letters.h"
+#include "platform/qt/NumberBox.h"
 #include "platform/qt/Text.h"
-#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
 namespace karvenis {
 namespace {
 
-constexpr int margin = 16;
-constexpr int boxHeight = 40;
+constexpr int boxHeight = 40;  // as designed
 constexpr int boxPixels = 20;
+constexpr int boxGap = 10;
 
 }  // namespace
 
 frmBanko::frmBanko(Surroundings& around) : frmSelection(around, "frmBanko") {
   auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(margin, margin, margin, margin);
-  whole->setSpacing(margin - 2);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   setCaption("Banko");
   buildMenus();
@@ -45,7 +44,6 @@ QWidget* frmBanko::buildOptions() {
   auto* holder = new QWidget(this);
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(margin / 2);
   Label1 = control<QLabel>(u"Label1"_s, u"Banko Top Sayısı:"_s);
   row->addWidget(Label1);
   constexpr std::array clicks = {&frmBanko::Option1_Click, &frmBanko::Option2_Click,
@@ -73,21 +71,21 @@ QWidget* frmBanko::buildBoxes() {
   Label2 = control<QLabel>(u"Label2"_s);
   column->addWidget(Label2);
   auto* row = new QHBoxLayout;
-  row->setSpacing(10);
+  row->setSpacing(boxGap);
   for (int index = 0; index < mostBankos; ++index) {
-    auto* box = control<TextBox>(u"Text1_%1"_s.arg(index));
+    auto* box = control<NumberBox>(u"Text1_%1"_s.arg(index));
     box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
     box->setAlignment(Qt::AlignCenter);
-    box->setFixedHeight(boxHeight);
-    box->setMinimumWidth(boxHeight);
+    box->setFixedHeight(qRound(boxHeight * letterGrowth()));
+    box->setMinimumWidth(box->height());
     QFont large = box->font();
-    large.setPixelSize(boxPixels);
+    large.setPixelSize(qRound(boxPixels * letterGrowth()));
     box->setFont(large);
     QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
     kept.setRetainSizeWhenHidden(true);
     box->setSizePolicy(kept);
     box->hide();
-    on(box, &QLineEdit::textChanged, [this, index] { Text1_Change(index); });
+    on(box, &NumberBox::textChanged, [this, index] { Text1_Change(index); });
     onEnter(box, [this, index] { Text1_KeyPress(index); });
     Text1[static_cast<std::size_t>(index)] = box;
     row->addWidget(box);
@@ -100,10 +98,7 @@ QWidget* frmBanko::buildFoot() {
   auto* holder = new QWidget(this);
   auto* column = new QVBoxLayout(holder);
   column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(margin - 4);
-  auto* row = new QHBoxLayout;
-  buildCommands(row);
-  column->addLayout(row);
+  column->addLayout(buildCommands());
   auto* foot = new QHBoxLayout;
   Label3 = control<QLabel>(u"Label3"_s, u"KARVENIS 2005 Randomizer"_s);
   Label4 = control<QLabel>(u"Label4"_s, u"F10= Yardım"_s);
@@ -117,8 +112,18 @@ QWidget* frmBanko::buildFoot() {
 void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
 
 void frmBanko::ownKey(int KeyCode) {
-  if (KeyCode >= keyF4 && KeyCode <= keyF9) return chooseCount(KeyCode - keyF4);
+  if (KeyCode >= keyF4 && KeyCode <= keyF9) {
+    chooseCount(KeyCode - keyF4);
+    return focusFirstEmptyBox();
+  }
   if (KeyCode == keyF11) mnuBankoNedir_Click();
+}
+
+/// So that the next digit arrives; if every box is filled, the focus stays.
+void frmBanko::focusFirstEmptyBox() {
+  const auto empty = std::ranges::find_if(
+      Text1, [](const NumberBox* box) { return box->isVisible() && box->text().isEmpty(); });
+  if (empty != Text1.end()) (*empty)->setFocus();
 }
 
 void frmBanko::showBoxes(int count) {
@@ -135,7 +140,7 @@ void frmBanko::showBoxes(int count) {
 
 /// Rewrites the box only where that changes it, so that the caret does not jump.
 void frmBanko::Text1_Change(int Index) {
-  QLineEdit* box = Text1[static_cast<std::size_t>(Index)];
+  NumberBox* box = Text1[static_cast<std::size_t>(Index)];
   const QString kept = toQt(bankoText(fromQt(box->text())));
   if (kept != box->text()) box->setText(kept);
 }
@@ -143,9 +148,9 @@ void frmBanko::Text1_Change(int Index) {
 void frmBanko::Text1_KeyPress(int Index) {
   const auto next = static_cast<std::size_t>(Index) + 1;
   if (next < Text1.size() && Text1[next]->isVisible()) {
-    Text1[next]->setFocus(Qt::TabFocusReason);
+    Text1[next]->setFocus();
   } else {
-    Command1->setFocus(Qt::TabFocusReason);
+    Command1->setFocus();
   }
 }
 
@@ -174,7 +179,12 @@ std::string frmBanko::text(int index) const {
 }
 
 void frmBanko::setText(int index, const std::string& text) {
-  Text1[static_cast<std::size_t>(index)]->setText(toQt(text));
+  NumberBox* box = Text1[static_cast<std::size_t>(index)];
+  if (box == focusWidget()) {
+    box->write(toQt(text));
+  } else {
+    box->setText(toQt(text));
+  }
 }
 
 }  // namespace karvenis

@@ -6,10 +6,11 @@
 #include "bag/frmSelection.h"
 
 class QLabel;
-class QLineEdit;
 class QRadioButton;
 
 namespace karvenis {
+
+class NumberBox;
 
 /// The banko window: how many bankos there are, and which. What is typed counts when it is applied
 /// or saved.
@@ -37,6 +38,7 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   void Option5_Click() { showBoxes(4); }
   void Option6_Click() { showBoxes(5); }
   void showBoxes(int count);
+  void focusFirstEmptyBox();
   void Text1_Change(int Index);
   void Text1_KeyPress(int Index);  // Enter; no other character has a meaning
   void Command1_Click() override;
@@ -54,7 +56,7 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   QLabel* Label1 = nullptr;                            // "Banko Top Sayısı:"
   std::array<QRadioButton*, mostBankos + 1> Option{};  // Option1..Option6: 0..5 bankos
   QLabel* Label2 = nullptr;                            // the caption over the boxes
-  std::array<QLineEdit*, mostBankos> Text1{};          // the banko numbers
+  std::array<NumberBox*, mostBankos> Text1{};          // the banko numbers
   QLabel* Label3 = nullptr;                            // the credit line
   QLabel* Label4 = nullptr;                            // "F10= Yardım"
 };

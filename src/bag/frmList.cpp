@@ -43,8 +43,7 @@ frmList::frmList(Surroundings& around)
 
 /// A page on which the widest coupon fits.
 Surface* frmList::makePage(QWidget* parent) {
-  auto* page = new Surface(parent);
-  page->setTextSize(textPixels);
+  auto* page = new Surface(parent, linesOfPage, textPixels);
   const QFontMetrics metrics(page->font());
   const QString widest = u" Kolon  8 - "_s + u"48  "_s.repeated(ballsInColumn);
   page->setFixedSize(metrics.horizontalAdvance(widest), linesOfPage * metrics.height());

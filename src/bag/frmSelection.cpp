@@ -29,12 +29,14 @@ QMenu* frmSelection::buildOtherMenus(QMenu* choice, const char* line) {
   return help;
 }
 
-void frmSelection::buildCommands(QBoxLayout* row) {
+QLayout* frmSelection::buildCommands() {
   Command1 = command("Command1", u"Uygula", u"Uygula", [this] { Command1_Click(); });
   Command3 = command("Command3", u"Yükle", u"Dosyadan Yükle", [this] { Command3_Click(); });
   Command4 = command("Command4", u"Kayıtla", u"Dosyaya Kayıtla", [this] { Command4_Click(); });
   Command2 = command("Command2", u"Kapat", u"Çıkış", [this] { Command2_Click(); });
-  for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button);
+  auto* row = new QHBoxLayout;
+  for (QPushButton* button : {Command1, Command3, Command4, Command2}) row->addWidget(button, 1);
+  return row;
 }
 
 void frmSelection::Form_KeyDown(int KeyCode, int) {

@@ -3,7 +3,7 @@
 #include "core/Surroundings.h"
 #include "platform/qt/Form.h"
 
-class QBoxLayout;
+class QLayout;
 class QPushButton;
 
 namespace karvenis {
@@ -23,7 +23,7 @@ class frmSelection : public Form {
   QMenu* buildChoiceMenu();
   /// Ends `choice` behind a line and adds the menus "Dosya" and "Yardım"; returns the latter.
   QMenu* buildOtherMenus(QMenu* choice, const char* line);
-  void buildCommands(QBoxLayout* row);
+  QLayout* buildCommands();
 
   virtual void Command1_Click() = 0;
   void Command2_Click();

@@ -75,7 +75,7 @@ void DeleteColumn(Surroundings& around, ListPage& page) {
   Files& files = around.files;
   if (columnCountOrNone(files, combinationList) < 1) return;
   page.PageStart = typedNumber32(
-      around.boxes.input("Silmek istediğiniz kolon numarasını girin.", "Kolon SİLME", "0"));
+      around.boxes.input("Silmek istediğiniz kolon numarasını girin.", "Kolon SİLME", "0", ""));
   const std::int32_t number = page.PageStart;
   if (number < 1) return;
   const std::int32_t count = columnCount(files, combinationList);

@@ -54,6 +54,7 @@ enum class EmptyList { stays, isDeleted };
 /// What one filter does in its own way.
 struct Kind {
   const char* prompt;
+  const char* example;  // shown in grey where nothing is typed yet
   std::optional<std::string> (*read)(const std::string& InputText, FilterMarks& marks);
   const char* questionOne;      // follows the quoted list: of one number,
   const char* questionSeveral;  // of several
@@ -66,6 +67,7 @@ struct Kind {
 
 constexpr Kind kinds[] = {
     {.prompt = "İstemediğiniz sayıları (aralarına virgül koyarak) girin.",
+     .example = "örnek: 5,12,30",
      .read = readNumbers,
      .questionOne = "' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "' numaralı topların yer aldığı kolonları silmek istiyormusunuz?",
@@ -76,6 +78,7 @@ constexpr Kind kinds[] = {
      .emptyList = EmptyList::stays},
     {.prompt = "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
                "(Herhangi biri olan kolonlar seçilecek.)",
+     .example = "örnek: 7,20",
      .read = readNumbers,
      .questionOne = "' numaralı topun yer almadığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "' numaralı topların hiç birinin yer almadığı kolonları silmek "
@@ -86,6 +89,7 @@ constexpr Kind kinds[] = {
      .phase2 = " FAZ 2 - Kolon :",
      .emptyList = EmptyList::stays},
     {.prompt = "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
+     .example = "örnek: 5-12",
      .read = readPair,
      .questionOne = "' numaralı topların (ikisinin de) yer aldığı kolonları silmek "
                     "istiyormusunuz?",
@@ -99,6 +103,7 @@ constexpr Kind kinds[] = {
     {.prompt = "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin "
                "sayılarının arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak "
                "girin.",
+     .example = "örnek: 3-7,12-40",
      .read = readPairs,
      .questionOne = "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?",
      .questionSeveral = "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?",
@@ -186,7 +191,7 @@ bool filterList(Filter filter, Surroundings& around, ListPage& page, TitleBar& t
   around.boxes.beep();
   if (columnCountOrNone(around.files, combinationList) < 1) return false;
   const Kind& kind = kinds[static_cast<std::size_t>(filter)];
-  const std::string InputText = around.boxes.input(kind.prompt, "Kolon SİLME", "");
+  const std::string InputText = around.boxes.input(kind.prompt, "Kolon SİLME", "", kind.example);
   FilterMarks marks;
   const std::optional<std::string> shown = kind.read(InputText, marks);
   if (!shown || !around.boxes.ask(questionOf(kind, *shown))) return false;

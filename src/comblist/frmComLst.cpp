@@ -1,28 +1,14 @@
 #include "comblist/frmComLst.h"
 
-#include <QVBoxLayout>
-
 #include "comblist/CombinationList.h"
 #include "platform/qt/Forms.h"
-#include "platform/qt/Surface.h"
 
 namespace karvenis {
-namespace {
-
-constexpr int titleWidth = 480;  // the frame shows the whole title of the last page then
-
-}  // namespace
 
 frmComLst::frmComLst(Surroundings& around)
-    : Form(around.windows, "frmComLst"), around_(around), surface_(new Surface(this)) {
+    : PageForm(around.windows, "frmComLst", rowsOnPage), around_(around) {
   setCaption(listTitle);
-  auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(surface_);
-  surface_->setFocusPolicy(Qt::StrongFocus);
-  surface_->setFocus();
-  const QSize rows = surface_->sizeFor(pageMargin, rowsOnPage, widestRow(*surface_));
-  surface_->setMinimumSize(rows.expandedTo({titleWidth, 0}));
+  surface().fix(pageMargin, fitRows(surface()));
 }
 
 void frmComLst::Form_Activate() {
@@ -34,21 +20,8 @@ void frmComLst::Form_Activate() {
   redraw();
 }
 
-void frmComLst::Form_Click() {
-  page_.click();
-  redraw();
-}
-
-void frmComLst::Form_KeyDown(int KeyCode, int) {
-  if (KeyCode == keyEscape) {
-    unload();
-    return;
-  }
-  if (runCommand(KeyCode)) redraw();
-}
-
 /// Returns whether the page is to be drawn anew.
-bool frmComLst::runCommand(int KeyCode) {
+bool frmComLst::command(int KeyCode) {
   switch (KeyCode) {
     case keyF1:
       openListing(around_);
@@ -86,8 +59,8 @@ void frmComLst::runFilter(Filter filter) {
 }
 
 void frmComLst::redraw() {
-  ShowPage(around_, page_, *surface_, *this);
-  surface_->setPage(page_.PageNo);
+  ShowPage(around_, page_, surface(), *this);
+  surface().setPage(page_.PageNo);
 }
 
 }  // namespace karvenis

@@ -3,15 +3,12 @@
 #include "comblist/Filters.h"
 #include "core/ListPage.h"
 #include "core/Surroundings.h"
-#include "platform/qt/Form.h"
+#include "platform/qt/PageForm.h"
 
 namespace karvenis {
 
-class Surface;
-
-/// The combination list: pages through the file and carries the commands that thin it out. It has
-/// no controls; it prints on its own surface.
-class frmComLst final : public Form {
+/// The combination list: pages through the file and carries the commands that thin it out.
+class frmComLst final : public PageForm {
   Q_OBJECT
 
  public:
@@ -20,16 +17,14 @@ class frmComLst final : public Form {
   void Form_Activate() override;
 
  protected:
-  void Form_KeyDown(int KeyCode, int Shift) override;
-  void Form_Click() override;
+  bool command(int KeyCode) override;
+  void nextPage() override { page_.click(); }
+  void redraw() override;
 
  private:
-  bool runCommand(int KeyCode);
   void runFilter(Filter filter);
-  void redraw();
 
   Surroundings& around_;
-  Surface* surface_;
   ListPage page_;
 };
 

@@ -8,17 +8,15 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/Forms.h"
+#include "platform/qt/NumberBox.h"
 #include "platform/qt/Text.h"
-#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
 namespace karvenis {
 namespace {
 
-constexpr int margin = 18;
-constexpr int spacing = 12;
-constexpr int titleWidth = 380;  // the frame shows the whole title then
+constexpr int titleWidth = 350;  // the frame shows the whole title then
 
 }  // namespace
 
@@ -26,28 +24,26 @@ frmRnd::frmRnd(Surroundings& around)
     : Form(around.windows, "frmRnd"), boxes_(around.boxes), generator_(around, *this) {
   setCaption(generatorTitle);
   auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(margin, margin, margin, margin);
-  whole->setSpacing(spacing);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   whole->addLayout(buildCount());
   whole->addLayout(buildOptions());
   Line1 = control<QFrame>(u"Line1"_s);
   Line1->setFrameStyle(QFrame::HLine | QFrame::Sunken);
-  Line1->setMinimumWidth(titleWidth - 2 * margin);
+  Line1->setMinimumWidth(titleWidth);
   whole->addWidget(Line1);
   Label2 = control<QLabel>(u"Label2"_s, u"KARVENIS.LST dosyasına kayıtlanacak."_s);
   Label2->setToolTip(u"Kombinasyon Listesi dosyasına kayıtlanacak."_s);
   whole->addWidget(Label2);
   whole->addLayout(buildCommands());
+  Text1->setFocus();
 }
 
 QLayout* frmRnd::buildCount() {
   Label1 = control<QLabel>(u"Label1"_s, u"Kolon Sayısı:"_s);
-  Text1 = control<TextBox>(u"Text1"_s, u"32767"_s);
+  Text1 = control<NumberBox>(u"Text1"_s, u"32767"_s);
   Text1->setToolTip(u"Rastgele küme oluşturmak için en çok deneme sayısı."_s);
   Label1->setBuddy(Text1);
   auto* row = new QHBoxLayout;
-  row->setSpacing(spacing);
   row->addWidget(Label1);
   row->addWidget(Text1);
   return row;
@@ -60,7 +56,6 @@ QLayout* frmRnd::buildOptions() {
   onOption(Option1, &frmRnd::Option1_Click);
   onOption(Option2, &frmRnd::Option2_Click);
   auto* column = new QVBoxLayout;
-  column->setSpacing(spacing / 2);
   column->addWidget(Option1);
   column->addWidget(Option2);
   return column;
@@ -77,17 +72,13 @@ void frmRnd::onOption(QRadioButton* option, void (frmRnd::*procedure)()) {
 QLayout* frmRnd::buildCommands() {
   Command1 = command("Command1", u"Oluştur", u"", [this] { Command1_Click(); });
   Command2 = command("Command2", u"Kapat", u"", [this] { Command2_Click(); });
-  auto* row = new QHBoxLayout;
-  row->setSpacing(spacing);
-  row->addWidget(Command1, 1);
-  row->addWidget(Command2, 1);
-  return row;
+  return commandRow({Command1, Command2});
 }
 
 void frmRnd::Form_Activate() {
   Option2->setEnabled(generator_.canAppend());
   if (!generator_.canAppend()) return;
-  Text1->setText(toQt(generator_.countForAppend()));
+  Text1->write(toQt(generator_.countForAppend()));
   Option2->setChecked(true);
 }
 
@@ -106,10 +97,10 @@ void frmRnd::Form_KeyDown(int KeyCode, int) {
 }
 
 void frmRnd::Option1_Click() {
-  Text1->setText(toQt(generator_.countForNewList(fromQt(Text1->text()))));
+  Text1->write(toQt(generator_.countForNewList(fromQt(Text1->text()))));
 }
 
-void frmRnd::Option2_Click() { Text1->setText(toQt(generator_.countForAppend())); }
+void frmRnd::Option2_Click() { Text1->write(toQt(generator_.countForAppend())); }
 
 void frmRnd::Command2_Click() { unload(); }
 
@@ -117,7 +108,7 @@ void frmRnd::Command1_Click() {
   const auto mode = Option1->isChecked() ? Generator::Mode::newList : Generator::Mode::append;
   switch (generator_.start(mode, fromQt(Text1->text()))) {
     case Generator::Outcome::refused:
-      Text1->setFocus(Qt::TabFocusReason);
+      Text1->askAgain();
       return;
     case Generator::Outcome::kept:
       return;

@@ -10,7 +10,8 @@
 namespace karvenis {
 namespace {
 
-constexpr double ballPitch = 400;   // twips, as all measures here
+constexpr double ballColumn = 1600;  // twips, as all measures here
+constexpr double ballPitch = 400;
 constexpr double sumOffset = 2500;  // from the first ball
 
 /// The start of a full last page; 0 if the list has less than a page.
@@ -23,7 +24,7 @@ double printLabel(TextSurface& surface, std::int64_t number) {
   surface.foreColor(QBColor::lightRed);
   surface.print("Kolon -" + withBlank(number) + " : ");
   const double x = surface.currentX();
-  if (x < 1600) return 1600;
+  if (x < ballColumn) return ballColumn;
   if (x < 1700) return 1700;
   return x + 75;
 }
@@ -100,14 +101,17 @@ void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface) {
   }
 }
 
-double widestRow(TextSurface& surface) {
-  surface.cls();
+double fitRows(TextSurface& surface) {
+  constexpr int narrowest = 75;  // percent; narrower letters cannot be read
+  for (int percent = 100; percent > narrowest && printLabel(surface, 8888) > ballColumn;) {
+    surface.letterWidth(--percent);
+  }
   const double firstBall = printLabel(surface, std::numeric_limits<std::int32_t>::max());
   surface.currentX(firstBall + sumOffset);
   surface.print(bracketed(std::numeric_limits<std::int16_t>::min()));
   const double edge = surface.currentX();
   surface.cls();
-  return edge;
+  return std::max(edge, titleEdge);
 }
 
 }  // namespace karvenis

@@ -11,7 +11,7 @@ namespace karvenis {
 /// Columns on a full page of a list window.
 inline constexpr std::int32_t rowsOnPage = 25;
 /// How far a list window reaches at least, in twips, so that its frame shows the whole title.
-inline constexpr double titleEdge = 7600;
+inline constexpr double titleEdge = 6300;
 /// What the rows keep clear above and to the left, in twips.
 inline constexpr double pageMargin = 200;
 
@@ -40,7 +40,9 @@ struct ListPage {
 /// if the sum of a damaged record outgrows 16 bits.
 void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface);
 
-/// The right edge, in twips, of the widest row that any record can give on `surface`; clears it.
-[[nodiscard]] double widestRow(TextSurface& surface);
+/// Fits the letters of the empty `surface` to the page's rows: they are made as narrow as it takes
+/// to keep the balls of records 1 to 9999 in one column. Returns the page's right edge in twips,
+/// behind the widest row that any record can give and behind the window's title.
+[[nodiscard]] double fitRows(TextSurface& surface);
 
 }  // namespace karvenis

@@ -5,8 +5,8 @@
 #include <QPushButton>
 
 #include "core/Numbers.h"
+#include "platform/qt/NumberBox.h"
 #include "platform/qt/Text.h"
-#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,9 +15,9 @@ namespace karvenis {
 frmCLPrint::frmCLPrint(Surroundings& around)
     : frmListing(around, "frmCLPrint", combinationListing),
       Label1(control<QLabel>(u"Label1"_s, u"Başlangıç :"_s)),
-      Text1(control<TextBox>(u"Text1"_s, u"1"_s)),
+      Text1(control<NumberBox>(u"Text1"_s, u"1"_s)),
       Label2(control<QLabel>(u"Label2"_s, u"Bitiş :"_s)),
-      Text2(control<TextBox>(u"Text2"_s)) {
+      Text2(control<NumberBox>(u"Text2"_s)) {
   Label1->setBuddy(Text1);
   Label2->setBuddy(Text2);
   auto* grid = new QGridLayout(this);
@@ -45,9 +45,9 @@ void frmCLPrint::Command1_Click() {
   Text2->setText(QString::number(range.last));
   switch (listCombinations(around_, *this, output(), range)) {
     case RangeRefusal::first:
-      return Text1->setFocus();
+      return Text1->askAgain();
     case RangeRefusal::last:
-      return Text2->setFocus();
+      return Text2->askAgain();
     case RangeRefusal::none:
       return;
   }

@@ -2,9 +2,9 @@
 
 #include "listing/frmListing.h"
 
-class QLineEdit;
-
 namespace karvenis {
+
+class NumberBox;
 
 /// Lists a range of the combination list.
 class frmCLPrint final : public frmListing {
@@ -21,9 +21,9 @@ class frmCLPrint final : public frmListing {
   void Command1_Click() override;
 
   QLabel* Label1;    // "Başlangıç :"
-  QLineEdit* Text1;  // the first record's number
+  NumberBox* Text1;  // the first record's number
   QLabel* Label2;    // "Bitiş :"
-  QLineEdit* Text2;  // the last record's number
+  NumberBox* Text2;  // the last record's number
 };
 
 }  // namespace karvenis

@@ -1,7 +1,6 @@
 #include "listing/frmListing.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -32,23 +31,12 @@ frmListing::frmListing(Surroundings& around, const char* name, const Listing& li
 }
 
 void frmListing::layOut(QGridLayout* grid) {
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(8);
-  buttons->addStretch();
-  buttons->addWidget(Command1);
-  buttons->addWidget(Command2);
-
   const int row = grid->rowCount();
   grid->addWidget(Label3, row, 0);
   grid->addWidget(Option1, row, 1);
   grid->addWidget(Option2, row + 1, 1);
-  grid->addLayout(buttons, row + 2, 0, 1, 2);
-  grid->setRowMinimumHeight(row + 2, 56);
-  grid->setAlignment(buttons, Qt::AlignBottom);
+  grid->addLayout(commandRow({Command1, Command2}), row + 2, 0, 1, 2);
   grid->setColumnMinimumWidth(1, 200);
-  grid->setContentsMargins(18, 16, 18, 16);
-  grid->setHorizontalSpacing(14);
-  grid->setVerticalSpacing(8);
   grid->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -25,17 +25,8 @@ inline constexpr char keyList[] =
     "ESC= Çıkış/Kapat";
 
 inline constexpr char aboutTitle[] = " KARVENIS 2005 Randomizer Hakkında";
-/// Ends before the name of the folder that the files are in.
-inline const std::string about =
-    "Bu program, 6/49 Sayısal Loto için seçtiğiniz toplardan (torbadan) rastgele kolonlar çeker; "
-    "çıkmasını mutlaka istediğiniz banko topları her kolona ekler, kolonları gösterir ve "
-    "listeler.\r"
-    "\r"
-    "KARVENIS 2005 Randomizer, kuponunu elle dolduranlara yardım etmek için yazılmış, bağımsız bir "
-    "masaüstü programıdır. Kolonlarınız yalnızca sizin bilgisayarınızda durur.\r"
-    "\r"
-    "Tam formüllü kombinasyon listeleri için, bu programın yanında, yapımcının formül programını "
-    "kullanmanızı öneririz.\r"
-    "Dosyaların durduğu klasör: ";
+/// What the program does, where it comes from and where its things stand, and what goes with it.
+/// `folder` is the one that its files are in.
+std::string aboutText(const std::string& folder);
 
 }  // namespace karvenis

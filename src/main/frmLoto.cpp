@@ -12,9 +12,9 @@
 #include "main/NewColumn.h"
 #include "main/Settings.h"
 #include "main/Texts.h"
+#include "main/widgets/Picture.h"
 #include "platform/Twips.h"
 #include "platform/qt/Forms.h"
-#include "platform/qt/Picture.h"
 #include "platform/qt/Text.h"
 #include "platform/qt/WindowPlace.h"
 #include "randomlist/RandomColumnFile.h"
@@ -52,7 +52,7 @@ void frmLoto::Command1_Click() {
   } else {
     newColumnFromList();
   }
-  Picture0->hide();
+  uncover();
 }
 
 void frmLoto::newColumnFromBag() {
@@ -100,8 +100,14 @@ std::string frmLoto::drawn() const { return listed(around_.state.Drawn); }
 
 void frmLoto::Picture0_Click() {
   around_.boxes.beep();
-  Picture0->hide();
+  uncover();
   cover_.stamp(around_.clock.minute());
+}
+
+/// Hides the opening picture; a focus on it goes where the next draw is asked for.
+void frmLoto::uncover() {
+  if (focusWidget() == Picture0) Command1->setFocus();
+  Picture0->hide();
 }
 
 void frmLoto::Label1_MouseMove(int Index) {
@@ -134,7 +140,7 @@ void frmLoto::mnuFKeys_Click() { around_.boxes.message(keyList, keyListTitle); }
 
 void frmLoto::mnuAbout_Click() {
   around_.boxes.beep();
-  around_.boxes.message(about + around_.files.currentFolder(), aboutTitle);
+  around_.boxes.message(aboutText(around_.files.currentFolder()), aboutTitle);
 }
 
 void frmLoto::showImage(int index, bool visible) {

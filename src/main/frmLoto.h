@@ -20,6 +20,7 @@ class QTimer;
 namespace karvenis {
 
 class Picture;
+class PictureButton;
 
 /// The main window: shows the drawn column and is the hub of all menus and function keys.
 class frmLoto final : public Form, private BallStage {
@@ -46,13 +47,16 @@ class frmLoto final : public Form, private BallStage {
   void buildBanner();
   void buildStage();
   void buildBall(int k);
-  QLabel* buildLabel(int index, const QRect& place, int pixels, unsigned colour);
+  QLabel* buildLabel(int index, unsigned colour);
   void buildPanel();
   QWidget* buildChoices();
   QWidget* buildClock();
   void buildTimers();
+  void grow(double growth);
+  void placeBall(int k);
   void placeBanner();
   void takePicture();
+  void uncover();
   void nameLabel(int index);
 
   void Command1_Click();
@@ -96,6 +100,7 @@ class frmLoto final : public Form, private BallStage {
   IdleCover cover_;
   Place place_;                         // from the file at the start; 0, 0 without one
   std::array<QAction*, 12> entries_{};  // what F1..F12 trigger
+  double growth_ = 1;                   // how much larger than designed the pictures are
   QPixmap picture_;  // the window's own picture, taken from Picture2 by the first draw
 
   QPushButton* Command1 = nullptr;    // "Kolon": draws a new column
@@ -104,11 +109,12 @@ class frmLoto final : public Form, private BallStage {
   QRadioButton* Option2 = nullptr;    // "Listeden Çek": columns come from the combination list
   QCheckBox* Check1 = nullptr;        // "Numara Sırası": columns are sorted
   QFrame* Frame1 = nullptr;           // groups the options and the check box
-  Picture* Picture0 = nullptr;        // the opening picture over the balls
+  PictureButton* Picture0 = nullptr;  // the opening picture over the balls
   Picture* Picture1 = nullptr;        // the emblem beside the clock
   Picture* Picture2 = nullptr;        // never shown: the picture that the window takes
   Picture* Picture3 = nullptr;        // the banner that sways
   Picture* Picture4 = nullptr;        // its companion
+  QWidget* strip_ = nullptr;          // shows a part of the banner
   QWidget* stage_ = nullptr;          // holds the balls and their numbers
   std::array<Picture*, 30> Image1{};  // the balls' pictures; multiples of 5 belong to no ball
   std::array<QLabel*, 12> Label1{};   // two numbers for each ball position

@@ -9,11 +9,13 @@
 #include <QVBoxLayout>
 
 #include "main/frmLoto.h"
+#include "main/widgets/Picture.h"
 #include "platform/Twips.h"
 #include "platform/qt/Forms.h"
+#include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
-#include "platform/qt/Picture.h"
 #include "platform/qt/Style.h"
+#include "ready/Sizes.h"
 
 // How the main window is built and painted. Lengths are device independent pixels.
 
@@ -23,22 +25,40 @@ namespace karvenis {
 namespace {
 
 constexpr QSize windowArt(760, 560);
-constexpr QSize bannerArt(984, 56);
-constexpr QSize companionArt(984, 12);
-constexpr QSize stageSize(728, 264);
+constexpr QSize stageSize = ready::opening;
 constexpr QSize ballSize(112, 112);
 constexpr QSize plateSize(76, 36);
 constexpr int margin = 16;
 constexpr int cellWidth = 120;
 constexpr int restTop = 84;
 constexpr int plateTop = 210;
+constexpr int ballNumber = 30;    // letters on the balls
+constexpr int plateNumber = 20;   // and on the plates below them
+constexpr double ballRoom = 1.1;  // how much larger than that they may be and still fit
+constexpr double plateRoom = 1.2;
+constexpr double wordRoom = 1.5;
 constexpr int tickOfBalls = 20;   // milliseconds
 constexpr int tickOfClock = 100;  // milliseconds
+
+QRect scaled(const QRect& place, double growth) {
+  return {place.topLeft() * growth, place.size() * growth};
+}
 
 /// Where ball `k` comes to rest.
 QRect restOf(int k) {
   const int cell = (stageSize.width() - 6 * cellWidth) / 2 + (k - 1) * cellWidth;
   return {QPoint(cell + (cellWidth - ballSize.width()) / 2, restTop), ballSize};
+}
+
+/// Where the number below ball `k` stands.
+QRect plateOf(int k) {
+  return {QPoint(restOf(k).center().x() - plateSize.width() / 2, plateTop), plateSize};
+}
+
+void setLetters(QWidget* widget, double pixels) {
+  QFont letters = widget->font();
+  letters.setPixelSize(qRound(pixels));
+  widget->setFont(letters);
 }
 
 /// How far from its rest each rolling step of a ball is seen.
@@ -48,18 +68,14 @@ constexpr std::array<QPoint, 4> stepOffsets = {QPoint(20, -80), QPoint(12, -58),
 /// The one button that everything is about.
 void dressMain(QPushButton* button) {
   button->setProperty(Style::mainButton, true);
-  QFont large = button->font();
-  large.setPixelSize(24);
-  button->setFont(large);
   QPalette colours = button->palette();
   colours.setColor(QPalette::ButtonText, Qt::white);
   button->setPalette(colours);
 }
 
 /// Dresses `label` in bold letters of one colour.
-QLabel* dressed(QLabel* label, int pixels, unsigned colour) {
+QLabel* dressed(QLabel* label, unsigned colour) {
   QFont bold = label->font();
-  bold.setPixelSize(pixels);
   bold.setBold(true);
   label->setFont(bold);
   QPalette colours = label->palette();
@@ -86,6 +102,8 @@ frmLoto::frmLoto(Surroundings& around)
   Picture2->setObjectName(u"Picture2"_s);
   Picture2->hide();
   setCaption(standardTitle);
+  growWithLetters(*this, [this](double growth) { grow(growth); });
+  setTabOrder(Command2, Picture0);
   Command1->setFocus();
 }
 
@@ -131,37 +149,29 @@ void frmLoto::function(int number, QMenu* head, const char* entry, QStringView t
 }
 
 void frmLoto::buildBanner() {
-  auto* opening = new QWidget(this);
-  opening->setFixedSize(windowArt.width(), bannerArt.height() + companionArt.height());
-  makeSurface(opening);
-  Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, opening);
+  strip_ = new QWidget(this);
+  makeSurface(strip_);
+  Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, strip_);
   Picture3->setObjectName(u"Picture3"_s);
-  Picture3->resize(bannerArt);
-  Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, opening);
+  Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, strip_);
   Picture4->setObjectName(u"Picture4"_s);
-  Picture4->resize(companionArt);
-  placeBanner();
-  layout()->addWidget(opening);
+  layout()->addWidget(strip_);
 }
 
 void frmLoto::placeBanner() {
-  const int left = static_cast<int>(banner_.left() / twipsPerPixel);
+  const int left = static_cast<int>(growth_ * banner_.left() / twipsPerPixel);
   Picture3->move(left, 0);
-  Picture4->move(left, bannerArt.height());
+  Picture4->move(left, Picture3->height());
 }
 
 void frmLoto::buildStage() {
   stage_ = new QWidget(this);
-  stage_->setFixedSize(stageSize);
   makeSurface(stage_);
   for (int k = 1; k <= ballsInColumn; ++k) buildBall(k);
-  Picture0 = new Picture(artwork_, u"opening.svg"_s, {}, stage_);
+  Picture0 = new PictureButton(artwork_, u"opening.svg"_s, stage_);
   Picture0->setObjectName(u"Picture0"_s);
   Picture0->setAccessibleName(u"Açılış resmi"_s);
-  Picture0->resize(stageSize);
-  Picture0->setAttribute(Qt::WA_OpaquePaintEvent);
-  Picture0->setCursor(Qt::PointingHandCursor);
-  on(Picture0, &Picture::clicked, [this] { Picture0_Click(); });
+  on(Picture0, &PictureButton::clicked, [this] { Picture0_Click(); });
   auto* row = new QHBoxLayout;
   row->setContentsMargins(margin, 0, margin, 0);
   row->addWidget(stage_);
@@ -169,25 +179,21 @@ void frmLoto::buildStage() {
 }
 
 void frmLoto::buildBall(int k) {
-  const QRect rest = restOf(k);
   for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
     const int index = image(k, "abcd"[step]);
     const QString part = u"p%1-%2"_s.arg(k).arg(QLatin1Char("abcd"[step]));
     auto* image = new Picture(artwork_, u"ball.svg"_s, part, stage_);
     image->setObjectName(u"Image1_%1"_s.arg(index));
-    image->setGeometry(rest.translated(stepOffsets[step]));
     image->setVisible(step + 1 == stepOffsets.size());
     Image1[static_cast<std::size_t>(index)] = image;
   }
-  const QRect plate(QPoint(rest.center().x() - plateSize.width() / 2, plateTop), plateSize);
-  buildLabel(mainLabel(k), rest.adjusted(0, 0, 0, -7), 30, look::ink);
-  buildLabel(copyLabel(k), plate, 20, look::petrol)->setFrameShape(QFrame::StyledPanel);
+  buildLabel(mainLabel(k), look::ink);
+  buildLabel(copyLabel(k), look::petrol)->setFrameShape(QFrame::StyledPanel);
 }
 
-QLabel* frmLoto::buildLabel(int index, const QRect& place, int pixels, unsigned colour) {
-  auto* number = dressed(new QLabel(stage_), pixels, colour);
+QLabel* frmLoto::buildLabel(int index, unsigned colour) {
+  auto* number = dressed(new QLabel(stage_), colour);
   number->setObjectName(u"Label1_%1"_s.arg(index));
-  number->setGeometry(place);
   number->setMouseTracking(true);
   number->installEventFilter(this);
   Label1[static_cast<std::size_t>(index)] = number;
@@ -244,15 +250,13 @@ QWidget* frmLoto::buildClock() {
   Picture1 = new Picture(artwork_, u"emblem.svg"_s, {}, plate);
   Picture1->setObjectName(u"Picture1"_s);
   Picture1->setAccessibleName(u"KARVENIS amblemi"_s);
-  Picture1->setFixedSize(64, 64);
   row->addWidget(Picture1);
   auto* column = new QVBoxLayout;
   column->setSpacing(2);
-  Label2 = dressed(new QLabel(plate), 14, look::muted);
-  Label3 = dressed(new QLabel(plate), 20, look::petrol);
+  Label2 = dressed(new QLabel(plate), look::muted);
+  Label3 = dressed(new QLabel(plate), look::petrol);
   Label2->setObjectName(u"Label2"_s);
   Label3->setObjectName(u"Label3"_s);
-  Label3->setMinimumWidth(100);
   column->addStretch();
   column->addWidget(Label2);
   column->addWidget(Label3);
@@ -278,9 +282,41 @@ void frmLoto::buildTimers() {
   Timer[0]->start();
 }
 
+/// Sizes and places the pictures and what stands on them, and the words that grow with the letters.
+void frmLoto::grow(double growth) {
+  growth_ = growth;
+  Picture3->resize(ready::banner * growth);
+  Picture4->resize(ready::companion * growth);
+  strip_->setFixedHeight(Picture3->height() + Picture4->height());
+  placeBanner();
+  stage_->setFixedSize(stageSize * growth);
+  Picture0->resize(stage_->size());
+  for (int k = 1; k <= ballsInColumn; ++k) placeBall(k);
+  Picture1->setFixedSize(ready::emblem * growth);
+  const double words = std::min(letterGrowth(), wordRoom * growth);
+  setLetters(Command1, 24 * words);
+  setLetters(Label2, 14 * words);
+  setLetters(Label3, 20 * words);
+  Label3->setMinimumWidth(qRound(100 * words));
+}
+
+void frmLoto::placeBall(int k) {
+  for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
+    const auto index = static_cast<std::size_t>(image(k, "abcd"[step]));
+    Image1[index]->setGeometry(scaled(restOf(k).translated(stepOffsets[step]), growth_));
+  }
+  QLabel* number = Label1[static_cast<std::size_t>(mainLabel(k))];
+  number->setGeometry(scaled(restOf(k).adjusted(0, 0, 0, -7), growth_));
+  setLetters(number, ballNumber * std::min(letterGrowth(), ballRoom * growth_));
+  QLabel* copy = Label1[static_cast<std::size_t>(copyLabel(k))];
+  copy->setGeometry(scaled(plateOf(k), growth_));
+  setLetters(copy, plateNumber * std::min(letterGrowth(), plateRoom * growth_));
+}
+
 /// The window's own picture becomes that of Picture2.
 void frmLoto::takePicture() {
-  picture_ = artwork_.pixmap(u"window.svg"_s, {}, windowArt, devicePixelRatioF());
+  const QSize art = windowArt.scaled(size(), Qt::KeepAspectRatioByExpanding);
+  picture_ = artwork_.pixmap(u"window.svg"_s, {}, art.expandedTo(windowArt), devicePixelRatioF());
   update();
 }
 
@@ -300,12 +336,13 @@ void frmLoto::paintEvent(QPaintEvent*) {
   if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);
   painter.setPen(QColor(look::edge));
   painter.setBrush(QColor(255, 253, 247, 150));
-  painter.drawRoundedRect(QRectF(stage_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
+  painter.drawRoundedRect(QRectF(stage_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5),
+                          PictureButton::radius, PictureButton::radius);
   painter.setPen(Qt::NoPen);
   for (int k = 1; k <= ballsInColumn; ++k) {
-    const QRect rest = restOf(k).translated(stage_->pos());
+    const QRect hollow = restOf(k).adjusted(12, 88, -12, 2);
     painter.setBrush(QColor(120, 96, 52, 34));
-    painter.drawEllipse(QRectF(rest).adjusted(12, 88, -12, 2));
+    painter.drawEllipse(scaled(hollow, growth_).translated(stage_->pos()));
   }
 }
 

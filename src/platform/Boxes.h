@@ -25,9 +25,10 @@ class Boxes {
   /// A box with the buttons "Evet" (first, default) and "Hayır" and the question icon; true for
   /// Yes. Esc or closing it is No.
   virtual bool ask(const std::string& text, const std::string& title = standardTitle) = 0;
-  /// A box with one line to type into; the line, or an empty text when the user cancelled.
+  /// A box with one line to type into, which holds `preset` at first; while it is empty it shows
+  /// `example` in grey. Returns the line, or an empty text when the user cancelled.
   virtual std::string input(const std::string& prompt, const std::string& title,
-                            const std::string& preset) = 0;
+                            const std::string& preset, const std::string& example) = 0;
   virtual void beep() = 0;
   virtual void pointer(Pointer shape) = 0;
 

@@ -18,6 +18,8 @@ class TextSurface {
   virtual void currentX(double twips) = 0;
   virtual void currentY(double twips) = 0;
   virtual void foreColor(QBColor colour) = 0;
+  /// Makes the letters `percent` as wide as their font has them, 100 at first.
+  virtual void letterWidth(int percent) = 0;
   /// Prints at the current position and stays behind the text.
   virtual void print(const std::string& text) = 0;
   /// Prints and goes to the start (x = 0) of the next line.

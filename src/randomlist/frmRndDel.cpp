@@ -1,12 +1,12 @@
 #include "randomlist/frmRndDel.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "core/Numbers.h"
+#include "platform/qt/NumberBox.h"
 #include "platform/qt/Text.h"
-#include "platform/qt/TextBox.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ frmRndDel::frmRndDel(Surroundings& around)
     : Form(around.windows, "frmRndDel"),
       deletion_(around),
       Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
-      Text1(control<TextBox>(u"Text1"_s)),
+      Text1(control<NumberBox>(u"Text1"_s)),
       Command1(command("Command1", u"Tamam", u"", [this] { Command1_Click(); })),
       Command2(command("Command2", u"İptal", u"", [this] { Command2_Click(); })) {
   setCaption(" Kolon Silme");
@@ -27,16 +27,11 @@ frmRndDel::frmRndDel(Surroundings& around)
 
 void frmRndDel::buildLayout() {
   Label1->setBuddy(Text1);
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(18, 16, 18, 16);
-  grid->setVerticalSpacing(12);
-  grid->setHorizontalSpacing(8);
-  grid->addWidget(Label1, 0, 0, 1, 3);
-  grid->addWidget(Text1, 1, 0, 1, 3);
-  grid->setColumnStretch(0, 1);
-  grid->addWidget(Command1, 2, 1);
-  grid->addWidget(Command2, 2, 2);
-  grid->setSizeConstraint(QLayout::SetFixedSize);
+  auto* whole = new QVBoxLayout(this);
+  whole->setSizeConstraint(QLayout::SetFixedSize);
+  whole->addWidget(Label1);
+  whole->addWidget(Text1);
+  whole->addLayout(commandRow({Command1, Command2}));
 }
 
 void frmRndDel::Form_Load() {
@@ -55,7 +50,7 @@ void frmRndDel::Command1_Click() {
   if (deletion_.remove(DelNo)) {
     unload();
   } else {
-    Text1->setFocus();
+    Text1->askAgain();
   }
 }
 

@@ -5,10 +5,11 @@
 #include "randomlist/ColumnDeletion.h"
 
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 namespace karvenis {
+
+class NumberBox;
 
 /// The dialog that deletes one random column by its number. The list behind it stays usable, so
 /// that the user can look the number up.
@@ -32,7 +33,7 @@ class frmRndDel final : public Form {
   ColumnDeletion deletion_;
 
   QLabel* Label1;         // "Silmek istediğiniz kolon numarasını girin."
-  QLineEdit* Text1;       // the column's number
+  NumberBox* Text1;       // the column's number
   QPushButton* Command1;  // "Tamam": deletes the column and closes
   QPushButton* Command2;  // "İptal": closes
 };

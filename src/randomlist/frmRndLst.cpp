@@ -1,41 +1,22 @@
 #include "randomlist/frmRndLst.h"
 
-#include <QVBoxLayout>
-#include <algorithm>
-
-#include "platform/qt/Surface.h"
 #include "randomlist/RandomColumnFile.h"
 #include "randomlist/RandomColumnList.h"
 
 namespace karvenis {
 
 frmRndLst::frmRndLst(Surroundings& around)
-    : Form(around.windows, "frmRndLst"), around_(around), surface_(new Surface(this)) {
+    : PageForm(around.windows, "frmRndLst", rowsOnPage), around_(around) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
-  auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(surface_);
-  surface_->setFocusPolicy(Qt::StrongFocus);
-  surface_->setFocus();
-  const double edge = std::max(widestRow(*surface_), titleEdge);
-  surface_->setMinimumSize(surface_->sizeFor(pageMargin, rowsOnPage, edge));
+  surface().fix(pageMargin, fitRows(surface()));
 }
 
 void frmRndLst::Form_Activate() { showFirstPage(); }
 void frmRndLst::Form_Resize() { showFirstPage(); }
 
-void frmRndLst::Form_Click() {
-  page_.click();
-  redraw();
-}
-
-void frmRndLst::Form_KeyDown(int KeyCode, int) {
-  if (KeyCode == keyEscape) {
-    unload();
-    return;
-  }
+bool frmRndLst::command(int KeyCode) {
   runCommand(KeyCode);
-  redraw();
+  return true;
 }
 
 void frmRndLst::runCommand(int KeyCode) {
@@ -64,8 +45,8 @@ void frmRndLst::showFirstPage() {
 }
 
 void frmRndLst::redraw() {
-  ShowRndPage(around_, page_, *surface_, *this);
-  surface_->setPage(page_.PageNo);
+  ShowRndPage(around_, page_, surface(), *this);
+  surface().setPage(page_.PageNo);
 }
 
 }  // namespace karvenis

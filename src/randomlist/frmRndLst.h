@@ -2,15 +2,12 @@
 
 #include "core/ListPage.h"
 #include "core/Surroundings.h"
-#include "platform/qt/Form.h"
+#include "platform/qt/PageForm.h"
 
 namespace karvenis {
 
-class Surface;
-
-/// The list of random columns: pages through the file and carries the commands on all of it. It has
-/// no controls; it prints on its own surface.
-class frmRndLst final : public Form {
+/// The list of random columns: pages through the file and carries the commands on all of it.
+class frmRndLst final : public PageForm {
   Q_OBJECT
 
  public:
@@ -19,17 +16,16 @@ class frmRndLst final : public Form {
   void Form_Activate() override;
 
  protected:
-  void Form_KeyDown(int KeyCode, int Shift) override;
-  void Form_Click() override;
   void Form_Resize() override;
+  bool command(int KeyCode) override;
+  void nextPage() override { page_.click(); }
+  void redraw() override;
 
  private:
   void runCommand(int KeyCode);
   void showFirstPage();
-  void redraw();
 
   Surroundings& around_;
-  Surface* surface_;
   ListPage page_;
 };
 

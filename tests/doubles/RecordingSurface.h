@@ -19,6 +19,7 @@ class RecordingSurface final : public TextSurface {
   std::vector<Run> runs;
   int cleared = 0;
   double charWidth = 100;
+  int percent = 100;  ///< of its width that each character has
 
   /// The texts of the lines, each run behind the other.
   std::vector<std::string> lines() const {
@@ -39,9 +40,10 @@ class RecordingSurface final : public TextSurface {
   void currentX(double twips) override { x_ = twips; }
   void currentY(double twips) override { y_ = twips; }
   void foreColor(QBColor colour) override { colour_ = colour; }
+  void letterWidth(int width) override { percent = width; }
   void print(const std::string& text) override {
     runs.push_back({x_, y_, colour_, text});
-    x_ += charWidth * static_cast<double>(text.size());
+    x_ += charWidth * percent / 100 * static_cast<double>(text.size());
   }
   void printLine(const std::string& text) override {
     if (!text.empty()) print(text);

@@ -35,9 +35,9 @@ class ScriptedBoxes final : public Boxes {
     return *this;
   }
   ScriptedBoxes& expectInput(std::string prompt, std::string title, std::string preset,
-                             std::string answer) {
+                             std::string answer, std::string example = {}) {
     script_.push_back({"input", std::move(prompt), std::move(title), Icon::none, std::move(answer),
-                       std::move(preset)});
+                       std::move(preset), std::move(example)});
     return *this;
   }
   /// Whether all of the script has been played.
@@ -49,9 +49,9 @@ class ScriptedBoxes final : public Boxes {
   bool ask(const std::string& text, const std::string& title) override {
     return play({"question", text, title, Icon::question, {}, {}}) == "Yes";
   }
-  std::string input(const std::string& prompt, const std::string& title,
-                    const std::string& preset) override {
-    return play({"input", prompt, title, Icon::none, {}, preset});
+  std::string input(const std::string& prompt, const std::string& title, const std::string& preset,
+                    const std::string& example) override {
+    return play({"input", prompt, title, Icon::none, {}, preset, example});
   }
   void beep() override {
     play({.kind = "beep"});
@@ -74,10 +74,11 @@ class ScriptedBoxes final : public Boxes {
     Icon icon = Icon::none;
     std::string answer{};
     std::string preset{};
+    std::string example{};
 
     std::string told() const {
-      return kind + " [" + title + "] «" + text + "» preset «" + preset + "» icon " +
-             std::to_string(static_cast<int>(icon));
+      return kind + " [" + title + "] «" + text + "» preset «" + preset + "» example «" + example +
+             "» icon " + std::to_string(static_cast<int>(icon));
     }
   };
 

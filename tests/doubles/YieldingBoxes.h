@@ -18,7 +18,8 @@ class YieldingBoxes final : public Boxes {
     question = text;
     return says;
   }
-  std::string input(const std::string&, const std::string&, const std::string&) override {
+  std::string input(const std::string&, const std::string&, const std::string&,
+                    const std::string&) override {
     return typed;
   }
   void beep() override {}

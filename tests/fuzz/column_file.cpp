@@ -18,6 +18,7 @@ class NoSurface final : public TextSurface {
   void currentX(double) override {}
   void currentY(double) override {}
   void foreColor(QBColor) override {}
+  void letterWidth(int) override {}
   void print(const std::string&) override {}
   void printLine(const std::string&) override {}
 };

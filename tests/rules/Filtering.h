@@ -72,8 +72,15 @@ bool run(Filter filter, TheWorld& world) {
   return filterList(filter, world.around, page, world.title);
 }
 
+/// What the input box shows in grey while it is empty.
+inline const char* exampleOf(Filter filter) {
+  constexpr const char* examples[] = {"örnek: 5,12,30", "örnek: 7,20", "örnek: 5-12",
+                                      "örnek: 3-7,12-40"};
+  return examples[static_cast<std::size_t>(filter)];
+}
+
 inline void expectInput(World& world, Filter filter, const std::string& typed) {
-  world.boxes.expectBeep().expectInput(promptOf(filter), "Kolon SİLME", "", typed);
+  world.boxes.expectBeep().expectInput(promptOf(filter), "Kolon SİLME", "", typed, exampleOf(filter));
 }
 
 }  // namespace karvenis

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 #include "doubles/Doubles.h"
 #include "doubles/RecordingSurface.h"
@@ -263,11 +264,38 @@ TEST(DrawPage, BytesMissingFromTheLastRecordAre0) {
   EXPECT_EQ(world.surface.lines().back(), "Kolon - 2 :  257   257   257   0   0   0  [ 771 ]");
 }
 
-TEST(WidestRow, HoldsTheLongestNumberAndSum) {
+TEST(FitRows, LeavesLettersAsTheyAreThatKeepTheBallsInOneColumn) {
   RecordingSurface surface;
+  surface.charWidth = 93;  // "Kolon - 8888 : " is 15 characters: 200 + 15 x 93 < 1600
+  std::ignore = fitRows(surface);
+  EXPECT_EQ(surface.percent, 100);
+}
+
+TEST(FitRows, NarrowsWiderLettersUntilFourDigitsKeepTheBallsInOneColumn) {
+  RecordingSurface surface;
+  std::ignore = fitRows(surface);
+  EXPECT_EQ(surface.percent, 93) << "200 + 1500 x 93 % < 1600";
+}
+
+TEST(FitRows, LeavesLettersReadable) {
+  RecordingSurface surface;
+  surface.charWidth = 300;
+  std::ignore = fitRows(surface);
+  EXPECT_EQ(surface.percent, 75);
+}
+
+TEST(FitRows, HaveRoomForTheLongestNumberAndSum) {
+  RecordingSurface surface;
+  surface.charWidth = 200;  // of which 75 % are left
   // "Kolon - 2147483647 : " is 21 characters, "[ 0-32768 ]" is 11.
-  EXPECT_DOUBLE_EQ(widestRow(surface), 200 + 2100 + 75 + 2500 + 1100);
+  EXPECT_DOUBLE_EQ(fitRows(surface), 200 + 21 * 150 + 75 + 2500 + 11 * 150);
   EXPECT_TRUE(surface.runs.empty());
+}
+
+TEST(FitRows, HaveRoomForTheTitle) {
+  RecordingSurface surface;
+  surface.charWidth = 10;
+  EXPECT_DOUBLE_EQ(fitRows(surface), titleEdge);
 }
 
 }  // namespace

@@ -6,10 +6,10 @@
 #include "AllWindows.h"
 #include "doubles/Doubles.h"
 #include "doubles/Sets.h"
-#include "windows/WindowTest.h"
+#include "windows/BigLetters.h"
 
-// No text of any window is cut, with letters up to twice as large as usual. The tests run this once
-// more for each scale of the screen (see tests/CMakeLists.txt).
+// No text of any window is cut and no window is larger than the screen, with letters up to twice as
+// large as usual. The tests run this once more for each scale of the screen (tests/CMakeLists.txt).
 
 namespace karvenis {
 namespace {
@@ -25,40 +25,7 @@ void expectFits(const QWidget& control, const QString& text, const QRect& room) 
       << control.objectName().toStdString() << ": " << text.toStdString();
 }
 
-class Fit : public WindowTest, public testing::WithParamInterface<std::tuple<const char*, double>> {
- protected:
-  const QFont usual_ = QApplication::font();
-
-  void SetUp() override {
-    QFont larger = usual_;
-    larger.setPointSizeF(usual_.pointSizeF() * std::get<double>(GetParam()));
-    QApplication::setFont(larger);
-    addWindows(forms, around);
-    const ColumnRecord widest{-1, column(44, 45, 46, 47, 48, 49)};
-    world.files.folder["KARVENIS.RND"] = columnBytes(std::vector<ColumnRecord>(12345, widest));
-    world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];
-    setBanko(world.state, {45, 46, 47, 48, 49});
-  }
-  /// Lets the coupon type itself to its end.
-  static void typeWhole(Form* coupon) {
-    auto* timer = control<QTimer>(coupon, "Timer1");
-    timer->setInterval(0);
-    EXPECT_TRUE(waitFor([timer] { return !timer->isActive(); }));
-  }
-  void TearDown() override {
-    WindowTest::TearDown();
-    QApplication::setFont(usual_);
-  }
-};
-
-TEST_P(Fit, NoTextIsCut) {
-  const std::string name = std::get<const char*>(GetParam());
-  if (name == "frmRndDel") world.boxes.expectBeep();
-  if (name == "frmList") world.boxes.expectBeep(48);
-  Form* form = open(name.c_str());
-  ASSERT_NE(form, nullptr);
-  press(form, Qt::Key_End);
-  if (name == "frmList") typeWhole(form);
+void expectNothingCut(const Form* form) {
   for (const QWidget* control : form->findChildren<QWidget*>()) {
     if (!control->isVisible()) continue;
     if (const auto* label = qobject_cast<const QLabel*>(control)) {
@@ -82,17 +49,103 @@ TEST_P(Fit, NoTextIsCut) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, Fit,
-                         testing::Combine(testing::Values("frmLoto", "frmBalls", "frmBanko",
-                                                          "frmList", "frmRndLst", "frmRndDel",
-                                                          "frmRLPrint", "frmRnd", "frmComLst",
-                                                          "frmCLPrint"),
-                                          testing::Values(1.0, 1.5, 2.0)),
-                         [](const auto& row) {
-                           const int percent = static_cast<int>(std::get<double>(row.param) * 100);
-                           return std::string(std::get<const char*>(row.param)) + "_" +
-                                  std::to_string(percent);
-                         });
+/// A test with all windows over long lists.
+class LettersTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    addWindows(forms, around);
+    const ColumnRecord widest{-1, column(44, 45, 46, 47, 48, 49)};
+    world.files.folder["KARVENIS.RND"] = columnBytes(std::vector<ColumnRecord>(12345, widest));
+    world.files.folder["KARVENIS.LST"] = world.files.folder["KARVENIS.RND"];
+    setBanko(world.state, {45, 46, 47, 48, 49});
+  }
+  Form* openOver(const char* name) {
+    if (name == std::string_view("frmRndDel")) world.boxes.expectBeep();
+    if (name == std::string_view("frmList")) world.boxes.expectBeep(48);
+    return open(name);
+  }
+  /// Lets the coupon type itself to its end.
+  static void typeWhole(Form* coupon) {
+    auto* timer = control<QTimer>(coupon, "Timer1");
+    timer->setInterval(0);
+    EXPECT_TRUE(waitFor([timer] { return !timer->isActive(); }));
+  }
+};
+
+using Surrounding = std::tuple<const char*, const char*, double>;  // window, letters, their growth
+
+class Fit : public LettersTest, public testing::WithParamInterface<Surrounding> {};
+
+TEST_P(Fit, NoTextIsCut) {
+  const auto& [name, family, growth] = GetParam();
+  const BigLetters letters(family, growth);
+  Form* form = openOver(name);
+  ASSERT_NE(form, nullptr);
+  press(form, Qt::Key_End);
+  if (name == std::string_view("frmList")) typeWhole(form);
+  expectNothingCut(form);
+  EXPECT_TRUE(fitsOnScreen(*form)) << form->width() << " x " << form->height();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, Fit,
+    testing::Combine(testing::Values("frmLoto", "frmBalls", "frmBanko", "frmList", "frmRndLst",
+                                     "frmRndDel", "frmRLPrint", "frmRnd", "frmComLst",
+                                     "frmCLPrint"),
+                     testing::Values("DejaVu Sans", "Noto Sans"), testing::Values(1.0, 1.5, 2.0)),
+    [](const auto& row) {
+      const std::string family = std::get<1>(row.param);
+      const int percent = static_cast<int>(std::get<2>(row.param) * 100);
+      return std::string(std::get<0>(row.param)) + "_" + family.substr(0, family.find(' ')) + "_" +
+             std::to_string(percent);
+    });
+
+class LettersFit : public LettersTest, public testing::WithParamInterface<const char*> {
+ protected:
+  /// How large what the windows are about is shown, in pixels.
+  std::map<std::string, int> sizes(double growth) {
+    const BigLetters letters(GetParam(), growth);
+    std::map<std::string, int> all;
+    const std::pair<const char*, std::vector<const char*>> things[] = {
+        {"frmLoto", {"Label1_0", "Label1_1", "Command1", "Label2", "Label3"}},
+        {"frmBalls", {"cmdBall_1"}},
+        {"frmBanko", {"Text1_0"}},
+        {"frmRndLst", {"Surface"}},
+    };
+    for (const auto& [name, controls] : things) {
+      Form* form = open(name);
+      for (const char* thing : controls) {
+        all[std::string(name) + "." + thing] = control(form, thing)->font().pixelSize();
+      }
+      form->unload();
+    }
+    settle();
+    return all;
+  }
+};
+
+TEST_P(LettersFit, WhatTheProgramIsAboutGrowsWithTheDesktopsLetters) {
+  const auto usual = sizes(1);
+  for (const auto& [thing, pixels] : sizes(2)) {
+    EXPECT_GE(pixels, 1.25 * usual.at(thing)) << thing << ": as large as the screen has room for";
+  }
+}
+
+TEST_P(LettersFit, TheBannerReachesFromEdgeToEdge) {
+  for (const double growth : {1.0, 1.5, 2.0}) {
+    const BigLetters letters(GetParam(), growth);
+    Form* main = open("frmLoto");
+    const QWidget* banner = control(main, "Picture3");
+    EXPECT_EQ(banner->parentWidget()->width(), main->width());
+    const double farthestLeft = 203.0 * banner->width() / 984;  // 3000 twips and a step beyond
+    EXPECT_GE(banner->width() - farthestLeft, main->width()) << growth;
+    main->unload();
+    settle();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Letters, LettersFit, testing::Values("DejaVu Sans", "Noto Sans"),
+                         [](const auto& row) { return std::string(row.param).substr(0, 4); });
 
 }  // namespace
 }  // namespace karvenis

@@ -373,8 +373,9 @@ TEST_F(FormsTest, AFaultWhileAWindowLoadsShowsNoWindowAndIsTheStatus) {
   };
   Forms own{world.boxes};
   own.add("frmBroken", [&own] { return new Broken(own); });
-  world.boxes.expectMessage("'KV2005.CFG' dosyası açılamadı.\rNeden: Erişim izni yok.", "! HATA !",
-                            Icon::critical);
+  world.boxes.expectMessage(
+      "'KV2005.CFG' dosyası açılamadı.\rNeden: Erişim izni yok.\r\rProgram kapanacak.", "! HATA !",
+      Icon::critical);
   EXPECT_EQ(own.run(), 1);
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
 }
@@ -419,8 +420,9 @@ TEST_F(FormsTest, ADoubleClickIsOneClickAndOneDoubleClick) {
 TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
   Noting* a = show("frmA");
   a->onKey = [] { throw RunTimeError(Fault::write, "KARVENIS.RND", "Diskte yer kalmadı."); };
-  world.boxes.expectMessage("'KARVENIS.RND' dosyasına yazılamadı.\rNeden: Diskte yer kalmadı.",
-                            "! HATA !", Icon::critical);
+  world.boxes.expectMessage(
+      "'KARVENIS.RND' dosyasına yazılamadı.\rNeden: Diskte yer kalmadı.\r\rProgram kapanacak.",
+      "! HATA !", Icon::critical);
   press(a, Qt::Key_F1);
   EXPECT_TRUE(forms.ending());
   EXPECT_EQ(world.boxes.pointers, (std::vector<Pointer>{Pointer::normal}));
@@ -430,8 +432,9 @@ TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
 TEST_F(FormsTest, AnyExceptionIsAFault) {
   Noting* a = show("frmA");
   a->onKey = [] { throw std::bad_alloc(); };
-  world.boxes.expectMessage("Beklenmeyen bir hata oluştu.\rNeden: std::bad_alloc", "! HATA !",
-                            Icon::critical);
+  world.boxes.expectMessage(
+      "Beklenmeyen bir hata oluştu.\rNeden: std::bad_alloc\r\rProgram kapanacak.", "! HATA !",
+      Icon::critical);
   press(a, Qt::Key_F1);
   EXPECT_TRUE(forms.ending());
 }

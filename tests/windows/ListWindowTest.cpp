@@ -1,7 +1,9 @@
 #include "windows/ListWindowTest.h"
 
 #include "comblist/frmComLst.h"
+#include "platform/qt/Look.h"
 #include "randomlist/frmRndLst.h"
+#include "windows/BigLetters.h"
 
 // What the windows of the kept columns and of the combination list do alike.
 
@@ -13,6 +15,25 @@ class ListWindows : public ListWindowTest, public testing::WithParamInterface<co
   ListWindows() : ListWindowTest(*GetParam()) {
     add<frmRndLst>("frmRndLst");
     add<frmComLst>("frmComLst");
+  }
+  Surface* page() const { return list->findChild<Surface*>(); }
+  /// How far from the left the first ball of each row stands, in pixels.
+  std::vector<int> ballColumn() const {
+    const QImage image = page()->grab().toImage();
+    std::vector<int> starts;
+    for (std::size_t row = 0; row < page()->lines().size(); ++row) {
+      const QRect place(page()->lineRect(row).topLeft() * image.devicePixelRatio(),
+                        page()->lineRect(row).size() * image.devicePixelRatio());
+      int left = image.width();
+      for (int y = place.top(); y < place.bottom(); ++y) {
+        for (int x = 0; x < left; ++x) {
+          const QColor colour = image.pixelColor(x, y);
+          if (colour.blue() > 200 && colour.red() < 128 && colour.green() < 128) left = x;
+        }
+      }
+      starts.push_back(left);
+    }
+    return starts;
   }
 };
 
@@ -103,8 +124,67 @@ TEST_P(ListWindows, AltF4IsNoCommand) {
   EXPECT_EQ(shown().size(), 3U);
 }
 
+TEST_P(ListWindows, TwentyFiveRowsAndTheLongestOneFit) {
+  openOver(60);
+  EXPECT_LE(page()->lineRect(24).bottom(), page()->height());
+  EXPECT_LE(page()->pixels(fitRows(*page())), page()->width());
+  EXPECT_EQ(list->size(), page()->size());
+  list->resize(10, 10);
+  EXPECT_EQ(list->size(), page()->size()) << "the page is always whole";
+}
+
+TEST_P(ListWindows, ThePageKeepsItsSizeInTheUpperMiddleOfALargerWindow) {
+  openOver(60);
+  const QSize size = page()->size();
+  const double twip = page()->pixels(1);
+  list->resize(1000, 700);
+  EXPECT_EQ(page()->size(), size);
+  EXPECT_EQ(page()->pixels(1), twip);
+  const QRect place = page()->geometry();
+  EXPECT_NEAR(place.left(), list->width() - place.right() - 1, 1);
+  EXPECT_GT(place.top(), 0);
+  EXPECT_LT(place.top(), list->height() - place.bottom());
+  const QImage image = list->grab().toImage();
+  EXPECT_EQ(image.pixelColor(5, 5), QColor(look::ground));
+  EXPECT_EQ(image.pixelColor(place.topLeft() + QPoint(3, 3)), QColor(Qt::white));
+  click(list, {5, 5});
+  EXPECT_TRUE(showsFrom(26, 25)) << "a click beside the page is one on the window";
+}
+
+TEST_P(ListWindows, TheBallsOfRecordsUpTo9999StandInOneColumn) {
+  for (const char* family : {"DejaVu Sans", "Noto Sans"}) {
+    for (const double growth : {1.0, 2.0}) {
+      SCOPED_TRACE(std::string(family) + " " + std::to_string(growth));
+      const BigLetters letters(family, growth);
+      world.files.folder[GetParam()->file] =
+          columnBytes(std::vector<ColumnRecord>(10000, {1, column(8, 10, 12, 14, 16, 18)}));
+      list = open(GetParam()->form);
+      const int first = ballColumn().front();
+      for (int i = 0; i < 39; ++i) press(list, Qt::Key_PageDown);
+      ASSERT_TRUE(shown().back().starts_with("Kolon - 1000 : "));
+      EXPECT_EQ(ballColumn(), std::vector<int>(25, first));
+      press(list, Qt::Key_End);
+      press(list, Qt::Key_Up);
+      ASSERT_TRUE(shown().back().starts_with("Kolon - 9999 : "));
+      EXPECT_EQ(ballColumn(), std::vector<int>(25, first));
+      if (growth == 1) {
+        EXPECT_EQ(page()->font().pixelSize(), 13) << "9.75 points";
+      }
+      list->unload();
+      settle();
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Both, ListWindows, testing::Values(&keptList, &combinations),
                          [](const auto& row) { return std::string(row.param->form); });
+
+TEST_F(WindowTest, BothListWindowsHaveOneWidth) {
+  world.files.folder[randomColumns] = world.files.folder[combinationList] = countedColumns(1);
+  add<frmRndLst>("frmRndLst");
+  add<frmComLst>("frmComLst");
+  EXPECT_EQ(open("frmRndLst")->size(), open("frmComLst")->size());
+}
 
 }  // namespace
 }  // namespace karvenis

@@ -2,39 +2,158 @@
 
 #include <gtest/gtest.h>
 
+#include <QDirIterator>
+#include <QScrollBar>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QTextLayout>
 #include <QTimer>
+
+#include "bag/Texts.h"
+#include "main/Texts.h"
+#include "platform/qt/Look.h"
+#include "platform/qt/Text.h"
+#include "windows/BigLetters.h"
+
+// Real boxes on the screen.
 
 namespace karvenis {
 namespace {
 
-/// Answers the box that opens and tells what it showed.
-struct Shown {
-  QString text;
-  int missingHeight = 0;  // pixels that the text lacks
-  int missingWidth = 0;
-};
-
-Shown answered(const std::string& text) {
-  Shown shown;
-  QTimer look;
-  look.setInterval(0);
-  QObject::connect(&look, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+/// Opens a box with `open`, lets `look` see it, and refuses it.
+template <typename Box>
+void seeing(const std::function<void()>& open, const std::function<void(Box&)>& look) {
+  QTimer timer;
+  timer.setInterval(0);
+  bool seen = false;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
     if (box == nullptr || !box->isVisible()) return;
-    look.stop();
-    auto* label = box->findChild<QLabel*>("qt_msgbox_label");
-    const QRect room = label->contentsRect();
-    const QRect needed = label->fontMetrics().boundingRect(
-        QRect(0, 0, room.width(), 10000), Qt::TextWordWrap | Qt::AlignLeft, box->text());
-    shown = {box->text(), needed.height() - room.height(), needed.width() - room.width()};
+    timer.stop();
+    look(*box);
+    seen = true;
     box->reject();
   });
-  look.start();
-  QtBoxes().message(text, "KARVENIS 2005 Randomizer", Icon::none);
-  return shown;
+  timer.start();
+  open();
+  EXPECT_TRUE(seen);
 }
+
+void message(const QString& text, Icon icon, const std::function<void(QMessageBox&)>& look) {
+  seeing<QMessageBox>([&] { QtBoxes().message(fromQt(text), "KARVENIS 2005 Randomizer", icon); },
+                      look);
+}
+void question(const QString& text, const std::function<void(QMessageBox&)>& look) {
+  seeing<QMessageBox>([&] { QtBoxes().ask(fromQt(text), standardTitle); }, look);
+}
+
+QLabel& textOf(const QMessageBox& box) { return *box.findChild<QLabel*>("qt_msgbox_label"); }
+QScrollArea& scrollerOf(const QMessageBox& box) { return *box.findChild<QScrollArea*>(); }
+bool scrolls(const QMessageBox& box) {
+  return textOf(box).height() > scrollerOf(box).viewport()->height();
+}
+
+/// All of the text is shown or can be scrolled to, and the buttons are there.
+void expectWhole(const QMessageBox& box) {
+  SCOPED_TRACE(box.text().left(60).toStdString());
+  EXPECT_TRUE(fitsOnScreen(box)) << box.width() << " x " << box.height();
+  EXPECT_TRUE(box.screen()->availableGeometry().contains(box.geometry()));
+  const QLabel& label = textOf(box);
+  const QRect needed = label.fontMetrics().boundingRect(
+      QRect(0, 0, label.width(), QWIDGETSIZE_MAX),
+      Qt::AlignLeft | (label.wordWrap() ? Qt::TextWordWrap : 0), box.text());
+  EXPECT_LE(needed.width(), label.width());
+  EXPECT_LE(needed.height(), label.height());
+  EXPECT_LE(label.width(), scrollerOf(box).viewport()->width());
+  for (const QAbstractButton* button : box.buttons()) {
+    EXPECT_TRUE(box.rect().contains(
+        button->geometry().translated(button->parentWidget()->mapTo(&box, QPoint()))));
+    EXPECT_GE(button->width(), button->minimumSizeHint().width());
+  }
+}
+
+/// Every text of the program: the strings of its source, joined as the compiler joins them.
+QStringList textsOfTheProgram() {
+  static const QRegularExpression joint("\"(_s)?\\s*\\n\\s*u?\"");
+  static const QRegularExpression string("\"((?:\\\\.|[^\"\\\\\\n])*)\"");
+  static const QRegularExpression words(
+      "[\\p{L}]{4}.*[ !çğıöşüÇĞİÖŞÜ]|[ !çğıöşüÇĞİÖŞÜ].*[\\p{L}]{4}");
+  QStringList texts;
+  QDirIterator files(KARVENIS_SOURCES, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) {
+    QFile file(files.next());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString code = QString::fromUtf8(file.readAll()).remove(joint);
+    for (auto all = string.globalMatch(code); all.hasNext();) {
+      const QString text = all.next().captured(1).replace("\\r", "\r").replace("\\\"", "\"");
+      if (words.match(text).hasMatch()) texts.append(text);
+    }
+  }
+  return texts;
+}
+
+/// The longest question: about every pair of numbers.
+QString allPairs() {
+  QStringList pairs;
+  for (int a = 1; a < 49; ++a) {
+    for (int b = a + 1; b <= 49; ++b) pairs.append(QStringLiteral("%1-%2").arg(a).arg(b));
+  }
+  return "'" + pairs.join(", ") +
+         "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?";
+}
+
+class BoxFit : public testing::TestWithParam<std::tuple<const char*, double>> {};
+
+TEST_P(BoxFit, EveryTextOfTheProgramHasRoom) {
+  const auto& [family, growth] = GetParam();
+  const BigLetters letters(family, growth);
+  const QStringList texts = textsOfTheProgram();
+  ASSERT_GT(texts.size(), 100);
+  for (const QString& text : texts) question(text, expectWhole);
+  const QString folder = QString("/home/a-long-name").repeated(12);
+  for (const QString& text :
+       {toQt(bagExplained), toQt(bankoExplained), toQt(aboutText(fromQt(folder))), allPairs()}) {
+    message(text, Icon::critical, expectWhole);
+  }
+}
+
+/// A question stands on one line as far as the screen has room; a broken one has no lonely word.
+TEST_P(BoxFit, NoQuestionEndsInALonelyWord) {
+  const auto& [family, growth] = GetParam();
+  const BigLetters letters(family, growth);
+  for (const QString& text : textsOfTheProgram()) {
+    if (text.contains('\r') || !text.contains("istiyormusunuz")) continue;
+    question(text, [&](const QMessageBox& box) {
+      const QLabel& label = textOf(box);
+      const int natural = label.fontMetrics().horizontalAdvance(box.text());
+      if (natural <= 700 * growth && natural <= 850) {
+        EXPECT_FALSE(label.wordWrap()) << text.toStdString();
+      }
+      QTextLayout layout(box.text(), label.font());
+      layout.beginLayout();
+      int words = 0;
+      for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(label.width());
+        words = static_cast<int>(
+                    box.text().mid(line.textStart(), line.textLength()).simplified().count(' ')) +
+                1;
+      }
+      layout.endLayout();
+      EXPECT_GT(words, 1) << text.toStdString();
+    });
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Letters, BoxFit,
+                         testing::Combine(testing::Values("DejaVu Sans", "Noto Sans"),
+                                          testing::Values(1.0, 2.0)),
+                         [](const auto& row) {
+                           return std::string(std::get<0>(row.param)).substr(0, 4) +
+                                  std::to_string(static_cast<int>(std::get<1>(row.param)));
+                         });
 
 // A filter's question about 49 numbers, which have no blank among them, was cut off behind some
 // thirty: the user agreed to a deletion that he could not read.
@@ -42,15 +161,84 @@ TEST(QtBoxes, ShowAListOfManyNumbersWhole) {
   QString text = "'1";
   for (int ball = 2; ball <= 49; ++ball) text += "," + QString::number(ball);
   text += "' numaralı topların yer aldığı kolonları silmek istiyormusunuz?";
-  Shown shown = answered(text.toStdString());
-  EXPECT_LE(shown.missingWidth, 0);
-  EXPECT_LE(shown.missingHeight, 0);
-  EXPECT_EQ(shown.text.remove(QChar(0x200B)), text);
+  question(text, [&](const QMessageBox& box) {
+    expectWhole(box);
+    EXPECT_EQ(box.text().remove(QChar(0x200B)), text);
+  });
 }
 
 TEST(QtBoxes, ShowAnOrdinaryTextAsItIs) {
-  const std::string text = "'5,12' numaralı topların yer aldığı kolonları silmek istiyormusunuz?";
-  EXPECT_EQ(answered(text).text.toStdString(), text);
+  const QString text = "'5,12' numaralı topların yer aldığı kolonları silmek istiyormusunuz?";
+  question(text, [&](const QMessageBox& box) { EXPECT_EQ(box.text(), text); });
+}
+
+TEST(QtBoxes, ATextThatIsTooHighIsScrolledByKeys) {
+  question(allPairs(), [](QMessageBox& box) {
+    ASSERT_TRUE(scrolls(box));
+    const QScrollBar* bar = scrollerOf(box).verticalScrollBar();
+    QTest::keyClick(box.windowHandle(), Qt::Key_PageDown);
+    EXPECT_GT(bar->value(), 0);
+    QTest::keyClick(box.windowHandle(), Qt::Key_PageUp);
+    EXPECT_EQ(bar->value(), 0);
+    QTest::keyClick(box.windowHandle(), Qt::Key_Tab);
+    QTest::keyClick(box.windowHandle(), Qt::Key_Tab);
+    EXPECT_TRUE(scrollerOf(box).hasFocus());
+    QTest::keyClick(box.windowHandle(), Qt::Key_Down);
+    EXPECT_GT(bar->value(), 0);
+  });
+}
+
+TEST(QtBoxes, ATextThatFitsHasNoScrollBar) {
+  question("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?", [](QMessageBox& box) {
+    EXPECT_FALSE(scrolls(box));
+    EXPECT_FALSE(scrollerOf(box).verticalScrollBar()->isVisible());
+    EXPECT_EQ(scrollerOf(box).focusPolicy(), Qt::NoFocus);
+  });
+}
+
+/// The colour of most of a box's icon that is neither light nor dark.
+QColor bodyOf(const QMessageBox& box) {
+  const QImage image = box.iconPixmap().toImage();
+  return image.pixelColor(image.width() / 2, image.height() * 15 / 100);
+}
+
+TEST(QtBoxes, HaveIconsOfTheirOwnThatSayWhatTheyAre) {
+  struct Row {
+    Icon icon;
+    QMessageBox::Icon kind;
+    int hue;
+  };
+  for (const Row& row : {Row{Icon::exclamation, QMessageBox::Warning, 40},
+                         Row{Icon::question, QMessageBox::Question, 180},
+                         Row{Icon::critical, QMessageBox::Critical, 12}}) {
+    message("X", row.icon, [&](const QMessageBox& box) {
+      EXPECT_EQ(box.icon(), row.kind);
+      EXPECT_NEAR(bodyOf(box).hue(), row.hue, 15);
+      const QSizeF shown = box.iconPixmap().deviceIndependentSize();
+      EXPECT_EQ(QSizeF(box.iconPixmap().size()), shown * box.devicePixelRatioF())
+          << "each pixel of the screen is drawn";
+    });
+  }
+}
+
+TEST(QtBoxes, KeepNoColumnForAMissingIcon) {
+  message("X", Icon::none, [](const QMessageBox& box) {
+    EXPECT_EQ(scrollerOf(box).x(), box.layout()->contentsMargins().left());
+  });
+}
+
+TEST(QtBoxes, AnInputShowsItsExampleOnlyWhileItIsEmpty) {
+  seeing<QInputDialog>(
+      [] {
+        EXPECT_EQ(QtBoxes().input("X", "Kolon SİLME", "", "örnek: 7,20"), "") << "never a text";
+      },
+      [](const QInputDialog& box) {
+        const auto* line = box.findChild<QLineEdit*>();
+        EXPECT_EQ(line->placeholderText(), "örnek: 7,20");
+        EXPECT_EQ(line->text(), "");
+        EXPECT_EQ(line->palette().color(QPalette::PlaceholderText), QColor(look::pale));
+        EXPECT_EQ(box.windowTitle(), "Kolon SİLME");
+      });
 }
 
 }  // namespace

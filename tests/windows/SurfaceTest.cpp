@@ -11,7 +11,7 @@ namespace {
 
 /// The colours that stand on a surface after `text` has been printed in `colour`.
 std::set<QRgb> colours(QBColor colour) {
-  Surface surface(nullptr);
+  Surface surface(nullptr, 1);
   surface.resize(400, 60);
   surface.currentX(200);
   surface.currentY(200);
@@ -58,7 +58,7 @@ void printPage(Surface& surface, int page) {
 
 TEST(SurfaceLines, AreItemsOfAListThatIsSpokenPageByPage) {
   installAccessibles();
-  Surface surface(nullptr);
+  Surface surface(nullptr, 25);
   printPage(surface, 1);
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&surface)->role(), QAccessible::List);
   EXPECT_EQ(line(surface, 0)->role(), QAccessible::ListItem);
@@ -74,7 +74,7 @@ TEST(SurfaceLines, AreItemsOfAListThatIsSpokenPageByPage) {
 
 TEST(SurfaceLines, AreOtherObjectsAfterEachRedraw) {
   installAccessibles();
-  Surface surface(nullptr);
+  Surface surface(nullptr, 25);
   printPage(surface, 1);
   const QAccessible::Id before = QAccessible::uniqueId(line(surface, 0));
   EXPECT_EQ(QAccessible::uniqueId(line(surface, 0)), before);

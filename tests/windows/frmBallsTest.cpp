@@ -39,6 +39,8 @@ class FrmBalls : public WindowTest {
       EXPECT_EQ(told->state().checked == 1, is) << number;
       if (is) all.push_back(number);
     }
+    EXPECT_EQ(fromQt(control<QLabel>(balls, "Label1")->text()),
+              std::to_string(all.size()) + " top işaretli");
     return all;
   }
   void mark(const Set& numbers) const {

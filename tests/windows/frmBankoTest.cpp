@@ -109,8 +109,32 @@ TEST_F(FrmBanko, TheFocusGoesWithTheChoiceUnlessItIsElsewhere) {
   setBanko(world.state, {30, 7});
   start();
   EXPECT_EQ(focused(), "Option3");
-  press(banko, Qt::Key_F8);
+  option(4)->setChecked(true);
   EXPECT_EQ(focused(), "Option5");
+  click(box(1));
+  option(2)->setChecked(true);
+  EXPECT_EQ(focused(), "Text1_1");
+}
+
+TEST_F(FrmBanko, AKeyThatChoosesTheCountLeadsToTheFirstEmptyBox) {
+  setBanko(world.state, {30, 7});
+  start();
+  press(banko, Qt::Key_F8);
+  EXPECT_EQ(focused(), "Text1_2");
+  type(banko, "5");
+  EXPECT_EQ(texts(), (QStringList{"30", "7", "5", "", ""}));
+  press(banko, Qt::Key_F8);
+  EXPECT_EQ(focused(), "Text1_3") << "also where the count stays";
+}
+
+TEST_F(FrmBanko, AKeyThatChoosesTheCountLeavesTheFocusWhereNoBoxIsEmpty) {
+  setBanko(world.state, {30, 7});
+  start();
+  press(banko, Qt::Key_F5);
+  EXPECT_EQ(focused(), "Option2");
+  press(banko, Qt::Key_F4);
+  EXPECT_EQ(focused(), "Option1") << "no box is to be seen";
+  press(banko, Qt::Key_F6);
   click(box(1));
   press(banko, Qt::Key_F6);
   EXPECT_EQ(focused(), "Text1_1");

@@ -29,9 +29,14 @@ class FrmComLst : public ListWindowTest {
     open("opener");
   }
   std::size_t records() const { return columnsOf(world.files.bytes(combinationList)).size(); }
-  void expectInput(const char* prompt, const char* typed, const char* preset = "") {
-    world.boxes.expectBeep().expectInput(prompt, "Kolon SİLME", preset, typed);
+  void expectNumber(const char* typed) {
+    world.boxes.expectBeep().expectInput("Silmek istediğiniz kolon numarasını girin.",
+                                         "Kolon SİLME", "0", typed);
   }
+  void expectFilter(const char* prompt, const char* example, const char* typed) {
+    world.boxes.expectBeep().expectInput(prompt, "Kolon SİLME", "", typed, example);
+  }
+  void expectUnwanted(const char* typed) { expectFilter(unwantedPrompt, "örnek: 5,12,30", typed); }
 };
 
 TEST_F(FrmComLst, CarriesItsDesignTitleUntilTheFirstRedraw) {
@@ -130,7 +135,7 @@ TEST_F(FrmComLst, ACopyRedraws) {
 
 TEST_F(FrmComLst, F3DeletesAndShowsTheColumnThatFollowed) {
   openOver(60);
-  expectInput("Silmek istediğiniz kolon numarasını girin.", "10", "0");
+  expectNumber("10");
   press(list, Qt::Key_F3);
   EXPECT_EQ(records(), 59U);
   EXPECT_TRUE(showsFrom(10, 25));
@@ -140,10 +145,10 @@ TEST_F(FrmComLst, F3DeletesAndShowsTheColumnThatFollowed) {
 TEST_F(FrmComLst, F3WithAWrongNumberMovesThePage) {
   openOver(60);
   press(list, Qt::Key_PageDown);
-  expectInput("Silmek istediğiniz kolon numarasını girin.", "99", "0");
+  expectNumber("99");
   press(list, Qt::Key_F3);
   EXPECT_TRUE(showsFrom(36, 25)) << "too large: the last page";
-  expectInput("Silmek istediğiniz kolon numarasını girin.", "-9", "0");
+  expectNumber("-9");
   press(list, Qt::Key_F3);
   EXPECT_TRUE(showsFrom(1, 25)) << "negative, or cancelled: the first page";
   EXPECT_EQ(records(), 60U);
@@ -168,31 +173,34 @@ TEST_F(FrmComLst, F4DeletesTheListAndKeepsThePage) {
 struct FilterKey {
   Qt::Key key;
   const char* prompt;
+  const char* example;
   const char* typed;
   const char* question;
 };
 
 TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
   const FilterKey keys[] = {
-      {Qt::Key_F5, unwantedPrompt, "6",
+      {Qt::Key_F5, unwantedPrompt, "örnek: 5,12,30", "6",
        "'6' numaralı topun yer aldığı kolonları silmek istiyormusunuz?"},
       {Qt::Key_F6,
        "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
        "(Herhangi biri olan kolonlar seçilecek.)",
-       "7,8,9",
+       "örnek: 7,20", "7,8,9",
        "'7,8,9' numaralı topların hiç birinin yer almadığı kolonları silmek "
        "istiyormusunuz?"},
       {Qt::Key_F7, "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
-       "7-1", "'1-7' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
+       "örnek: 5-12", "7-1",
+       "'1-7' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
       {Qt::Key_F8,
        "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin sayılarının "
        "arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak girin.",
-       "1-8", "'1-8'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"}};
+       "örnek: 3-7,12-40", "1-8",
+       "'1-8'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"}};
   const std::size_t left[] = {58, 6, 4, 2};
   openOver(60);
   for (std::size_t i = 0; i < 4; ++i) {
     SCOPED_TRACE(keys[i].question);
-    expectInput(keys[i].prompt, keys[i].typed);
+    expectFilter(keys[i].prompt, keys[i].example, keys[i].typed);
     world.boxes.expectQuestion(keys[i].question, true);
     press(list, keys[i].key);
     EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
@@ -204,7 +212,7 @@ TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
 
 TEST_F(FrmComLst, AFilterThatLeavesOneColumnShowsIt) {
   openOver(3);
-  expectInput(unwantedPrompt, "7,8");
+  expectUnwanted("7,8");
   world.boxes.expectQuestion("'7,8' numaralı topların yer aldığı kolonları silmek istiyormusunuz?",
                              true);
   press(list, Qt::Key_F5);
@@ -213,7 +221,7 @@ TEST_F(FrmComLst, AFilterThatLeavesOneColumnShowsIt) {
 
 TEST_F(FrmComLst, AFilterThatDeletesAllKeepsThePageUnderTheListsOwnTitle) {
   openOver(3);
-  expectInput(unwantedPrompt, "1");
+  expectUnwanted("1");
   world.boxes.expectQuestion("'1' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
                              true);
   press(list, Qt::Key_F5);
@@ -225,7 +233,7 @@ TEST_F(FrmComLst, AFilterThatDeletesAllKeepsThePageUnderTheListsOwnTitle) {
 TEST_F(FrmComLst, AnInputThatAsksForNothingKeepsThePage) {
   openOver(60);
   press(list, Qt::Key_PageDown);
-  expectInput(unwantedPrompt, "");
+  expectUnwanted("");
   press(list, Qt::Key_F5);
   EXPECT_TRUE(showsFrom(26, 25));
   EXPECT_EQ(world.files.folder.size(), 1U);
@@ -233,7 +241,7 @@ TEST_F(FrmComLst, AnInputThatAsksForNothingKeepsThePage) {
 
 TEST_F(FrmComLst, KeysThatCameDuringAFilterAreNoCommandsAfterIt) {
   openOver(60);
-  expectInput(unwantedPrompt, "49");
+  expectUnwanted("49");
   world.boxes.expectQuestion("'49' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
                              true);
   world.boxes.whileOpen = [&] {
@@ -251,13 +259,6 @@ TEST_F(FrmComLst, PaintingReadsNoFile) {
   list->repaint();
   EXPECT_TRUE(world.files.folder.empty());
   EXPECT_TRUE(showsFrom(1, 25));
-}
-
-TEST_F(FrmComLst, TwentyFiveRowsAndTheLongestOneFit) {
-  openOver(60);
-  auto* surface = list->findChild<Surface*>();
-  EXPECT_LE(surface->lineRect(24).bottom(), surface->height());
-  EXPECT_LE(surface->pixels(widestRow(*surface)), surface->width());
 }
 
 }  // namespace

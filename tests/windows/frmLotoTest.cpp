@@ -1,5 +1,6 @@
 #include "main/frmLoto.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -7,6 +8,7 @@
 #include "core/Draw.h"
 #include "doubles/Sets.h"
 #include "main/Texts.h"
+#include "main/widgets/Picture.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {
@@ -24,6 +26,7 @@ class FrmLoto : public WindowTest {
     return control<QLabel>(loto, QStringLiteral("Label1_%1").arg(index));
   }
   QWidget* image(int index) const { return control(loto, QStringLiteral("Image1_%1").arg(index)); }
+  QString focused() const { return loto->focusWidget()->objectName(); }
   bool hidden(const char* name) const { return control(loto, QLatin1String(name))->isHidden(); }
   std::string caption(int index) const { return fromQt(number(index)->text()); }
   void pressKolon() { click(control(loto, "Command1")); }
@@ -332,10 +335,14 @@ TEST_F(FrmLoto, F10ListsTheKeysWithoutABeepAndAboutBeeps) {
       "çıkmasını mutlaka istediğiniz banko topları her kolona ekler, kolonları gösterir ve "
       "listeler.\r\r"
       "KARVENIS 2005 Randomizer, kuponunu elle dolduranlara yardım etmek için yazılmış, bağımsız "
-      "bir masaüstü programıdır. Kolonlarınız yalnızca sizin bilgisayarınızda durur.\r\r"
+      "bir masaüstü programıdır. Kolonlarınız yalnızca sizin bilgisayarınızda durur.\r"
+      "Sürüm: " KARVENIS_VERSION
+      "\r"
+      "Lisans: MIT, resimler CC0-1.0\r"
+      "Kılavuz: /usr/share/doc/karvenis/KULLANIM.html (paketle kurulunca)\r"
+      "Dosyaların durduğu klasör: /memory\r\r"
       "Tam formüllü kombinasyon listeleri için, bu programın yanında, yapımcının formül programını "
-      "kullanmanızı öneririz.\r"
-      "Dosyaların durduğu klasör: /memory",
+      "kullanmanızı öneririz.",
       " KARVENIS 2005 Randomizer Hakkında");
   trigger(loto, "mnuAbout");
 }
@@ -367,6 +374,68 @@ TEST_F(FrmLoto, TellsByNameWhatIsNoText) {
   click(control(loto, "Check1"));
   EXPECT_EQ(number(10)->accessibleName(), "6. top: 9");
   EXPECT_EQ(number(1)->accessibleName(), "1. sayı: 1");
+}
+
+TEST_F(FrmLoto, TheOpeningPictureIsTheLastStopOfTab) {
+  EXPECT_EQ(focused(), "Command1") << "it takes no focus by itself";
+  std::vector<QString> stops;
+  for (int i = 0; i < 6; ++i) {
+    stops.push_back(focused());
+    press(loto, Qt::Key_Tab);
+  }
+  EXPECT_EQ(stops, (std::vector<QString>{"Command1", "Command2", "Picture0", "Option1", "Check1",
+                                         "Command1"}));
+}
+
+TEST_F(FrmLoto, SpaceOrEnterLiftsTheOpeningPictureAndTheFocusGoesToKolon) {
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+    control(loto, "Picture0")->show();
+    control(loto, "Picture0")->setFocus();
+    world.boxes.expectBeep();
+    press(loto, key);
+    EXPECT_TRUE(hidden("Picture0"));
+    EXPECT_EQ(focused(), "Command1");
+    EXPECT_FALSE(control<QTimer>(loto, "Timer1")->isActive()) << "the key draws nothing";
+  }
+}
+
+TEST_F(FrmLoto, TheOpeningPictureIsLiftedByItsAccessibleAction) {
+  auto* picture = QAccessible::queryAccessibleInterface(control(loto, "Picture0"));
+  EXPECT_EQ(picture->role(), QAccessible::Button);
+  world.boxes.expectBeep();
+  picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(waitFor([this] { return hidden("Picture0"); }));
+}
+
+TEST_F(FrmLoto, TheOpeningPictureThatComesBackLeavesTheFocus) {
+  uncover();
+  EXPECT_EQ(focused(), "Command1");
+  control(loto, "Check1")->setFocus();
+  world.clock.minuteOfHour = static_cast<std::int16_t>(world.clock.minuteOfHour + 1);
+  EXPECT_TRUE(waitFor([this] { return !hidden("Picture0"); }));
+  EXPECT_EQ(focused(), "Check1");
+  uncover();
+  EXPECT_EQ(focused(), "Check1") << "a click on the picture leaves it too";
+}
+
+// A drawing that stands in the program as pixels, and is shown at another size, would be rendered
+// at the start for nothing.
+TEST_F(FrmLoto, ShowsEachReadyMadeDrawingAtItsSize) {
+  QSet<QString> shown;
+  const auto note = [&](const QString& file, const QSize& size) {
+    shown.insert(
+        QStringLiteral("%1-%2x%3").arg(file.chopped(4)).arg(size.width()).arg(size.height()));
+  };
+  for (const auto* picture : loto->findChildren<Picture*>()) {
+    const bool covered = picture->parentWidget() == control(loto, "Picture0")->parentWidget();
+    if (picture->isVisible() && !covered) note(picture->file(), picture->size());
+  }
+  const auto* opening = control<PictureButton>(loto, "Picture0");
+  note(opening->file(), opening->size());
+  for (const QSize& size : QApplication::windowIcon().availableSizes()) note("karvenis.svg", size);
+  const QStringList ready = QDir(":/ready").entryList();
+  EXPECT_FALSE(ready.isEmpty());
+  EXPECT_EQ(shown, QSet<QString>(ready.begin(), ready.end()));
 }
 
 TEST_F(FrmLoto, MenuCaptionsAreTheProgramsOwn) {

@@ -123,17 +123,5 @@ TEST_F(FrmRndLst, PaintingReadsNoFile) {
   EXPECT_TRUE(showsFrom(1, 25));
 }
 
-TEST_F(FrmRndLst, TwentyFiveRowsAndTheLongestOneFit) {
-  openOver(60);
-  auto* surface = list->findChild<Surface*>();
-  const QSize least = list->minimumSizeHint();
-  EXPECT_GE(list->width(), least.width());
-  EXPECT_GE(list->height(), least.height());
-  EXPECT_LE(surface->lineRect(24).bottom(), surface->height());
-  EXPECT_LE(surface->pixels(widestRow(*surface)), surface->width());
-  list->resize(10, 10);
-  EXPECT_GE(list->height(), least.height());
-}
-
 }  // namespace
 }  // namespace karvenis

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QTemporaryFile>
 #include <QTimer>
 #include <cstdio>
 
@@ -25,10 +26,27 @@ class QuitCleared final : public testing::EmptyTestEventListener {
   }
 };
 
+/// The smallest screen that the program is made for, 1024 x 768 device independent pixels; returns
+/// the file that tells the offscreen platform so.
+std::unique_ptr<QTemporaryFile> smallScreen() {
+  const double scale = std::max(qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(), 1.0);
+  auto file = std::make_unique<QTemporaryFile>();
+  if (!file->open()) std::abort();
+  file->write(QStringLiteral("{\"screens\": [{\"name\": \"small\", \"x\": 0, \"y\": 0, "
+                             "\"width\": %1, \"height\": %2, \"logicalDpi\": 96, "
+                             "\"logicalBaseDpi\": 96, \"dpr\": 1}]}")
+                  .arg(1024 * scale)
+                  .arg(768 * scale)
+                  .toUtf8());
+  file->close();
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file->fileName().toUtf8());
+  return file;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const auto screen = smallScreen();
   testing::InitGoogleTest(&argc, argv);
   karvenis::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);

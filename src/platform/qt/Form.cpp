@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
@@ -82,6 +83,13 @@ QPushButton* Form::command(const char* name, QStringView text, QStringView tip,
   button->setToolTip(tip.toString());
   on(button, &QPushButton::clicked, std::move(procedure));
   return button;
+}
+
+QLayout* Form::commandRow(std::initializer_list<QPushButton*> buttons) {
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  for (QPushButton* button : buttons) row->addWidget(button);
+  return row;
 }
 
 QMenu* Form::menuHead(const char* menuName, const QString& text) {
@@ -182,9 +190,9 @@ bool Form::handleKey(const QKeyEvent& key) {
 /// Enter presses the button that has the focus and the space bar ticks an option too, however the
 /// desktop has it; the toolkit's own way would press again and again while the key is held.
 bool Form::pressesFocused(int code) const {
-  const QWidget* focused = focusWidget();
-  return (code == keyEnter && qobject_cast<const QPushButton*>(focused) != nullptr) ||
-         (code == keySpace && qobject_cast<const QAbstractButton*>(focused) != nullptr);
+  const auto* focused = qobject_cast<const QAbstractButton*>(focusWidget());
+  if (focused == nullptr) return false;
+  return code == keySpace || (code == keyEnter && !focused->isCheckable());
 }
 
 /// Presses the button that had the focus when the key came; a button that the key itself moved the

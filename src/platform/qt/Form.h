@@ -96,6 +96,8 @@ class Form : public QWidget, public TitleBar {
   /// A command button of this window.
   QPushButton* command(const char* name, QStringView text, QStringView tip,
                        std::function<void()> procedure);
+  /// The window's command buttons in a row, as all small windows have them.
+  static QLayout* commandRow(std::initializer_list<QPushButton*> buttons);
   QMenu* menuHead(const char* menuName, const QString& text);
   QAction* menuEntry(QMenu* head, const char* entryName, const QString& text,
                      std::function<void()> procedure);

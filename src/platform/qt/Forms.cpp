@@ -219,7 +219,7 @@ void Forms::fault(const std::exception& error) {
   ending_ = true;
   boxes_.pointer(Pointer::normal);
   status_ = 1;
-  boxes_.message(words(error), errorTitle, Icon::critical);
+  boxes_.message(words(error) + "\r\rProgram kapanacak.", errorTitle, Icon::critical);
   QCoreApplication::exit(status_);
 }
 

@@ -7,6 +7,7 @@
 
 #include "platform/qt/Artwork.h"
 #include "platform/qt/Style.h"
+#include "ready/Sizes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,8 +35,8 @@ QPalette palette() {
 /// In the sizes that a title bar and a list of windows show.
 QIcon icon() {
   QIcon made;
-  for (const int size : {32, 64}) {
-    made.addPixmap(readyMade(u"karvenis"_s, {size, size}));
+  for (const QSize& size : {ready::smallIcon, ready::largeIcon}) {
+    made.addPixmap(readyMade(u"karvenis"_s, size));
   }
   return made;
 }

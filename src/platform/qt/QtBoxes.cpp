@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpression>
+#include <QStyle>
 #include <algorithm>
 
+#include "platform/qt/Letters.h"
+#include "platform/qt/MessageBox.h"
+#include "platform/qt/ReadableText.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -29,51 +32,11 @@ QMessageBox::Icon shown(Icon icon) {
   return QMessageBox::NoIcon;
 }
 
+constexpr int leastInput = 420;  // pixels that a line to type into has
+
 /// A box can be closed and moved, and nothing else.
 constexpr Qt::WindowFlags boxFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-
-/// `text` for showing: what is too long for a line, such as a list of many numbers or a folder's
-/// name, may be broken behind its commas and slashes, where it would be cut off otherwise.
-QString breakable(const QString& text) {
-  static const QRegularExpression longWord(u"\\S{50,}"_s);
-  static const QRegularExpression mark(u"([,/])"_s);
-  QString shown;
-  qsizetype done = 0;
-  for (auto words = longWord.globalMatch(text); words.hasNext();) {
-    const QRegularExpressionMatch word = words.next();
-    shown += QStringView(text).sliced(done, word.capturedStart() - done);
-    shown += word.captured().replace(mark, u"\\1\u200B"_s);
-    done = word.capturedEnd();
-  }
-  return shown.append(QStringView(text).sliced(done));
-}
-
-/// Gives the text as much room as its lines and the title ask for, up to a width that still reads
-/// well; the toolkit alone would break a line for its last mark. Both sides keep the same margin.
-void widen(QMessageBox& box) {
-  constexpr int margin = 16;
-  constexpr int widest = 560;
-  auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
-  if (label == nullptr) return;
-  const QFontMetrics letters = label->fontMetrics();
-  int wanted = letters.horizontalAdvance(box.windowTitle());
-  for (const QString& line : box.text().split(u'\n')) {
-    wanted = std::max(wanted, letters.horizontalAdvance(line));
-  }
-  label->setContentsMargins(margin, 0, margin, 0);
-  label->setMinimumWidth(std::min(wanted, widest) + 2 * margin);
-}
-
-void fill(QMessageBox& box, const std::string& text, const std::string& title, Icon icon) {
-  box.setWindowTitle(toQt(title));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(breakable(toQtLines(text)));
-  box.setIcon(shown(icon));
-  box.setWindowModality(Qt::ApplicationModal);
-  box.setWindowFlags(boxFlags);
-  widen(box);
-}
 
 }  // namespace
 
@@ -87,15 +50,15 @@ int QtBoxes::serve(QDialog& box) const {
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  QMessageBox box(owner());
-  fill(box, text, title, icon);
+  MessageBox box(toQtLines(text), toQt(title), shown(icon), owner());
+  box.setWindowFlags(boxFlags);
   box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
   serve(box);
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
-  QMessageBox box(owner());
-  fill(box, text, title, Icon::question);
+  MessageBox box(toQtLines(text), toQt(title), QMessageBox::Question, owner());
+  box.setWindowFlags(boxFlags);
   QPushButton* yes = box.addButton(u"Evet"_s, QMessageBox::YesRole);
   QPushButton* no = box.addButton(u"Hayır"_s, QMessageBox::NoRole);
   box.setDefaultButton(yes);
@@ -105,20 +68,22 @@ bool QtBoxes::ask(const std::string& text, const std::string& title) {
 }
 
 std::string QtBoxes::input(const std::string& prompt, const std::string& title,
-                           const std::string& preset) {
+                           const std::string& preset, const std::string& example) {
   QInputDialog box(owner());
   box.setWindowTitle(toQt(title));
   box.setLabelText(toQtLines(prompt));
   box.setTextValue(toQt(preset));
+  box.findChild<QLineEdit*>()->setPlaceholderText(toQt(example));
   box.setOkButtonText(u"Tamam"_s);
   box.setCancelButtonText(u"İptal"_s);
   box.setWindowModality(Qt::ApplicationModal);
-  if (auto* label = box.findChild<QLabel*>()) {
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setMinimumWidth(420);
-  }
-  for (QPushButton* button : box.findChildren<QPushButton*>()) button->setIcon(QIcon());
+  auto* label = box.findChild<QLabel*>();
+  const int room =
+      roomOnScreen().width() - 2 * box.style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  label->setFixedWidth(std::max(readableWidth(*label, label->text(), room),
+                                std::min(qRound(leastInput * letterGrowth()), room)));
   box.setWindowFlags(boxFlags);
   return serve(box) == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
 }

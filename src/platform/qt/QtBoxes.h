@@ -21,8 +21,8 @@ class QtBoxes final : public Boxes {
 
   void message(const std::string& text, const std::string& title, Icon icon) override;
   bool ask(const std::string& text, const std::string& title) override;
-  std::string input(const std::string& prompt, const std::string& title,
-                    const std::string& preset) override;
+  std::string input(const std::string& prompt, const std::string& title, const std::string& preset,
+                    const std::string& example) override;
   void beep() override;
   void pointer(Pointer shape) override;
 

@@ -1,5 +1,6 @@
 #include "platform/qt/Style.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QPainter>
 #include <QPushButton>
@@ -7,6 +8,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +18,15 @@ namespace {
 
 constexpr QSize buttonPadding(34, 12);
 constexpr int leastTextHeight = 18;
+constexpr int leastTextLetters = 7;
 constexpr QSize menuHeadPadding(20, 10);
+constexpr QSize menuEntryPadding(28, 10);
+constexpr int menuShortcutGap = 24;
+constexpr int menuLineHeight = 9;
+constexpr int menuFrame = 5;
+constexpr int padding = 16;  // of every window
+constexpr int gap = 12;      // between controls
+constexpr int boxIconSize = 44;
 constexpr double buttonRadius = 5;
 constexpr double panelRadius = 7;
 
@@ -71,6 +81,48 @@ void drawMenuHead(const QStyleOptionMenuItem& head, QPainter& painter, const QSt
                      true, head.text, chosen ? QPalette::HighlightedText : QPalette::WindowText);
 }
 
+/// A line between entries, or an entry with its words and, at the right, its shortcut.
+void drawMenuEntry(const QStyleOptionMenuItem& entry, QPainter& painter, const QStyle& style) {
+  const QRect inside =
+      entry.rect.adjusted(menuEntryPadding.width() / 2, 0, -menuEntryPadding.width() / 2, 0);
+  if (entry.menuItemType == QStyleOptionMenuItem::Separator) {
+    painter.setPen(QColor(look::edge));
+    return painter.drawLine(inside.left(), inside.center().y(), inside.right(),
+                            inside.center().y());
+  }
+  const bool enabled = (entry.state & QStyle::State_Enabled) != 0;
+  const bool chosen = enabled && (entry.state & QStyle::State_Selected) != 0;
+  if (chosen) drawBox(painter, entry.rect, 3, QPen(Qt::NoPen), QColor(look::petrol));
+  const auto colour = chosen ? QPalette::HighlightedText : QPalette::WindowText;
+  const auto draw = [&](int alignment, const QString& words) {
+    style.drawItemText(&painter, inside, alignment | Qt::AlignVCenter | Qt::TextShowMnemonic,
+                       entry.palette, enabled, words, colour);
+  };
+  painter.setFont(entry.font);
+  draw(Qt::AlignLeft, entry.text.section(u'\t', 0, 0));
+  draw(Qt::AlignRight, entry.text.section(u'\t', 1));
+}
+
+QSize menuEntrySize(const QStyleOptionMenuItem& entry, QSize words) {
+  if (entry.menuItemType == QStyleOptionMenuItem::Separator) return {1, menuLineHeight};
+  if (entry.text.contains(u'\t')) {
+    words.rwidth() += menuShortcutGap + entry.reservedShortcutWidth;
+  }
+  return QSize(words.width(), entry.fontMetrics.height()) + menuEntryPadding;
+}
+
+/// The arrow at the end of menus that do not fit is drawn here: to read it from its file loads
+/// every picture format that the toolkit knows.
+QIcon moreMenusArrow() {
+  QPixmap arrow(9, 9);
+  arrow.fill(Qt::transparent);
+  QPainter painter(&arrow);
+  painter.setPen(QPen(QColor(look::ink), 2));
+  painter.drawPolyline(QPolygon({{2, 1}, {6, 4}, {2, 7}}));
+  painter.end();
+  return arrow;
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -79,9 +131,13 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
                               const QWidget* widget) const {
   switch (type) {
     case CT_PushButton:
-      return contents.expandedTo({0, leastTextHeight}) + buttonPadding;
+      return contents.expandedTo(
+                 {leastTextLetters * option->fontMetrics.averageCharWidth(), leastTextHeight}) +
+             buttonPadding;
     case CT_MenuBarItem:
       return contents + menuHeadPadding;
+    case CT_MenuItem:
+      return menuEntrySize(*static_cast<const QStyleOptionMenuItem*>(option), contents);
     default:
       return QProxyStyle::sizeFromContents(type, option, contents, widget);
   }
@@ -96,6 +152,19 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
       return 0;
+    case PM_MenuHMargin:
+    case PM_MenuVMargin:
+      return menuFrame;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      return padding;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      return gap;
+    case PM_MessageBoxIconSize:
+      return qRound(boxIconSize * letterGrowth());
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
@@ -108,27 +177,35 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
   }
 }
 
-/// The accepting button stands first on every desktop.
+/// The accepting button stands first on every desktop, and no button has an icon.
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* returned) const {
   if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
-/// The arrow at the end of menus that do not fit is drawn here: to read it from its file loads
-/// every picture format that the toolkit knows.
 QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
                           const QWidget* widget) const {
-  if (icon != SP_ToolBarHorizontalExtensionButton) {
-    return QProxyStyle::standardIcon(icon, option, widget);
+  switch (icon) {
+    case SP_MessageBoxQuestion:
+      return boxIcon(u"question"_s, widget);
+    case SP_MessageBoxWarning:
+      return boxIcon(u"warning"_s, widget);
+    case SP_MessageBoxCritical:
+      return boxIcon(u"critical"_s, widget);
+    case SP_ToolBarHorizontalExtensionButton:
+      return moreMenusArrow();
+    default:
+      return QProxyStyle::standardIcon(icon, option, widget);
   }
-  QPixmap arrow(9, 9);
-  arrow.fill(Qt::transparent);
-  QPainter painter(&arrow);
-  painter.setPen(QPen(QColor(look::ink), 2));
-  painter.drawPolyline(QPolygon({{2, 1}, {6, 4}, {2, 7}}));
-  painter.end();
-  return arrow;
+}
+
+/// In the pixels that the screen of `widget` shows it with.
+QIcon Style::boxIcon(const QString& part, const QWidget* widget) const {
+  const int size = pixelMetric(PM_MessageBoxIconSize, nullptr, widget);
+  const qreal ratio = widget == nullptr ? qApp->devicePixelRatio() : widget->devicePixelRatioF();
+  return artwork_.pixmap(u"boxes.svg"_s, part, {size, size}, ratio);
 }
 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -139,6 +216,8 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
                         widget != nullptr && widget->property(mainButton).toBool());
     case CE_MenuBarItem:
       return drawMenuHead(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
+    case CE_MenuItem:
+      return drawMenuEntry(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
     case CE_MenuBarEmptyArea:
       return painter->fillRect(option->rect, QColor(look::sand));
     default:
@@ -157,6 +236,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       return drawBox(*painter, option->rect, 4, QPen(QColor(look::petrol), 1), Qt::NoBrush);
     case PE_PanelMenuBar:
       return painter->fillRect(option->rect, QColor(look::sand));
+    case PE_PanelMenu:
+      painter->fillRect(option->rect, QColor(look::brass));
+      return painter->fillRect(option->rect.adjusted(1, 1, -1, -1), QColor(look::ground));
+    case PE_FrameMenu:
+      return;  // its panel has a frame
     case PE_PanelTipLabel:
       painter->fillRect(option->rect, QColor(look::brass));
       return painter->fillRect(option->rect.adjusted(1, 1, -1, -1), QColor(look::paper));

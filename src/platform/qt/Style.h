@@ -2,10 +2,12 @@
 
 #include <QProxyStyle>
 
+#include "platform/qt/Artwork.h"
+
 namespace karvenis {
 
 /// What the program's controls look like where the toolkit's plain style is not warm enough: raised
-/// buttons, panels, menu heads and a focus that shows.
+/// buttons, panels, menus, the icons of boxes, a focus that shows, and the room around them all.
 class Style final : public QProxyStyle {
   Q_OBJECT
 
@@ -27,6 +29,11 @@ class Style final : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+
+ private:
+  QIcon boxIcon(const QString& part, const QWidget* widget) const;
+
+  mutable Artwork artwork_;
 };
 
 }  // namespace karvenis

@@ -1,15 +1,12 @@
 #include "platform/qt/Surface.h"
 
 #include <QAccessible>
-#include <QFontInfo>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
-#include <algorithm>
 #include <cmath>
 
 #include "platform/Twips.h"
+#include "platform/qt/Letters.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -17,18 +14,18 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 namespace {
 
-constexpr double textPixels = 13;  // 9.75 points
+constexpr int marginLines = 2;     // as high as a page's margins, above and below, together
+constexpr double smallest = 0.75;  // of the letters as designed; smaller ones cannot be read
 
-/// How high a screen must be to show a whole page of the lists as designed, in pixels.
-constexpr double pageScreen = 460;
-constexpr double leastZoom = 0.75;  // smaller letters cannot be read
-
-/// How much larger than designed everything is printed: as the user's own font asks, but not so
-/// large that a page is higher than the screen.
-double zoomOf(const QFont& font) {
-  const double wanted = std::max(1.0, QFontInfo(font).pixelSize() / textPixels);
-  const double fits = QGuiApplication::primaryScreen()->availableSize().height() / pageScreen;
-  return std::max(leastZoom, std::min(wanted, fits));
+/// `font` in letters of `designed` pixels, grown with the desktop's letters as far as `lines` lines
+/// have room on the screen.
+QFont fitted(QFont font, int designed, int lines) {
+  const int least = qRound(designed * smallest);
+  int pixels = qRound(designed * letterGrowth());
+  for (font.setPixelSize(pixels); pixels > least; font.setPixelSize(--pixels)) {
+    if (lines * QFontMetricsF(font).height() <= roomOnScreen().height()) break;
+  }
+  return font;
 }
 
 QColor shown(QBColor colour) {
@@ -47,29 +44,32 @@ QColor shown(QBColor colour) {
 
 }  // namespace
 
-Surface::Surface(QWidget* parent) : QWidget(parent), zoom_(zoomOf(font())) {
+Surface::Surface(QWidget* parent, int lines, int textPixels)
+    : QWidget(parent), linesOfPage_(lines) {
   setObjectName(u"Surface"_s);
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  setTextSize(textPixels);
+  setFont(fitted(font(), textPixels, lines + marginLines));
+  zoom_ = static_cast<double>(font().pixelSize()) / textPixels;
   QPalette white = palette();
   white.setColor(QPalette::Window, Qt::white);
   setPalette(white);
   setAutoFillBackground(true);
 }
 
-void Surface::setTextSize(double pixels) {
-  QFont text = font();
-  text.setPixelSize(qRound(pixels * zoom_));
-  setFont(text);
+void Surface::letterWidth(int percent) {
+  QFont letters = font();
+  letters.setStretch(percent);
+  setFont(letters);
 }
 
 double Surface::pixels(double twips) const { return twips * zoom_ / twipsPerPixel; }
 double Surface::twips(double pixels) const { return pixels * twipsPerPixel / zoom_; }
 double Surface::lineHeight() const { return twips(QFontMetricsF(font()).height()); }
 
-QSize Surface::sizeFor(double margin, int lines, double right) const {
-  const QSizeF exact(pixels(right + margin), pixels(2 * margin + lines * lineHeight()));
-  return {static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))};
+void Surface::fix(double margin, double right) {
+  const QSizeF exact(pixels(right + margin), pixels(2 * margin + linesOfPage_ * lineHeight()));
+  setFixedSize(static_cast<int>(std::ceil(exact.width())),
+               static_cast<int>(std::ceil(exact.height())));
 }
 
 void Surface::cls() {

@@ -13,17 +13,17 @@ class Surface final : public QWidget, public TextSurface {
   Q_OBJECT
 
  public:
-  explicit Surface(QWidget* parent);
-
-  /// `pixels` (device independent) is the letters' size as designed; they grow with the user's own
-  /// font.
-  void setTextSize(double pixels);
+  /// A surface for letters of `textPixels` (device independent), which is 9.75 points unless told
+  /// otherwise. They grow with the desktop's own, and all twips with them, as far as the screen has
+  /// room for `lines` lines of text and their margins.
+  Surface(QWidget* parent, int lines, int textPixels = 13);
 
   void cls() override;
   double currentX() const override { return x_; }
   void currentX(double twips) override { x_ = twips; }
   void currentY(double twips) override { y_ = twips; }
   void foreColor(QBColor colour) override { colour_ = colour; }
+  void letterWidth(int percent) override;
   void print(const std::string& text) override;
   void printLine(const std::string& text) override;
 
@@ -44,9 +44,9 @@ class Surface final : public QWidget, public TextSurface {
   double pixels(double twips) const;
   /// Twips of one line of text.
   double lineHeight() const;
-  /// The size that holds `lines` lines of text, the first at `margin` and none reaching beyond
+  /// Gives the surface the size for its lines, the first at `margin` and none reaching beyond
   /// `right`, with as much margin behind them (all in twips).
-  QSize sizeFor(double margin, int lines, double right) const;
+  void fix(double margin, double right);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
@@ -63,7 +63,8 @@ class Surface final : public QWidget, public TextSurface {
 
   double twips(double pixels) const;
 
-  double zoom_;
+  int linesOfPage_;
+  double zoom_ = 1;
   double x_ = 0;
   double y_ = 0;
   QBColor colour_ = QBColor::blue;

@@ -12,8 +12,10 @@ class BallCell final : public QPushButton {
  public:
   BallCell(const QString& caption, QWidget* parent);
 
-  QSize sizeHint() const override;
   bool isMarked() const { return font().bold(); }
+  QSize sizeHint() const override { return size(); }
+  /// Makes the cell `growth` times as large as it was designed, 1 at first.
+  void grow(double growth);
 
  Q_SIGNALS:
   /// An arrow key asks for the cell that many columns and rows away.
@@ -31,6 +33,7 @@ class BallCell final : public QPushButton {
   void tellMark();
 
   bool told_ = false;  // the mark that assistive technology knows of
+  double growth_ = 1;
 };
 
 }  // namespace karvenis

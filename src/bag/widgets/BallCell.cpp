@@ -1,6 +1,6 @@
-#include "platform/qt/BallCell.h"
+#include "bag/widgets/BallCell.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -13,18 +13,50 @@ constexpr QSize cellSize(54, 48);
 constexpr int textPixels = 18;
 constexpr double ringDiameter = 36;
 
-}  // namespace
+/// A ball is ticked and unticked like a check box.
+class BallCellAccessible final : public QAccessibleWidget {
+ public:
+  explicit BallCellAccessible(BallCell* cell)
+      : QAccessibleWidget(cell, QAccessible::CheckBox), cell_(cell) {}
 
-/// The caption comes last: it makes the cell known to assistive technology, as what it is by then.
-BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(parent) {
-  setText(caption);
-  QFont number = font();
-  number.setPixelSize(textPixels);
-  setFont(number);
-  setFixedSize(cellSize);
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.checkable = true;
+    state.checked = cell_->isMarked();
+    return state;
+  }
+  QStringList actionNames() const override { return {toggleAction(), setFocusAction()}; }
+  void doAction(const QString& action) override {
+    if (action == toggleAction()) return cell_->click();
+    QAccessibleWidget::doAction(action);
+  }
+
+ private:
+  BallCell* cell_;
+};
+
+QAccessibleInterface* makeAccessible(const QString& className, QObject* object) {
+  if (className != QLatin1StringView(BallCell::staticMetaObject.className())) return nullptr;
+  return new BallCellAccessible(static_cast<BallCell*>(object));
 }
 
-QSize BallCell::sizeHint() const { return cellSize; }
+}  // namespace
+
+/// The caption is set last: it makes the cell known to assistive technology, as what it is by then.
+BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(parent) {
+  static const bool known = (QAccessible::installFactory(makeAccessible), true);
+  static_cast<void>(known);
+  setText(caption);
+  grow(1);
+}
+
+void BallCell::grow(double growth) {
+  growth_ = growth;
+  QFont number = font();
+  number.setPixelSize(qRound(textPixels * growth));
+  setFont(number);
+  setFixedSize(cellSize * growth);
+}
 
 /// A procedure may turn a mark twice; what it has become is told when it has ended.
 void BallCell::changeEvent(QEvent* event) {
@@ -58,9 +90,9 @@ void BallCell::paintEvent(QPaintEvent*) {
   painter.setBrush(ground);
   painter.drawRoundedRect(cell, 5, 5);
   if (marked) {
-    QRectF ring(0, 0, ringDiameter, ringDiameter);
+    QRectF ring(0, 0, ringDiameter * growth_, ringDiameter * growth_);
     ring.moveCenter(cell.center());
-    painter.setPen(QPen(QColor(look::petrol), 3));
+    painter.setPen(QPen(QColor(look::petrol), 3 * growth_));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(ring);
   }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QSize>
+#include <functional>
+
+class QWidget;
+
+namespace karvenis {
+
+/// How many times larger the desktop's letters are than those that the windows are drawn for, which
+/// are 13 pixels (9.75 points) high; at least 1.
+double letterGrowth();
+
+/// The room that a window has on the screen inside its frame, in device independent pixels.
+QSize roomOnScreen();
+
+/// Calls `size` with the growth that the pictures and large numbers of `window` are to be shown
+/// with: that of the letters if the window then has room on the screen, else the largest with which
+/// it has; at least 1, the size that they are drawn for. The window has a layout.
+void growWithLetters(QWidget& window, const std::function<void(double)>& size);
+
+}  // namespace karvenis

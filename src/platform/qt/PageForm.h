@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/qt/Form.h"
+#include "platform/qt/Surface.h"
+
+namespace karvenis {
+
+/// The base of the windows that page through a list. Such a window has no controls: it prints a
+/// page of text, answers keys, and goes a page on when it is clicked. The white page keeps its size
+/// and stands in the upper middle of a larger window.
+class PageForm : public Form {
+  Q_OBJECT
+
+ protected:
+  /// `lines` are those of a full page.
+  PageForm(Windows& windows, const char* name, int lines);
+
+  void Form_KeyDown(int KeyCode, int Shift) override;
+  void Form_Click() override;
+  void paintEvent(QPaintEvent* event) override;
+
+  /// Runs the command of a key that does not close the window; returns whether the page is to be
+  /// drawn anew.
+  virtual bool command(int KeyCode) = 0;
+  virtual void nextPage() = 0;
+  virtual void redraw() = 0;
+
+  Surface& surface() const { return *surface_; }
+
+ private:
+  Surface* surface_;  // the page
+};
+
+}  // namespace karvenis
