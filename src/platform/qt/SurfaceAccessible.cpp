@@ -1,6 +1,7 @@
 #include "platform/qt/SurfaceAccessible.h"
 
 #include <QAccessibleWidget>
+#include <QPointer>
 #include <map>
 
 #include "platform/qt/Surface.h"
