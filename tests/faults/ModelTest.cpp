@@ -8,6 +8,7 @@
 #include "comblist/Generator.h"
 #include "core/Draw.h"
 #include "doubles/Doubles.h"
+#include "doubles/Lists.h"
 #include "faults/DiskFolder.h"
 #include "listing/Listing.h"
 #include "main/NewColumn.h"
@@ -17,21 +18,6 @@
 
 namespace karvenis {
 namespace {
-
-using Columns = std::vector<ColumnRecord>;
-
-/// What the files ought to hold, kept in the plainest way.
-struct Model {
-  std::optional<Columns> kept, list, backup;
-
-  void backUp() {
-    if (list) backup = list;
-  }
-};
-
-bool holds(const ColumnRecord& record, std::int16_t ball) {
-  return std::ranges::find(record.Balls, ball) != record.Balls.end();
-}
 
 std::optional<Columns> columnsIn(const MemoryFiles& files, const char* name) {
   const auto found = files.folder.find(name);
@@ -71,16 +57,13 @@ class Walk {
   std::int16_t ball() { return static_cast<std::int16_t>(1 + below(49)); }
   void move(const char* name) { last_ = name; }
   void says(bool yes) { world_.boxes.says = yes; }
-  static bool any(const std::optional<Columns>& columns) { return columns && !columns->empty(); }
 
   void save() {
     move("save");
     for (auto& drawn : world_.state.Drawn) drawn = ball();
     saveRndColumn(world_.around, world_.title, false);
-    if (!model_.kept) model_.kept.emplace();
-    if (model_.kept->size() >= recordLimit) return;
     std::ranges::sort(world_.state.Drawn);
-    model_.kept->push_back({0, world_.state.Drawn});
+    if (Lists::count(model_.kept) < recordLimit) model_.keep(world_.state.Drawn);
   }
   void deleteKept() {
     move("delete a kept column");
@@ -89,36 +72,28 @@ class Walk {
     const std::size_t count = model_.kept->size();
     const std::size_t number = below(count + 2);
     deletion.remove(static_cast<std::int32_t>(number));
-    if (number < 1 || number > count) return;
-    model_.kept->erase(model_.kept->begin() + static_cast<std::ptrdiff_t>(number - 1));
-    if (count == 1) model_.kept.reset();
+    if (number >= 1 && number <= count) model_.removeKept(number);
   }
   void append() {
     move("append");
     says(below(4) != 0);
     ListPage page;
     appendToCombinationList(world_.around, page);
-    if (!world_.boxes.says || !any(model_.kept)) return;
-    if (!model_.list) model_.list.emplace();
-    model_.list->insert(model_.list->end(), model_.kept->begin(), model_.kept->end());
+    if (world_.boxes.says && Lists::any(model_.kept)) model_.append();
   }
   void saveAs() {
     move("save as");
     if (!model_.kept) return;
     says(below(4) != 0);
     saveAsCombinationList(world_.around);
-    if (!world_.boxes.says) return;
-    model_.backUp();
-    model_.list = model_.kept;
+    if (world_.boxes.says) model_.saveAsList();
   }
   void rename() {
     move("rename");
     if (below(8) != 0) return;
     says(below(2) != 0);
     changeRndFile(world_.around, world_.title);
-    if (!model_.kept || !world_.boxes.says) return;
-    model_.backUp();
-    model_.list = std::exchange(model_.kept, std::nullopt);
+    if (model_.kept && world_.boxes.says) model_.renameToList();
   }
   void deleteKeptFile() {
     move("delete the kept columns");
@@ -133,15 +108,12 @@ class Walk {
   }
   void deleteListed() {
     move("delete a listed column");
-    const std::size_t count = model_.list ? model_.list->size() : 0;
+    const std::size_t count = Lists::count(model_.list);
     const std::size_t number = below(count + 2);
     world_.boxes.typed = std::to_string(number);
     ListPage page;
     DeleteColumn(world_.around, page);
-    if (number < 1 || number > count) return;
-    model_.backUp();
-    model_.list->erase(model_.list->begin() + static_cast<std::ptrdiff_t>(number - 1));
-    if (count == 1) model_.list.reset();
+    if (number >= 1 && number <= count) model_.removeListed(number);
   }
   void deleteList() {
     move("delete the list");
@@ -154,7 +126,7 @@ class Walk {
     move("copy to the kept columns");
     says(below(4) != 0);
     copyToRandomColumns(world_.around);
-    if (any(model_.list) && (world_.boxes.says || !model_.kept)) model_.kept = model_.list;
+    if (Lists::any(model_.list) && (world_.boxes.says || !model_.kept)) model_.kept = model_.list;
   }
   void generate() {
     move("generate");
@@ -167,42 +139,36 @@ class Walk {
   /// The balls are chance's: the model takes them over where they can be ones, and knows the rest.
   void makeColumns(Generator::Mode mode) {
     const std::size_t wanted = below(40);
-    const std::size_t start =
-        mode == Generator::Mode::append && model_.list ? model_.list->size() : 0;
+    const std::size_t start = mode == Generator::Mode::append ? Lists::count(model_.list) : 0;
     says(below(4) != 0);
     Generator random(world_.around, world_.title);
     const auto outcome = random.start(mode, std::to_string(wanted));
-    const bool asked = mode == Generator::Mode::newList && any(model_.list);
+    const bool asked = mode == Generator::Mode::newList && Lists::any(model_.list);
     const bool done = wanted > 0 && (!asked || world_.boxes.says) && start + wanted <= recordLimit;
     EXPECT_EQ(outcome == Generator::Outcome::done, done);
     if (!done) return;
     if (mode == Generator::Mode::newList) model_.backUp();
-    if (!model_.list) model_.list.emplace();
-    const auto now = columnsIn(world_.files, combinationList);
-    model_.list->resize(std::max(model_.list->size(), start + wanted));
-    for (std::size_t i = start; i < start + wanted && now && i < now->size(); ++i) {
-      const Column& drawn = (*now)[i].Balls;
-      EXPECT_TRUE(std::ranges::is_sorted(drawn));
-      (*model_.list)[i] = {static_cast<std::int32_t>(i + 1), drawn};
+    const auto now = columnsIn(world_.files, combinationList).value_or(Columns());
+    model_.generated(start + 1, wanted, now);
+    for (std::size_t i = start; i < start + wanted && i < now.size(); ++i) {
+      EXPECT_TRUE(std::ranges::is_sorted(now[i].Balls));
     }
   }
   void thinOut(Filter filter, const std::string& typed,
-               const std::function<bool(const ColumnRecord&)>& keeps) {
+               const std::function<bool(const Column&)>& keeps) {
     world_.boxes.typed = typed;
     says(below(6) != 0);
     ListPage page;
     filterList(filter, world_.around, page, world_.title);
-    if (!any(model_.list) || !world_.boxes.says) return;
-    model_.backUp();
-    std::erase_if(*model_.list, [&](const ColumnRecord& record) { return !keeps(record); });
-    for (ColumnRecord& record : *model_.list) record.Word = 417;
-    if (model_.list->empty()) model_.list.reset();
+    if (Lists::any(model_.list) && world_.boxes.says) model_.thinOut(keeps);
   }
   void unwanted() {
     move("delete unwanted numbers");
     const std::int16_t a = ball(), b = ball();
     thinOut(Filter::FilterUnwantedNumbers, std::to_string(a) + ", " + std::to_string(b),
-            [=](const ColumnRecord& r) { return !holds(r, a) && !holds(r, b); });
+            [=](const Column& column) {
+              return lacksAll(column, {a, b});
+            });
   }
   void wanted() {
     move("keep wanted numbers");
@@ -212,42 +178,35 @@ class Walk {
       balls.push_back(ball());
       typed += std::to_string(balls.back()) + (i < 14 ? "," : "");
     }
-    thinOut(Filter::FilterWantedNumbers, typed, [=](ColumnRecord r) {
-      r.Balls[2] = 0;  // the third one is never looked up
-      return std::ranges::any_of(balls, [&](std::int16_t wished) { return holds(r, wished); });
-    });
+    thinOut(Filter::FilterWantedNumbers, typed,
+            [&](const Column& column) { return hasWanted(column, balls); });
   }
   void unwantedPair() {
     move("delete an unwanted pair");
     const std::int16_t a = ball();
     const auto b = static_cast<std::int16_t>(a % 49 + 1);
     thinOut(Filter::FilterUnwantedPair, std::to_string(a) + "-" + std::to_string(b),
-            [=](const ColumnRecord& r) {
-              return std::ranges::count_if(r.Balls,
-                                           [=](std::int16_t x) { return x == a || x == b; }) < 2;
-            });
+            [=](const Column& column) { return !hasBoth(column, a, b); });
   }
   void wantedPairs() {
     move("keep wanted pairs");
     std::string typed;
-    std::vector<std::pair<std::int16_t, std::int16_t>> pairs;
+    Pairs pairs;
     for (int i = 0; i < 60; ++i) {
       const std::int16_t a = ball();
       const auto b = static_cast<std::int16_t>(a % 49 + 1);
       pairs.emplace_back(a, b);
       typed += std::to_string(a) + "-" + std::to_string(b) + (i < 59 ? "," : "");
     }
-    thinOut(Filter::FilterWantedPairs, typed, [=](const ColumnRecord& r) {
-      return std::ranges::any_of(
-          pairs, [&](const auto& pair) { return holds(r, pair.first) && holds(r, pair.second); });
-    });
+    thinOut(Filter::FilterWantedPairs, typed,
+            [&](const Column& column) { return hasAnyPair(column, pairs); });
   }
   void writeText() {
     move("write a text");
     says(true);
     listRandomColumns(world_.around, world_.title, Output::text);
     const std::string text = world_.files.text("KARVENIS.TXT");
-    if (any(model_.kept)) {
+    if (Lists::any(model_.kept)) {
       EXPECT_NE(text.find("< Toplam " + std::to_string(model_.kept->size()) + " kolon. >"),
                 std::string::npos);
     }
@@ -255,7 +214,7 @@ class Walk {
   void pickOne() {
     move("pick from the list");
     const auto pick = PickFromList(world_.around);
-    EXPECT_EQ(pick.has_value(), any(model_.list));
+    EXPECT_EQ(pick.has_value(), Lists::any(model_.list));
     if (pick) {
       EXPECT_EQ(world_.state.Drawn,
                 (*model_.list)[static_cast<std::size_t>(pick->record - 1)].Balls);
@@ -264,7 +223,7 @@ class Walk {
 
   std::mt19937 random_;
   QuietWorld world_;
-  Model model_;
+  Lists model_;
   std::string last_;
 };
 
