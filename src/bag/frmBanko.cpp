@@ -114,7 +114,8 @@ void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
 void frmBanko::ownKey(int KeyCode) {
   if (KeyCode >= keyF4 && KeyCode <= keyF9) {
     chooseCount(KeyCode - keyF4);
-    return focusFirstEmptyBox();
+    focusFirstEmptyBox();
+    return tellCount();
   }
   if (KeyCode == keyF11) mnuBankoNedir_Click();
 }
@@ -124,6 +125,12 @@ void frmBanko::focusFirstEmptyBox() {
   const auto empty = std::ranges::find_if(
       Text1, [](const NumberBox* box) { return box->isVisible() && box->text().isEmpty(); });
   if (empty != Text1.end()) (*empty)->setFocus();
+}
+
+/// The chosen option speaks for itself only if it has the focus.
+void frmBanko::tellCount() {
+  const QRadioButton* chosen = Option[static_cast<std::size_t>(count())];
+  if (!chosen->hasFocus()) around_.windows.announce(fromQt(chosen->accessibleName()));
 }
 
 void frmBanko::showBoxes(int count) {

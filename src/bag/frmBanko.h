@@ -39,6 +39,7 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   void Option6_Click() { showBoxes(5); }
   void showBoxes(int count);
   void focusFirstEmptyBox();
+  void tellCount();
   void Text1_Change(int Index);
   void Text1_KeyPress(int Index);  // Enter; no other character has a meaning
   void Command1_Click() override;
