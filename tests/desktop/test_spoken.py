@@ -26,6 +26,7 @@ class Spoken(SpeakingCase):
     def test_the_options_and_the_check_box(self):
         self.start()
         self.press("Tab", "Çıkış düğme", "Kapat")
+        self.press("Tab", "Açılış resmi düğme")
         self.press("Tab", "Kolonun kaynağı ve sırası panel", "Torbadan Çek",
                    "seçili radyo düğmesi")
         self.press("Down", "Listeden Çek", "seçili radyo düğmesi")
@@ -46,9 +47,11 @@ class Spoken(SpeakingCase):
     def test_a_column_of_the_list(self):
         self.start({"KARVENIS.LST": record((49, 3, 27, 8, 11, 30))})
         self.press("Tab", "Çıkış düğme", "Kapat")
+        self.press("Tab", "Açılış resmi düğme")
         self.press("Tab", "Kolonun kaynağı ve sırası panel", "Torbadan Çek",
                    "seçili radyo düğmesi")
         self.press("Down", "Listeden Çek", "seçili radyo düğmesi")
+        self.press("shift+Tab", "Açılış resmi düğme")
         self.press("shift+Tab", "Çıkış düğme", "Kapat")
         self.press("shift+Tab", *MAIN[1:])
         self.press("space", "bildirim Kayıt 1: 49, 3, 27, 8, 11, 30")
@@ -88,13 +91,31 @@ class Spoken(SpeakingCase):
     def test_the_boxes_of_the_bankos(self):
         self.start()
         self.press("F7", "Banko", "0 banko top", "seçili radyo düğmesi")
-        self.press("F6", "2 banko top", "seçili radyo düğmesi")
-        self.press("Tab", "1. banko top metin")
+        self.press("F6", "1. banko top metin", "bildirim 2 banko top")
         self.program.type("7")
         self.press("Return", "2. banko top metin")
         self.program.type("30")
-        self.press("F1", "bildirim Banko: 7, 30")
+        self.program.keys("F1")
+        self.listen("bildirim Banko: 7, 30")  # the box may tell of the number in it first
         self.press("Tab", "Uygula düğme")
+
+    # Boxes to type into
+
+    def test_a_number_is_told_whole_and_with_the_name_of_its_box(self):
+        self.start({"KARVENIS.LST": b"".join(record((n, 2, 3, 4, 5, 6)) for n in range(7, 17))})
+        self.press("F11", "6/49 Rastgele Kolon Üreteci", "Kolon Sayısı: metin", "32757 seçilmiş",
+                   "Rastgele küme oluşturmak için en çok deneme sayısı")
+        self.press("Escape", *MAIN)
+        self.press("F12", "Kombinasyon Listesi - Sayfa 1 [ F10= Yardım ]", "10 ögeli liste",
+                   row(1, 7, 2, 3, 4, 5, 6))
+        self.press("F3", "Kolon SİLME iletişim kutusu",
+                   "Silmek istediğiniz kolon numarasını girin. metin", "0 seçilmiş")
+        self.press("Escape", "Kombinasyon Listesi - Sayfa 1 [ F10= Yardım ]", "10 ögeli liste",
+                   row(1, 7, 2, 3, 4, 5, 6))
+        self.press("F1", "Kombinasyon Listesi", "Başlangıç : metin", "1 seçilmiş")
+        self.program.keys("Return")
+        self.listen("Bitiş : metin")
+        self.hear("10 seçilmiş")
 
     # The lists
 

@@ -19,13 +19,15 @@ class NumberBox final : public QLineEdit {
   void write(const QString& number);
   /// Takes the focus and selects the number, which was refused.
   void askAgain();
+  /// Whether the program puts its own number in just now.
+  bool isBeingWritten() const { return written_; }
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
-  void selectNumber();
+  bool written_ = false;
 };
 
 }  // namespace karvenis
