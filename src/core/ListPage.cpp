@@ -1,7 +1,6 @@
 #include "core/ListPage.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "core/Checked.h"
 #include "core/Numbers.h"
@@ -106,12 +105,11 @@ double fitRows(TextSurface& surface) {
   for (int percent = 100; percent > narrowest && printLabel(surface, 8888) > ballColumn;) {
     surface.letterWidth(--percent);
   }
-  const double firstBall = printLabel(surface, std::numeric_limits<std::int32_t>::max());
-  surface.currentX(firstBall + sumOffset);
-  surface.print(bracketed(std::numeric_limits<std::int16_t>::min()));
+  surface.currentX(printLabel(surface, 888888) + sumOffset);
+  surface.print(bracketed(888));
   const double edge = surface.currentX();
   surface.cls();
-  return std::max(edge, titleEdge);
+  return edge;
 }
 
 }  // namespace karvenis

@@ -10,8 +10,6 @@ namespace karvenis {
 
 /// Columns on a full page of a list window.
 inline constexpr std::int32_t rowsOnPage = 25;
-/// How far a list window reaches at least, in twips, so that its frame shows the whole title.
-inline constexpr double titleEdge = 6300;
 /// What the rows keep clear above and to the left, in twips.
 inline constexpr double pageMargin = 200;
 
@@ -41,8 +39,8 @@ struct ListPage {
 void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface);
 
 /// Fits the letters of the empty `surface` to the page's rows: they are made as narrow as it takes
-/// to keep the balls of records 1 to 9999 in one column. Returns the page's right edge in twips,
-/// behind the widest row that any record can give and behind the window's title.
+/// to keep the balls of records 1 to 9999 in one column. Returns where the widest row ends whose
+/// record has a number of six digits, in twips.
 [[nodiscard]] double fitRows(TextSurface& surface);
 
 }  // namespace karvenis

@@ -162,7 +162,8 @@ class Ends(DesktopCase):
         place = struct.pack("<ff", 1500, 3000)
         program = self.start({"KV2005.CFG": place}, through=("prlimit", "--fsize=5"))
         self.click("push button", "Çıkış")
-        self.expect_box("'KV2005.CFG' dosyasına yazılamadı.\nNeden: Dosya çok büyük.", "! HATA !")
+        self.expect_box("'KV2005.CFG' dosyasına yazılamadı.\nNeden: Dosya çok büyük.\n\n"
+                        "Program kapanacak.", "! HATA !")
         self.expect_end(1)
         self.assertEqual(program.bytes("KV2005.CFG"), place)
 

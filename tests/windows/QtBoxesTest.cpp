@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QDirIterator>
-#include <QScrollBar>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTextLayout>
 #include <QTimer>
 
@@ -175,7 +175,9 @@ TEST(QtBoxes, ShowAnOrdinaryTextAsItIs) {
 TEST(QtBoxes, ATextThatIsTooHighIsScrolledByKeys) {
   question(allPairs(), [](QMessageBox& box) {
     ASSERT_TRUE(scrolls(box));
-    const QScrollBar* bar = scrollerOf(box).verticalScrollBar();
+    QScrollBar* bar = scrollerOf(box).verticalScrollBar();
+    const QImage painted = bar->grab().toImage();
+    EXPECT_EQ(painted.pixelColor(painted.width() / 2, painted.height() / 10), QColor(look::petrol));
     QTest::keyClick(box.windowHandle(), Qt::Key_PageDown);
     EXPECT_GT(bar->value(), 0);
     QTest::keyClick(box.windowHandle(), Qt::Key_PageUp);

@@ -2,18 +2,31 @@
 
 #include <QPainter>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include "platform/qt/Look.h"
 
 namespace karvenis {
+namespace {
+
+constexpr double titleWidth = 6500;  // twips; the frame shows the whole title then
+constexpr int band = 16;             // above and below the page, where the screen has room
+
+void addBand(QVBoxLayout& layout, int stretch) {
+  layout.addItem(new QSpacerItem(0, band, QSizePolicy::Minimum, QSizePolicy::Expanding));
+  layout.setStretch(layout.count() - 1, stretch);
+}
+
+}  // namespace
 
 PageForm::PageForm(Windows& windows, const char* name, int lines)
     : Form(windows, name), surface_(new Surface(this, lines)) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, 0);
-  whole->addStretch(1);
+  whole->addStrut(qCeil(surface_->pixels(titleWidth)));
+  addBand(*whole, 1);
   whole->addWidget(surface_, 0, Qt::AlignHCenter);
-  whole->addStretch(2);
+  addBand(*whole, 2);
   surface_->setFocusPolicy(Qt::StrongFocus);
   surface_->setFocus();
 }
@@ -28,7 +41,7 @@ void PageForm::Form_Click() {
   redraw();
 }
 
-/// A line around the page, seen where the window is larger.
+/// A line around the page, as far as the window is larger.
 void PageForm::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(QColor(look::edge));

@@ -7,7 +7,7 @@ namespace karvenis {
 
 /// The base of the windows that page through a list. Such a window has no controls: it prints a
 /// page of text, answers keys, and goes a page on when it is clicked. The white page keeps its size
-/// and stands in the upper middle of a larger window.
+/// and stands in the upper middle of its window, which is never smaller and shows its whole title.
 class PageForm : public Form {
   Q_OBJECT
 

@@ -27,6 +27,7 @@ constexpr int menuFrame = 5;
 constexpr int padding = 16;  // of every window
 constexpr int gap = 12;      // between controls
 constexpr int boxIconSize = 44;
+constexpr int scrollBarWidth = 14;
 constexpr double buttonRadius = 5;
 constexpr double panelRadius = 7;
 
@@ -165,6 +166,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
       return gap;
     case PM_MessageBoxIconSize:
       return qRound(boxIconSize * letterGrowth());
+    case PM_ScrollBarExtent:
+      return qRound(scrollBarWidth * letterGrowth());
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
@@ -223,6 +226,15 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
     default:
       return QProxyStyle::drawControl(element, option, painter, widget);
   }
+}
+
+/// The slider of a scroll bar has a colour of its own, so that what is scrolled is seen to be.
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  if (control != CC_ScrollBar) return;
+  const QRect slider = subControlRect(control, option, SC_ScrollBarSlider, widget);
+  drawBox(*painter, slider.adjusted(2, 2, -2, -2), 3, QPen(Qt::NoPen), QColor(look::petrol));
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
