@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <deque>
 
 #include "AllWindows.h"
@@ -15,19 +16,49 @@
 namespace karvenis {
 namespace {
 
-constexpr std::size_t mostColumns = 400;  // a list that has grown beyond is replaced behind the program
+constexpr std::size_t mostColumns =
+    400;  // a list that has grown beyond is replaced behind the program
 
 Qt::Key qtKey(int key) {
   static const std::map<int, Qt::Key> others = {
-      {keyEnter, Qt::Key_Return},    {keyEscape, Qt::Key_Escape}, {keySpace, Qt::Key_Space},
-      {keyPageUp, Qt::Key_PageUp},   {keyPageDown, Qt::Key_PageDown}, {keyEnd, Qt::Key_End},
-      {keyHome, Qt::Key_Home},       {keyUp, Qt::Key_Up},         {keyDown, Qt::Key_Down}};
+      {keyEnter, Qt::Key_Return},      {keyEscape, Qt::Key_Escape},
+      {keySpace, Qt::Key_Space},       {keyPageUp, Qt::Key_PageUp},
+      {keyPageDown, Qt::Key_PageDown}, {keyEnd, Qt::Key_End},
+      {keyHome, Qt::Key_Home},         {keyUp, Qt::Key_Up},
+      {keyDown, Qt::Key_Down}};
   const auto other = others.find(key);
   return other != others.end() ? other->second : static_cast<Qt::Key>(Qt::Key_F1 + (key - keyF1));
 }
 
+/// While it lives, the timers of the balls and of the coupon tick only when the test says so.
+class StoppedTimers : public QObject {
+ public:
+  StoppedTimers() { qApp->installEventFilter(this); }
+
+  /// Lets `timer` tick `most` times, as long as it runs.
+  void tick(QTimer* timer, int most = 1) {
+    ticking_ = true;
+    for (int i = 0; i < most && timer->isActive(); ++i) {
+      QTimerEvent event(timer->timerId());
+      QCoreApplication::sendEvent(timer, &event);
+    }
+    ticking_ = false;
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    static const QRegularExpression stopped("^Timer[1-6]$");
+    return event->type() == QEvent::Timer && !ticking_ &&
+           stopped.match(watched->objectName()).hasMatch();
+  }
+
+ private:
+  bool ticking_ = false;
+};
+
 class KnowingUser : public WindowTest {
  protected:
+  StoppedTimers timers;
   std::mt19937 random{seed()};
   std::optional<KnownProgram> known;
   std::deque<std::string> past;  // what was done last
@@ -41,7 +72,6 @@ class KnowingUser : public WindowTest {
     forms.show("frmLoto");
     Form* main = forms.find("frmLoto");
     ASSERT_TRUE(QTest::qWaitForWindowActive(main));
-    for (int timer = 1; timer <= 6; ++timer) stop(control<QTimer>(main, timerName(timer)));
     known.emplace(world, random);
     replaceLists();
   }
@@ -157,14 +187,8 @@ class KnowingUser : public WindowTest {
     }
   }
   void roll(Form* main) {
-    for (int timer = 1; timer <= 6; ++timer) tick(control<QTimer>(main, timerName(timer)), 100);
-  }
-  static QString timerName(int timer) { return QStringLiteral("Timer%1").arg(timer); }
-  static void stop(QTimer* timer) { timer->setInterval(1'000'000'000); }
-  static void tick(QTimer* timer, int most) {
-    for (int i = 0; i < most && timer->isActive(); ++i) {
-      QTimerEvent event(timer->timerId());
-      QCoreApplication::sendEvent(timer, &event);
+    for (int ball = 1; ball <= 6; ++ball) {
+      timers.tick(control<QTimer>(main, QStringLiteral("Timer%1").arg(ball)), 100);
     }
   }
 
@@ -193,7 +217,8 @@ class KnowingUser : public WindowTest {
         known->clearBankos();
         return trigger(active(), "mnuSil");
       default:
-        return key(anyOf({keyF1, keyF2, keyF3, keyF4, keyF5, keyF6, keyF7, keyF8, keyF9, keyEscape}));
+        return key(
+            anyOf({keyF1, keyF2, keyF3, keyF4, keyF5, keyF6, keyF7, keyF8, keyF9, keyEscape}));
     }
   }
   /// Types over what a box holds.
@@ -210,7 +235,7 @@ class KnowingUser : public WindowTest {
     note("the coupon types");
     for (std::size_t i = below(60); i > 0 && known->coupon.runs; --i) {
       known->typeCoupon();
-      tick(timer, 1);
+      timers.tick(timer);
       known->takeOver();
     }
   }
@@ -243,7 +268,8 @@ class KnowingUser : public WindowTest {
         return key(anyOf({keyF10, keyEscape, keyF5}));
       default: {
         static const char* const refused[] = {"0", "40000", "-3"};
-        const std::string count = known->chance(5) ? refused[below(3)] : std::to_string(1 + below(40));
+        const std::string count =
+            known->chance(5) ? refused[below(3)] : std::to_string(1 + below(40));
         note("types ", count);
         known->wanted = count;
         retype("Text1", count);
@@ -296,7 +322,6 @@ TEST_F(KnowingUser, GetsFromEachWindowWhatHeKnows) {
     const std::string before = known->active;
     step();
     if (!known->isOpen(before)) passThrough();
-    if (Form* coupon = forms.find("frmList")) stop(control<QTimer>(coupon, "Timer1"));
     rest();
     ASSERT_TRUE(waitFor([&] { return QApplication::activeWindow() == active(); })) << story();
     known->takeOver();
