@@ -49,6 +49,12 @@ void message(const QString& text, Icon icon, const std::function<void(QMessageBo
 void question(const QString& text, const std::function<void(QMessageBox&)>& look) {
   seeing<QMessageBox>([&] { QtBoxes().ask(fromQt(text), standardTitle); }, look);
 }
+void input(const QString& prompt, const std::function<void(QInputDialog&)>& look) {
+  const auto open = [&] {
+    EXPECT_EQ(QtBoxes().input(fromQt(prompt), "Kolon SİLME", "", "örnek: 7,20"), "");
+  };
+  seeing<QInputDialog>(open, look);
+}
 
 QLabel& textOf(const QMessageBox& box) { return *box.findChild<QLabel*>("qt_msgbox_label"); }
 QScrollArea& scrollerOf(const QMessageBox& box) { return *box.findChild<QScrollArea*>(); }
@@ -117,6 +123,26 @@ TEST_P(BoxFit, EveryTextOfTheProgramHasRoom) {
   for (const QString& text :
        {toQt(bagExplained), toQt(bankoExplained), toQt(aboutText(fromQt(folder))), allPairs()}) {
     message(text, Icon::critical, expectWhole);
+  }
+}
+
+TEST_P(BoxFit, EveryBoxToTypeIntoHasRoom) {
+  const auto& [family, growth] = GetParam();
+  const BigLetters letters(family, growth);
+  const auto prompts = textsOfTheProgram().filter("girin");
+  ASSERT_GE(prompts.size(), 5);
+  for (const QString& prompt : prompts) {
+    input(prompt, [](const QInputDialog& box) {
+      EXPECT_TRUE(fitsOnScreen(box)) << box.width() << " x " << box.height();
+      const auto* label = box.findChild<QLabel*>();
+      const QRect needed = label->fontMetrics().boundingRect(
+          QRect(0, 0, label->width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, label->text());
+      EXPECT_LE(needed.width(), label->width()) << label->text().toStdString();
+      EXPECT_LE(needed.height(), label->height()) << label->text().toStdString();
+      for (const auto* control : box.findChildren<QWidget*>()) {
+        EXPECT_TRUE(box.rect().contains(QRect(control->mapTo(&box, QPoint()), control->size())));
+      }
+    });
   }
 }
 
@@ -230,17 +256,13 @@ TEST(QtBoxes, KeepNoColumnForAMissingIcon) {
 }
 
 TEST(QtBoxes, AnInputShowsItsExampleOnlyWhileItIsEmpty) {
-  seeing<QInputDialog>(
-      [] {
-        EXPECT_EQ(QtBoxes().input("X", "Kolon SİLME", "", "örnek: 7,20"), "") << "never a text";
-      },
-      [](const QInputDialog& box) {
-        const auto* line = box.findChild<QLineEdit*>();
-        EXPECT_EQ(line->placeholderText(), "örnek: 7,20");
-        EXPECT_EQ(line->text(), "");
-        EXPECT_EQ(line->palette().color(QPalette::PlaceholderText), QColor(look::pale));
-        EXPECT_EQ(box.windowTitle(), "Kolon SİLME");
-      });
+  input("X", [](const QInputDialog& box) {
+    const auto* line = box.findChild<QLineEdit*>();
+    EXPECT_EQ(line->placeholderText(), "örnek: 7,20");
+    EXPECT_EQ(line->text(), "");
+    EXPECT_EQ(line->palette().color(QPalette::PlaceholderText), QColor(look::pale));
+    EXPECT_EQ(box.windowTitle(), "Kolon SİLME");
+  });
 }
 
 }  // namespace

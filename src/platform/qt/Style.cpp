@@ -26,6 +26,7 @@ constexpr int menuLineHeight = 9;
 constexpr int menuFrame = 5;
 constexpr int padding = 16;  // of every window
 constexpr int gap = 12;      // between controls
+constexpr int labelGap = 8;  // between an option and its words
 constexpr int boxIconSize = 44;
 constexpr int scrollBarWidth = 14;
 constexpr double buttonRadius = 5;
@@ -168,6 +169,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
       return qRound(boxIconSize * letterGrowth());
     case PM_ScrollBarExtent:
       return qRound(scrollBarWidth * letterGrowth());
+    case PM_RadioButtonLabelSpacing:
+    case PM_CheckBoxLabelSpacing:
+      return labelGap;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
