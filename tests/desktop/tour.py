@@ -208,6 +208,7 @@ def main():
     environment = dict(option.split("=", 1) for option in sys.argv[3:] if "=" in option)
     sizes = [option for option in sys.argv[3:] if "=" not in option]
     screen = Screen(*sizes)
+    screen.run("display", "-window", "root", "xc:#c9c2b4")  # what lies between the windows
     try:
         tour = Tour(screen, executable, folder, environment)
         try:
