@@ -187,6 +187,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Offer{"EmptyBag", {}, {}, true},
                     Offer{"EmptyBagFiveBankos", {}, {1, 2, 3, 4, 5}, true},
                     Offer{"OneBallFiveBankos", {6}, {1, 2, 3, 4, 5}, true},
+                    Offer{"BallThatIsABanko", {5}, {1, 2, 3, 4, 5}, false},
+                    Offer{"ThreeBallsTwoBankos", {1, 2, 3}, {7, 20}, false},
                     Offer{"SixBalls", {1, 2, 3, 4, 5, 6}, {}, true},
                     Offer{"FiveBalls", {1, 2, 3, 4, 5}, {}, false},
                     Offer{"SixBallsOneRepeated", {1, 2, 3, 4, 5, 5}, {}, false},
