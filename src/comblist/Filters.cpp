@@ -15,6 +15,9 @@ namespace {
 constexpr std::int32_t keepWord = 417;
 constexpr std::int32_t deleteWord = -1;
 
+/// No title with the progress is longer.
+constexpr std::size_t titleRoom = 64;
+
 auto countMarked(const FilterMarks& marks, const Column& column) {
   return std::ranges::count_if(column, [&](std::int16_t ball) { return marks.has(ball); });
 }
@@ -124,8 +127,15 @@ void putWord(ColumnFile& list, std::int64_t number, ColumnRecord record, std::in
   list.put(number, record);
 }
 
+/// The title after `count` columns "[ of ]".
 std::string progress(const char* phase, std::int64_t count, std::int64_t of) {
-  return phase + withBlank(count) + " [" + withBlank(of) + " ]";
+  std::string text;
+  text.reserve(titleRoom);
+  text += phase;
+  text += withBlank(count);
+  text += " [";
+  text += withBlank(of);
+  return text += " ]";
 }
 
 /// Phase 1: marks every record in its word and changes nothing else. Returns how many are kept.

@@ -1,10 +1,8 @@
 #include "comblist/GeneratorDraw.h"
 
 #include <algorithm>
-#include <iterator>
+#include <bit>
 #include <span>
-
-#include "core/Draw.h"
 
 namespace karvenis {
 
@@ -45,12 +43,13 @@ std::int16_t GeneratorDraw::take(std::int16_t drawn) {
 
 /// Puts the balls of `column` in front, ascending and each once; the positions behind them stay.
 void GeneratorDraw::sortByPresence(Column& column) {
-  Column sorted = column;
-  SortColumn(sorted);
-  auto end = column.begin();
-  for (const std::int16_t ball : sorted) {
-    const bool isNew = end == column.begin() || *std::prev(end) != ball;
-    if (isBall(ball) && isNew) *end++ = ball;
+  std::uint64_t present = 0;  // bit k: the column holds ball k
+  for (const std::int16_t ball : column) {
+    if (isBall(ball)) present |= std::uint64_t{1} << ball;
+  }
+  for (auto place = column.begin(); present != 0; ++place) {
+    *place = static_cast<std::int16_t>(std::countr_zero(present));
+    present &= present - 1;  // without its lowest bit
   }
 }
 

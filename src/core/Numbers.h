@@ -12,18 +12,25 @@ namespace karvenis {
 /// `number` as it stands in messages and titles: with a leading blank in the place of its sign.
 template <std::integral Number>
 [[nodiscard]] std::string withBlank(Number number) {
-  return (std::cmp_less(number, 0) ? "" : " ") + std::to_string(number);
+  std::string text = std::to_string(number);
+  if (!std::cmp_less(number, 0)) text.insert(text.begin(), ' ');
+  return text;
 }
 
-/// `number` without blanks, padded on the left with "0" to at least `digits` characters.
+/// Adds `number` to the end of `text`: without blanks, padded on the left with "0" to at least
+/// `digits` characters.
+void appendPadded(std::string& text, std::int64_t number, std::size_t digits);
+
+/// `number` alone in that form.
 [[nodiscard]] std::string padded(std::int64_t number, std::size_t digits);
 
-/// `numbers` as they are enumerated in a sentence: "4, 8, 15".
+/// `numbers` with commas between them, as a sentence lists them: "4, 8, 15".
 [[nodiscard]] std::string listed(std::span<const std::int16_t> numbers);
 
 /// The number that `text` begins with, whatever follows it; 0 if it begins with none. Blanks are
-/// skipped, also between digits ("1 2" is 12); one sign and one decimal point are understood. ASCII
-/// digits only, whatever the system's language.
+/// skipped, also between digits ("1 2" is 12); one sign and one decimal point are understood. Only
+/// ASCII digits count, whatever the system's language. A number beyond the range of a double is
+/// infinite, one that is too small for it is 0.
 [[nodiscard]] double leadingNumber(std::string_view text);
 
 /// leadingNumber rounded to a 32-bit integer, halves to even; a number too large for 32 bits

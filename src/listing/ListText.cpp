@@ -4,16 +4,28 @@
 #include "core/Numbers.h"
 
 namespace karvenis {
+namespace {
+
+/// No line of a sound record is longer.
+constexpr std::size_t lineRoom = 64;
+
+}  // namespace
 
 std::string columnLine(std::int64_t number, std::size_t digits, const Column& balls) {
   const std::string sum = std::to_string(columnSum(balls, number));
-  std::string line = "Kolon " + padded(number, digits) + " - ";
-  const char* between = "";
+  std::string line;
+  line.reserve(lineRoom);
+  line += "Kolon ";
+  appendPadded(line, number, digits);
+  const char* between = " - ";
   for (const std::int16_t ball : balls) {
-    line += between + padded(ball, 2);
+    line += between;
+    appendPadded(line, ball, 2);
     between = ", ";
   }
-  return line + "  [" + (sum.size() < 3 ? "0" : "") + sum + "]";
+  line += sum.size() < 3 ? "  [0" : "  [";
+  line += sum;
+  return line += "]";
 }
 
 void eachColumnLine(ColumnFile& list, ListRange range,

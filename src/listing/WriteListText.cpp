@@ -61,7 +61,8 @@ void WriteListText(Surroundings& around, TitleBar& title, ColumnFile& list, cons
   putCharacters(file, std::string(firstLine) + lineEnd + heading + lineEnd + lineEnd, title,
                 listing.progress);
   eachColumnLine(list, range, [&](const std::string& line) {
-    file.put(line + lineEnd);
+    file.put(line);
+    file.put(lineEnd);
     title.setCaption(listing.progress + withBlank(file.written() + 1));
   });
   putCharacters(file, lineEnd + totalLine(range.count()) + lineEnd, title, "BYTE=");
