@@ -10,7 +10,8 @@
 
 namespace karvenis {
 
-/// Chosen balls in the order in which they were added; at most `most` of them. Starts empty.
+/// Chosen balls in the order in which they were added, at most `most` of them. A new set is empty.
+/// It holds any numbers: whoever adds one decides whether it must be a ball.
 template <std::size_t most>
 class BallSet {
  public:
@@ -18,18 +19,20 @@ class BallSet {
   [[nodiscard]] std::span<const std::int16_t> balls() const {
     return std::span(elements_).subspan(1, static_cast<std::size_t>(elements_[0]));
   }
+  /// Whether no ball is in the set.
   [[nodiscard]] bool empty() const { return elements_[0] == 0; }
+  /// Whether `ball` is in the set, once or more often.
   [[nodiscard]] bool contains(std::int16_t ball) const {
     return std::ranges::find(balls(), ball) != balls().end();
   }
 
-  /// Puts `ball` behind the others, whatever its number and also when it is in the set already. A
-  /// full set stays as it is.
+  /// Puts `ball` behind the others, also if the set holds it already. A full set stays as it is.
   void add(std::int16_t ball) {
     if (balls().size() < most) elements_[static_cast<std::size_t>(++elements_[0])] = ball;
   }
+  /// Takes out all balls.
   void clear() { elements_[0] = 0; }
-  /// Takes out every ball that is in `others`; the rest keeps its order.
+  /// Takes out every ball that `others` holds; the rest keeps its order.
   template <std::size_t others_most>
   void remove(const BallSet<others_most>& others) {
     const BallSet before = *this;
@@ -39,6 +42,7 @@ class BallSet {
     }
   }
 
+  /// Whether both sets hold the same balls in the same order.
   bool operator==(const BallSet& other) const { return std::ranges::equal(balls(), other.balls()); }
 
  private:

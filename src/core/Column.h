@@ -6,19 +6,20 @@
 
 namespace karvenis {
 
-inline constexpr int ballsInAll = 49;
-inline constexpr int ballsInColumn = 6;
-inline constexpr int mostBankos = 5;
+inline constexpr int ballsInAll = 49;    ///< of the lottery, numbered from 1
+inline constexpr int ballsInColumn = 6;  ///< that a drawn column has
+inline constexpr int mostBankos = 5;     ///< that the user can choose
 
 /// Whether `number` is a ball: 1..49.
 [[nodiscard]] constexpr bool isBall(std::int16_t number) {
   return number >= 1 && number <= ballsInAll;
 }
 
-/// Six ball numbers in their order.
+/// Six ball numbers in the order in which they were drawn or stored. One that comes from a file may
+/// be any 16-bit number.
 using Column = std::array<std::int16_t, ballsInColumn>;
 
-/// A value for each ball; the index is the ball itself, 1..49.
+/// A value for each ball. The index is the ball itself; precondition: isBall(ball).
 template <typename Value>
 class BallTable {
  public:
@@ -31,7 +32,7 @@ class BallTable {
   std::array<Value, ballsInAll + 1> values_{};
 };
 
-/// The ball of `column` at `position`, which is 1..6.
+/// The ball of `column` at `position`; precondition: 1..6.
 constexpr std::int16_t& ballAt(Column& column, int position) {
   return column[static_cast<std::size_t>(position - 1)];
 }

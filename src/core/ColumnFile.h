@@ -13,35 +13,37 @@ inline constexpr char randomColumns[] = "KARVENIS.RND";    ///< the columns the 
 inline constexpr char combinationList[] = "KARVENIS.LST";  ///< the combination list
 inline constexpr char listBackup[] = "KARVENIS.OLD";  ///< the combination list before its change
 
-/// Their scratch files. Each exists only while a command writes a new list, and then takes the old
-/// list's place.
+/// Their scratch files. Each exists only while a command writes a new list into it; then it takes
+/// the place of the old list.
 inline constexpr char tmpScratch[] = "KARVENIS.TMP";  ///< of the generator and the filters
 inline constexpr char yndScratch[] = "KARVENIS.YND";  ///< of the kept columns' append and deletion
 inline constexpr char ylsScratch[] = "KARVENIS.YLS";  ///< of the combination list's deletion
 
-/// An open column file: records are read and written as values, each by way of the one record
-/// buffer of the shared state. Takes the next file number while it lives.
+/// An open column file: records are read and written as values, each through the one record buffer
+/// of the shared state. Holds the next file number as long as it lives.
 class ColumnFile {
  public:
-  /// Opens `name`, and creates it if it is missing. Throws RunTimeError(open).
+  /// Opens `name`, and creates it if it is missing. `state` and `files` must outlive this. Throws
+  /// RunTimeError(open, read).
   ColumnFile(SharedState& state, Files& files, const std::string& name);
-  /// Closes; a failure is not reported. After writing, call close() first.
+  /// Closes the file; a failure is not reported. After writing, call close() first.
   ~ColumnFile();
   ColumnFile(const ColumnFile&) = delete;
   ColumnFile& operator=(const ColumnFile&) = delete;
 
-  /// Records in the file: its length / 16, halves to even. Throws RunTimeError(overflow) if that is
-  /// beyond 32 bits.
+  /// How many records the file has: its length / 16, rounded to the nearest, halves to even. Throws
+  /// RunTimeError(overflow) if that is beyond 32 bits.
   [[nodiscard]] std::int32_t count() const { return file_.count(); }
   /// Whether all bytes of record `number` (from 1) are in the file.
   [[nodiscard]] bool holdsWhole(std::int64_t number) const { return file_.holdsWhole(number); }
-  /// Record `number` (from 1); bytes past the end are 0. Throws RunTimeError(read).
+  /// Returns record `number` (from 1); bytes past the end of the file are 0. Precondition: the file
+  /// is open. Throws RunTimeError(read), also for a number below 1.
   [[nodiscard]] ColumnRecord at(std::int64_t number);
-  /// Writes `record` as record `number` (from 1); a gap before it reads as 0. Throws
-  /// RunTimeError(write).
+  /// Writes `record` as record `number` (from 1); a gap before it reads as 0. Precondition: the
+  /// file is open. It may reach the disk as late as close(). Throws RunTimeError(read, write).
   void put(std::int64_t number, const ColumnRecord& record);
-  /// Returns when everything is on disk and the file is closed. The file is not used any more then.
-  /// Throws RunTimeError(write).
+  /// Returns when everything written is on disk and the file is closed. Only the destructor may
+  /// follow. Throws RunTimeError(write).
   void close() { file_.close(); }
 
  private:
@@ -49,10 +51,11 @@ class ColumnFile {
   RecordFile file_;
 };
 
-/// Records of `name`, which must exist. Throws RunTimeError(read, overflow).
+/// How many records the file `name` has, counted as ColumnFile::count() does. Precondition: it
+/// exists. Throws RunTimeError(read, overflow).
 [[nodiscard]] std::int32_t columnCount(Files& files, const std::string& name);
 
-/// The same; 0 if there is no such file.
+/// The same, and 0 if there is no such file. Throws RunTimeError(read, overflow).
 [[nodiscard]] std::int32_t columnCountOrNone(Files& files, const std::string& name);
 
 /// Whether `name` exists and is at least one record (16 bytes) long. Throws RunTimeError(read).

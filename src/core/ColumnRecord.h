@@ -9,7 +9,7 @@
 
 namespace karvenis {
 
-/// One record of a column file. The numbers may be any: a file can be damaged.
+/// One record of a column file. Its numbers may be any, since a file can be damaged.
 struct ColumnRecord {
   static constexpr std::size_t size = 4 + ballsInColumn * 2;  ///< in a file, in bytes
 
@@ -20,17 +20,17 @@ struct ColumnRecord {
 };
 static_assert(ColumnRecord::size == 16);
 
-/// The most records that the save of a drawn column and the generator fill a list with: the largest
-/// 16-bit count.
+/// The largest 16-bit count: neither the generator nor the saving of a drawn column makes a list
+/// longer.
 inline constexpr std::int32_t recordLimit = 32767;
 
 /// Writes `record` into `bytes` as files hold it: the word, then the balls, all little-endian.
 void encode(const ColumnRecord& record, std::span<std::byte, ColumnRecord::size> bytes);
-/// The record that `bytes` hold.
+/// Returns the record that `bytes` hold in that form. Any bytes are a record.
 [[nodiscard]] ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes);
 
-/// The sum of the six balls of record `number`, which is only for the error. Throws
-/// RunTimeError(overflow) if it outgrows 16 bits on the way, as it can in a damaged record.
+/// Returns the sum of the six balls of `column`. Throws RunTimeError(overflow) if it leaves 16 bits
+/// at any step, as it can in a damaged record; the error names the record by its `number`.
 [[nodiscard]] std::int16_t columnSum(const Column& column, std::int64_t number);
 
 }  // namespace karvenis

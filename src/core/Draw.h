@@ -12,12 +12,12 @@ namespace karvenis {
 inline constexpr char tooFewBalls[] = "En az 6 top seçmiş olmanız gerekiyor!";
 inline constexpr char tooFewBallsTitle[] = " ! Eksik top seçimi !";
 
-/// The ball for `position` (1..6): the banko of that position if there is one, otherwise a uniform
-/// pick from the bag, which may repeat a ball. Before such a pick an empty bag is filled, for good,
-/// with every ball that is no banko.
+/// Returns the ball for `position` (1..6): the banko of that position if there is one, otherwise a
+/// uniform pick from the bag, which may repeat a ball. Before such a pick an empty bag is filled
+/// with every ball that is no banko, and stays filled.
 std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position);
 
-/// Sorts the six positions ascending.
+/// Sorts the six positions ascending, whatever their numbers are.
 void SortColumn(Column& column);
 
 /// Whether six distinct balls can be drawn: the bankos are distinct, and the bag (all 49 balls if

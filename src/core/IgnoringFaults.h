@@ -4,8 +4,8 @@
 
 namespace karvenis {
 
-/// Runs one step of a command that goes on with its next step if this one fails. Returns whether it
-/// succeeded. Only a RunTimeError is ignored; anything else passes.
+/// Runs one step of a command that goes on with its next step even if this one fails. Returns
+/// whether the step succeeded. Only a RunTimeError is ignored; any other exception passes.
 template <typename Step>
 bool ignoringFaults(Step step) {
   try {

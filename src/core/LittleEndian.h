@@ -7,8 +7,8 @@
 
 namespace karvenis {
 
-/// Fixed-width integers as the files hold them, lowest byte first whatever the machine.
-/// `bytes` are as many as the integer has, at least.
+/// Writes `value` into the first bytes of `bytes`, as files hold integers: the lowest byte first,
+/// whatever the machine. Precondition: `bytes` has at least sizeof(Integer) bytes.
 template <std::integral Integer>
 void putLittleEndian(std::span<std::byte> bytes, Integer value) {
   for (std::size_t i = 0; i < sizeof(Integer); ++i) {
@@ -16,6 +16,7 @@ void putLittleEndian(std::span<std::byte> bytes, Integer value) {
   }
 }
 
+/// Returns the integer that the first bytes of `bytes` hold in that form. The same precondition.
 template <std::integral Integer>
 [[nodiscard]] Integer getLittleEndian(std::span<const std::byte> bytes) {
   std::uint64_t value = 0;

@@ -12,36 +12,38 @@
 
 namespace karvenis {
 
-/// Number of records of `recordLength` bytes in `bytes` bytes, rounded to the nearest, halves to
-/// even. Throws RunTimeError(overflow) if it is beyond 32 bits.
+/// How many records of `recordLength` bytes are in `bytes` bytes, rounded to the nearest, halves to
+/// even. Throws RunTimeError(overflow) if that is beyond 32 bits.
 [[nodiscard]] std::int32_t recordCount(std::uint64_t bytes, std::size_t recordLength);
 
-/// A file of fixed-length records, numbered from 1, opened for reading and writing. Bytes past the
-/// end read as 0, and so do gaps. A block around the record last used is kept in memory, so that a
-/// pass over the file costs block transfers and not a system call a record.
+/// A file of fixed-length records, numbered from 1, open for reading and writing. Bytes past the
+/// end read as 0, and so do gaps. The block around the record that was used last is kept in memory,
+/// so that a pass over the file needs a system call for each block and not for each record.
 class RecordFile {
  public:
-  /// Opens `name`, and creates it if it is missing. Throws RunTimeError(open, read).
+  /// Opens `name`, and creates it if it is missing. `recordLength` is in bytes, from 1 to 65536.
+  /// Throws RunTimeError(open, read).
   RecordFile(Files& files, const std::string& name, std::size_t recordLength);
-  /// Closes; a failure is not reported. After writing, call close() first.
+  /// Closes the file; a failure is not reported. After writing, call close() first.
   ~RecordFile();
   RecordFile(const RecordFile&) = delete;
   RecordFile& operator=(const RecordFile&) = delete;
 
-  /// Length in bytes, with what has been written and is still in memory.
+  /// Length in bytes, what has been written and is still in memory included.
   [[nodiscard]] std::uint64_t length() const { return length_; }
-  /// Records in the file, as recordCount() tells.
+  /// How many records the file has, as recordCount() counts them.
   [[nodiscard]] std::int32_t count() const { return recordCount(length_, recordLength_); }
   /// Whether all bytes of record `number` (from 1) are in the file.
   [[nodiscard]] bool holdsWhole(std::int64_t number) const {
     return std::cmp_less_equal(number, length_ / recordLength_);
   }
 
-  /// Reads record `number` (from 1) into `record`, which is recordLength bytes long. The file is
-  /// open. Throws RunTimeError(read), also for a number below 1.
+  /// Reads record `number` (from 1) into `record`. Preconditions: `record` is recordLength bytes
+  /// long, and the file is open. Throws RunTimeError(read), also for a number below 1, and (write)
+  /// if bytes written earlier do not go into the file.
   void read(std::int64_t number, std::span<std::byte> record);
-  /// Writes `record`, which is recordLength bytes long, as record `number` (from 1). The file is
-  /// open. Throws RunTimeError(write).
+  /// Writes `record` as record `number` (from 1); it may reach the disk as late as close(). The
+  /// same preconditions. Throws RunTimeError(read, write).
   void write(std::int64_t number, std::span<const std::byte> record);
   /// Returns when everything written is on disk and the file is closed. Closing twice is harmless.
   /// Throws RunTimeError(write).

@@ -10,9 +10,9 @@ namespace karvenis {
 
 /// What a scratch file holds before it is filled.
 enum class ScratchStart {
-  empty,       ///< nothing; what an interrupted run left behind is removed
-  copyOfList,  ///< the list's bytes; nothing if there is no list
-  leftOver,    ///< what an interrupted run left behind; mostly there is nothing
+  empty,       ///< nothing: a scratch file of an interrupted run is removed
+  copyOfList,  ///< the bytes of the list; nothing if there is no list
+  leftOver,    ///< what a scratch file of an interrupted run holds; nothing if there is none
 };
 
 /// A list and the scratch file that takes its place.
@@ -22,28 +22,29 @@ struct ListAndScratch {
   ScratchStart start;
 };
 
-/// Replaces a list in the one way in which all of them are replaced: refuses a protected list
-/// before anything is written, begins the scratch file with the list's rights, lets `fill` write
-/// it, and gives it the list's name in one step on disk. The list holds its old or its new bytes
-/// whatever happens, and no scratch file stays behind a fault. `fill` gets the open scratch file
-/// and does not close it. Throws RunTimeError, also what `fill` throws.
+/// Replaces a list. Every list is replaced by this function, in these steps: a protected list is
+/// refused before anything is written; the scratch file gets the rights of the list; `fill` writes
+/// it; and it takes the name of the list in one step on disk. The list holds its old or its new
+/// bytes at every moment, and after a fault no scratch file is left. `fill` gets the open scratch
+/// file and does not close it. Throws RunTimeError, and what `fill` throws.
 void replaceList(SharedState& state, Files& files, const ListAndScratch& names,
                  const std::function<void(ColumnFile& scratch)>& fill);
 
-/// Takes record `number` (1..`count`) out of a list of `count` records; the others keep their words
-/// and their order. A list whose only record goes is removed. Throws RunTimeError as replaceList
-/// does.
+/// Removes record `number` (1..`count`) from a list of `count` records; the others keep their words
+/// and their order. The file of a list of one record is removed. Throws RunTimeError; the list is
+/// then as it was.
 void removeColumn(SharedState& state, Files& files, const ListAndScratch& names,
                   std::int32_t number, std::int32_t count);
 
-/// Copies the combination list, which exists, over its backup. Every change that keeps a backup
-/// begins with this, so a protected list is refused first. Throws RunTimeError(write, copy).
+/// Copies the combination list over its backup. Precondition: the list exists. Every change that
+/// keeps a backup begins with this, so a protected list is refused here, before anything is
+/// written. Throws RunTimeError(write, copy).
 void backUpList(Files& files);
 
-/// The same, but does nothing if there is no list.
+/// The same if there is a list, else nothing. Throws RunTimeError(write, copy).
 void backUpAnyList(Files& files);
 
-/// The box's text about a combination list of `columns` columns that has been written.
+/// The text of the box that says that a combination list of `columns` columns has been written.
 [[nodiscard]] std::string savedInList(std::int32_t columns);
 
 }  // namespace karvenis

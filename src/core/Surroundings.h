@@ -10,7 +10,8 @@
 
 namespace karvenis {
 
-/// What a window and its rules work with: the shared state and the doors to everything outside.
+/// What a window and its rules work with: the shared state and the doors to everything outside. All
+/// of them outlive every window.
 struct Surroundings {
   SharedState& state;
   Boxes& boxes;

@@ -12,14 +12,16 @@ namespace karvenis {
 class Chance {
  public:
   virtual ~Chance() = default;
-  /// Starts a new sequence from a clock value in microseconds. The value is folded with what went
-  /// before, so that two seedings within one tick of the clock do not repeat a sequence.
+  /// Starts a new sequence from a clock value in microseconds. The source's own state goes into the
+  /// new one too, so that two calls within one tick of the clock give different sequences.
   virtual void seed(std::int64_t microseconds) = 0;
+  /// The next number of the sequence.
   [[nodiscard]] virtual float next() = 0;
 
+  /// Starts a new sequence from the time of day.
   void seedFrom(Clock& clock) { seed(clock.sinceMidnight()); }
-  /// A uniform index 1..count; 1 if count is below 1. In single precision r x count + 1 may round
-  /// up to count + 1, so it is computed in double precision.
+  /// A uniform index 1..count; 1 if count is below 1. It is computed in double precision: in single
+  /// precision the product may round up to count + 1.
   template <std::integral Int>
   [[nodiscard]] Int index(Int count) {
     const auto picked =

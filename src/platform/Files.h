@@ -8,8 +8,8 @@
 
 namespace karvenis {
 
-/// One open file. Closing it twice is harmless. A file that is destroyed open is closed, but a
-/// failure is not reported then: after writing, call close().
+/// One open file. A file that is destroyed while it is open is closed, but a failure is not
+/// reported then: after writing, call close(). Only close() may follow close(), and does nothing.
 class File {
  public:
   virtual ~File() = default;
@@ -27,7 +27,7 @@ class File {
   /// Returns when everything written, and the name of a file just created, is on disk.
   /// Throws (write).
   virtual void sync() = 0;
-  /// Throws (write) if bytes written earlier are lost.
+  /// Closes the file. Throws (write) if bytes written earlier are lost.
   virtual void close() = 0;
 };
 
@@ -44,20 +44,20 @@ class Files {
   [[nodiscard]] virtual bool exists(const std::string& name) = 0;
   /// Length in bytes of the file `name`, which exists. Throws (read).
   [[nodiscard]] virtual std::uint64_t length(const std::string& name) = 0;
-  /// Does nothing if there is no such file, or one that may be written. Throws (write) if it is
-  /// protected. Ask before work whose result would be refused.
+  /// Throws (write) if the file `name` is protected; does nothing if there is none. Called before
+  /// work whose result would be refused in the end.
   virtual void refuseProtected(const std::string& name) = 0;
-  /// Makes `to` a copy of `from`, which exists. An old `to` keeps its rights. `to` holds its old or
-  /// its new bytes at every moment, and its new bytes on disk when this returns. Throws (copy),
-  /// also if `to` is protected.
+  /// Makes `to` a copy of `from`, which exists; an old `to` keeps its rights. At every moment `to`
+  /// holds either its old or its new bytes; when this returns, the new ones are on disk. Throws
+  /// (copy), also if `to` is protected.
   virtual void copy(const std::string& from, const std::string& to) = 0;
   /// Removes the file; that is on disk when this returns. Throws (remove), also if there is no such
   /// file or it is protected.
   virtual void remove(const std::string& name) = 0;
-  /// Gives the file `from` the name `to` in one step, in the place of an old `to`; that is on disk
-  /// when this returns. Throws (rename), also if `to` is protected.
+  /// Renames the file `from` to `to` in one step; an old `to` is replaced. That is on disk when
+  /// this returns. Throws (rename), also if `to` is protected.
   virtual void rename(const std::string& from, const std::string& to) = 0;
-  /// The current directory's path, for showing.
+  /// The path of the current directory, to be shown to the user.
   [[nodiscard]] virtual std::string currentFolder() = 0;
 };
 

@@ -2,7 +2,8 @@
 
 namespace karvenis {
 
-/// Key codes as the windows' key procedures see them. Letters and digits have their ASCII code.
+/// Key codes as the windows' key procedures get them. A letter or digit has its ASCII code, a key
+/// that is not listed here is keyOther.
 enum KeyCode : int {
   keyEnter = 13,
   keyEscape = 27,
@@ -30,9 +31,10 @@ enum KeyCode : int {
   keyOther = 255,
 };
 
+/// Whether `code` is one of F1..F12.
 constexpr bool isFunctionKey(int code) { return code >= keyF1 && code <= keyF12; }
 
-/// The bits of the Shift argument.
+/// The bits of the Shift argument of a key procedure: the modifier keys that are held.
 enum ShiftMask : int { shiftKey = 1, ctrlKey = 2, altKey = 4 };
 
 }  // namespace karvenis

@@ -12,14 +12,15 @@ class Printer {
   virtual ~Printer() = default;
   /// Size of the text that follows, in points.
   virtual void fontSize(double points) = 0;
+  /// Sets where the next line begins.
   virtual void currentX(double twips) = 0;
   virtual void currentY(double twips) = 0;
   /// Prints `text` at the current position and ends the line: the next one stands below it, on a
   /// new page if this one is full.
   virtual void printLine(const std::string& text) = 0;
-  /// Sends the document to the queue.
+  /// Sends the document to the queue, as a whole; the next call begins a new one.
   virtual void endDocument() = 0;
-  /// Forgets a document that has not been sent, so that the next one starts afresh.
+  /// Drops a document that has not been sent: nothing of it is printed.
   virtual void killDocument() noexcept = 0;
 };
 

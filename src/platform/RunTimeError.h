@@ -17,11 +17,11 @@ enum class Fault {
   printer,   ///< the printer refused
 };
 
-/// An unexpected fault, which ends the program with one box (see Forms). A refusal that a user can
-/// meet in normal work is a value and never this.
+/// An unexpected fault, which ends the program with one box (see Forms). A refusal that the user
+/// can meet in normal work is a return value and never a RunTimeError.
 class RunTimeError : public std::runtime_error {
  public:
-  /// `subject` is the file concerned (or the number that overflowed), `reason` the system's words.
+  /// `subject` is the file concerned, or the number that overflowed; `reason` says why, in Turkish.
   RunTimeError(Fault fault, std::string subject, const std::string& reason)
       : std::runtime_error(subject + ": " + reason),
         fault_(fault),

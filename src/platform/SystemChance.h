@@ -9,8 +9,8 @@ namespace karvenis {
 /// The random source of the program: the Mersenne twister of the standard library.
 class SystemChance final : public Chance {
  public:
-  /// Folds in the date and the system's own entropy too, so that two starts at the same time of
-  /// two days differ.
+  /// Uses the date and the system's own entropy too, so that the program does not repeat itself if
+  /// it starts at the same time of another day.
   void seed(std::int64_t microseconds) override;
   float next() override;
 

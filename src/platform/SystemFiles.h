@@ -7,8 +7,8 @@ namespace karvenis {
 /// The files of the current directory.
 class SystemFiles final : public Files {
  public:
-  /// From then on a size limit that the system sets is an error of the write that reaches it; the
-  /// signal that would end the program is ignored.
+  /// Makes the process ignore the signal of a size limit (`ulimit -f`), so that a write that
+  /// reaches the limit fails with an error instead of ending the program.
   SystemFiles();
   std::unique_ptr<File> open(const std::string& name) override;
   bool exists(const std::string& name) override;

@@ -4,8 +4,8 @@
 
 namespace karvenis {
 
-/// The system's words for the error number `error` (an errno); in Turkish for the errors that a
-/// user can meet.
+/// What the error number `error` (an errno) means, as a sentence: in Turkish for the errors that a
+/// user can meet, else in the system's own words.
 [[nodiscard]] std::string systemWords(int error);
 
 }  // namespace karvenis

@@ -8,6 +8,7 @@ namespace karvenis {
 class TitleBar {
  public:
   virtual ~TitleBar() = default;
+  /// Shows `caption`, a UTF-8 text, as the title.
   virtual void setCaption(std::string_view caption) = 0;
 };
 

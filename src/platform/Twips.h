@@ -4,7 +4,7 @@ namespace karvenis {
 
 /// The twip is the unit of lengths on paper, on a text surface and in the settings file.
 inline constexpr double twipsPerInch = 1440;
-/// At 96 dpi.
+/// In a device independent pixel, which is 1/96 inch.
 inline constexpr double twipsPerPixel = 15;
 
 }  // namespace karvenis
