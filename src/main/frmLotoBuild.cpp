@@ -103,7 +103,6 @@ frmLoto::frmLoto(Surroundings& around)
   Picture2->hide();
   setCaption(standardTitle);
   growWithLetters(*this, [this](double growth) { grow(growth); });
-  setTabOrder(Command2, Picture0);
   Command1->setFocus();
 }
 

@@ -30,4 +30,15 @@ inline bool fitsOnScreen(const QWidget& window) {
   return window.size().boundedTo(roomOnScreen()) == window.size();
 }
 
+/// How far to the right `page` is painted on, in device pixels.
+inline int inkEdge(QWidget& page) {
+  const QImage image = page.grab().toImage();
+  for (int x = image.width() - 1; x >= 0; --x) {
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixelColor(x, y) != QColor(Qt::white)) return x;
+    }
+  }
+  return 0;
+}
+
 }  // namespace karvenis

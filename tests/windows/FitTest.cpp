@@ -26,7 +26,7 @@ void expectFits(const QWidget& control, const QString& text, const QRect& room) 
 }
 
 void expectNothingCut(const Form* form) {
-  for (const QWidget* control : form->findChildren<QWidget*>()) {
+  for (QWidget* control : form->findChildren<QWidget*>()) {
     if (!control->isVisible()) continue;
     if (const auto* label = qobject_cast<const QLabel*>(control)) {
       if (!label->wordWrap()) expectFits(*label, label->text(), label->contentsRect());
@@ -37,11 +37,13 @@ void expectNothingCut(const Form* form) {
       EXPECT_GE(button->width(), button->minimumSizeHint().width()) << button->text().toStdString();
     } else if (const auto* bar = qobject_cast<const QMenuBar*>(control)) {
       EXPECT_LE(bar->sizeHint().width(), bar->width()) << "the menus";
-    } else if (const auto* surface = dynamic_cast<const Surface*>(control)) {
+    } else if (const auto* surface = qobject_cast<const Surface*>(control)) {
       for (std::size_t i = 0; i < surface->lines().size(); ++i) {
         EXPECT_TRUE(surface->rect().contains(surface->lineRect(i)))
             << surface->lines()[i].text.toStdString();
       }
+      EXPECT_LT(inkEdge(*control), control->width() * control->devicePixelRatioF() - 3)
+          << "lines that are too long";
     }
     EXPECT_TRUE(control->isWindow() || control->parentWidget() != form ||
                 form->rect().contains(control->geometry()))
