@@ -6,6 +6,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -263,6 +264,45 @@ TEST(QtBoxes, AnInputShowsItsExampleOnlyWhileItIsEmpty) {
     EXPECT_EQ(line->palette().color(QPalette::PlaceholderText), QColor(look::pale));
     EXPECT_EQ(box.windowTitle(), "Kolon SİLME");
   });
+}
+
+// Those who have the screen read to them
+
+/// Hears of all events, as assistive technology does, how often a box has lost the keyboard.
+class Listener final : public QObject {
+ public:
+  Listener() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool isBox = qobject_cast<QDialog*>(watched) != nullptr;
+    if (isBox && event->type() == QEvent::WindowActivate) ++activated;
+    if (isBox && event->type() == QEvent::WindowDeactivate) ++deactivated;
+    return false;
+  }
+
+  int activated = 0;
+  int deactivated = 0;
+};
+
+TEST(QtBoxes, ABoxIsReadEvenIfTheReaderIsStillBusyWithTheOneBeforeIt) {
+  QWidget owner;
+  owner.show();
+  QtBoxes boxes;
+  boxes.opens = [&] { return &owner; };
+  Listener listener;
+  QPointer<QMessageBox> shown;
+  const auto open = [&] {
+    seeing<QMessageBox>([&] { boxes.message("Merhaba", standardTitle, Icon::none); },
+                        [&](QMessageBox& box) { shown = &box; });
+  };
+  open();
+  const QPointer<QMessageBox> first = shown;
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  ASSERT_TRUE(first) << "what the reader still asks for has gone";
+  EXPECT_TRUE(first->isHidden());
+  open();
+  EXPECT_FALSE(first) << "it stays for ever";
+  EXPECT_EQ(listener.activated, 2);
+  EXPECT_EQ(listener.deactivated, 0) << "that a box has closed was told by itself";
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/qt/Application.h"
 
+#include <QDialog>
 #include <QKeyEvent>
 #include <QTimer>
 
@@ -11,10 +12,23 @@ struct Repeat final : QKeyEvent {
   explicit Repeat(const QKeyEvent& press) : QKeyEvent(press) { m_autoRepeat = true; }
 };
 
+/// Whether `receiver` belongs to a box that has closed.
+bool isOfClosedBox(const QObject* receiver) {
+  if (!receiver->isWidgetType()) return false;
+  const QWidget* window = static_cast<const QWidget*>(receiver)->window();
+  return window->isHidden() && qobject_cast<const QDialog*>(window) != nullptr;
+}
+
 }  // namespace
 
 /// Input comes from the desktop to the native windows.
 bool Application::notify(QObject* receiver, QEvent* event) {
+  // That a box has closed is told by the window that follows it. Assistive technology, which
+  // watches all events, may be busy with a key when it hears of that by itself, takes the next
+  // window for known then and does not read it.
+  if (event->type() == QEvent::WindowDeactivate && isOfClosedBox(receiver)) {
+    return receiver->event(event);
+  }
   if (!receiver->isWindowType()) return QApplication::notify(receiver, event);
   switch (event->type()) {
     case QEvent::KeyPress:

@@ -6,7 +6,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
+#include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/Letters.h"
 #include "platform/qt/MessageBox.h"
@@ -42,22 +44,28 @@ constexpr Qt::WindowFlags boxFlags =
 
 QWidget* QtBoxes::owner() const { return opens ? opens() : QApplication::activeWindow(); }
 
-/// Shows the box until it is answered. Returns its result.
-int QtBoxes::serve(QDialog& box) const {
+QtBoxes::~QtBoxes() { delete last_; }
+
+/// Shows the box until it is answered. Returns its result. The box stays, hidden, until the next
+/// one has been answered: a screen reader still asks for what it read last, and does not read the
+/// next box if that is gone. As a popup it is not listed among the windows of the program.
+int QtBoxes::serve(QDialog& box) {
   const int result = box.exec();
+  box.windowHandle()->setFlags(Qt::Popup);
+  delete std::exchange(last_, &box);
   if (closed) closed();
   return result;
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  MessageBox box(toQtLines(text), toQt(title), shown(icon), owner());
+  auto& box = *new MessageBox(toQtLines(text), toQt(title), shown(icon), owner());
   box.setWindowFlags(boxFlags);
   box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
   serve(box);
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
-  MessageBox box(toQtLines(text), toQt(title), QMessageBox::Question, owner());
+  auto& box = *new MessageBox(toQtLines(text), toQt(title), QMessageBox::Question, owner());
   box.setWindowFlags(boxFlags);
   QPushButton* yes = box.addButton(u"Evet"_s, QMessageBox::YesRole);
   QPushButton* no = box.addButton(u"Hayır"_s, QMessageBox::NoRole);
@@ -69,7 +77,7 @@ bool QtBoxes::ask(const std::string& text, const std::string& title) {
 
 std::string QtBoxes::input(const std::string& prompt, const std::string& title,
                            const std::string& preset, const std::string& example) {
-  QInputDialog box(owner());
+  auto& box = *new QInputDialog(owner());
   box.setWindowTitle(toQt(title));
   box.setLabelText(toQtLines(prompt));
   box.setTextValue(toQt(preset));

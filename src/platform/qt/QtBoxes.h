@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QDialog>
+#include <QPointer>
 #include <functional>
 
 #include "platform/Boxes.h"
 #include "platform/qt/Bell.h"
 
-class QDialog;
 class QWidget;
 
 namespace karvenis {
@@ -14,6 +15,11 @@ namespace karvenis {
 /// language.
 class QtBoxes final : public Boxes {
  public:
+  QtBoxes() = default;
+  ~QtBoxes() override;
+  QtBoxes(const QtBoxes&) = delete;
+  QtBoxes& operator=(const QtBoxes&) = delete;
+
   /// Runs before a box opens; returns the window that the box belongs to, or null.
   std::function<QWidget*()> opens;
   /// Runs when a box has closed.
@@ -28,9 +34,10 @@ class QtBoxes final : public Boxes {
 
  private:
   QWidget* owner() const;
-  int serve(QDialog& box) const;
+  int serve(QDialog& box);
 
   Bell bell_;
+  QPointer<QDialog> last_;  // the box that was answered last; its owner may delete it
 };
 
 }  // namespace karvenis
