@@ -157,7 +157,8 @@ TEST_P(ListWindows, ThePageKeepsItsSizeInTheUpperMiddleOfALargerWindow) {
   EXPECT_LT(place.top(), list->height() - place.bottom());
   const QImage image = list->grab().toImage();
   EXPECT_EQ(image.pixelColor(5, 5), QColor(look::ground));
-  EXPECT_EQ(image.pixelColor(place.topLeft() + QPoint(3, 3)), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor((place.topLeft() + QPoint(3, 3)) * image.devicePixelRatio()),
+            QColor(Qt::white));
   click(list, {5, 5});
   EXPECT_TRUE(showsFrom(26, 25)) << "a click beside the page is one on the window";
 }

@@ -23,14 +23,36 @@ constexpr QSize menuHeadPadding(20, 10);
 constexpr QSize menuEntryPadding(28, 10);
 constexpr int menuShortcutGap = 24;
 constexpr int menuLineHeight = 9;
-constexpr int menuFrame = 5;
-constexpr int padding = 16;  // of every window
-constexpr int gap = 12;      // between controls
-constexpr int labelGap = 8;  // between an option and its words
 constexpr int boxIconSize = 44;
 constexpr int scrollBarWidth = 14;
 constexpr double buttonRadius = 5;
 constexpr double panelRadius = 7;
+
+/// What does not grow with the letters, in pixels.
+struct Metric {
+  QStyle::PixelMetric metric;
+  int pixels;
+};
+
+constexpr int padding = 16;  // of every window
+constexpr int gap = 12;      // between controls
+constexpr Metric fixedMetrics[] = {
+    {QStyle::PM_MenuBarItemSpacing, 0},
+    {QStyle::PM_MenuBarHMargin, 0},
+    {QStyle::PM_MenuBarVMargin, 0},
+    {QStyle::PM_ButtonShiftHorizontal, 0},
+    {QStyle::PM_ButtonShiftVertical, 0},
+    {QStyle::PM_MenuHMargin, 5},
+    {QStyle::PM_MenuVMargin, 5},
+    {QStyle::PM_LayoutLeftMargin, padding},
+    {QStyle::PM_LayoutTopMargin, padding},
+    {QStyle::PM_LayoutRightMargin, padding},
+    {QStyle::PM_LayoutBottomMargin, padding},
+    {QStyle::PM_LayoutHorizontalSpacing, gap},
+    {QStyle::PM_LayoutVerticalSpacing, gap},
+    {QStyle::PM_RadioButtonLabelSpacing, 8},
+    {QStyle::PM_CheckBoxLabelSpacing, 8},
+};
 
 /// The colours of a button in one of its states, from above to below, and of its edge.
 struct ButtonColours {
@@ -147,31 +169,13 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {
+  const auto* const own = std::ranges::find(fixedMetrics, metric, &Metric::metric);
+  if (own != std::end(fixedMetrics)) return own->pixels;
   switch (metric) {
-    case PM_MenuBarItemSpacing:
-    case PM_MenuBarHMargin:
-    case PM_MenuBarVMargin:
-    case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical:
-      return 0;
-    case PM_MenuHMargin:
-    case PM_MenuVMargin:
-      return menuFrame;
-    case PM_LayoutLeftMargin:
-    case PM_LayoutTopMargin:
-    case PM_LayoutRightMargin:
-    case PM_LayoutBottomMargin:
-      return padding;
-    case PM_LayoutHorizontalSpacing:
-    case PM_LayoutVerticalSpacing:
-      return gap;
     case PM_MessageBoxIconSize:
       return qRound(boxIconSize * letterGrowth());
     case PM_ScrollBarExtent:
       return qRound(scrollBarWidth * letterGrowth());
-    case PM_RadioButtonLabelSpacing:
-    case PM_CheckBoxLabelSpacing:
-      return labelGap;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
