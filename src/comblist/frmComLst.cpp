@@ -8,7 +8,7 @@ namespace karvenis {
 frmComLst::frmComLst(Surroundings& around)
     : PageForm(around.windows, "frmComLst", rowsOnPage), around_(around) {
   setCaption(listTitle);
-  surface().fix(pageMargin, fitRows(surface()));
+  fix(pageMargin, fitRows(surface()));
 }
 
 void frmComLst::Form_Activate() {

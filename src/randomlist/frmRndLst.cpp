@@ -8,7 +8,7 @@ namespace karvenis {
 frmRndLst::frmRndLst(Surroundings& around)
     : PageForm(around.windows, "frmRndLst", rowsOnPage), around_(around) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
-  surface().fix(pageMargin, fitRows(surface()));
+  fix(pageMargin, fitRows(surface()));
 }
 
 void frmRndLst::Form_Activate() { showFirstPage(); }

@@ -144,6 +144,20 @@ TEST_P(ListWindows, ThePageIsNotMuchWiderThanItsRows) {
   }
 }
 
+TEST_P(ListWindows, ThePageHasTheGroundOfTheHouseAroundItWhereTheScreenHasRoom) {
+  for (const double growth : {1.0, 1.5}) {
+    const BigLetters letters("DejaVu Sans", growth);
+    openOver(60);
+    const QRect place = page()->geometry();
+    EXPECT_GT(place.left(), 0) << growth;
+    EXPECT_GT(place.top(), 0) << growth;
+    EXPECT_LT(place.bottom(), list->height() - 1) << growth;
+    EXPECT_TRUE(fitsOnScreen(*list));
+    list->unload();
+    settle();
+  }
+}
+
 TEST_P(ListWindows, ThePageKeepsItsSizeInTheUpperMiddleOfALargerWindow) {
   openOver(60);
   const QSize size = page()->size();

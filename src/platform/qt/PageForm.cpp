@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <QtMath>
 
+#include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
 
 namespace karvenis {
@@ -29,6 +30,11 @@ PageForm::PageForm(Windows& windows, const char* name, int lines)
   addBand(*whole, 2);
   surface_->setFocusPolicy(Qt::StrongFocus);
   surface_->setFocus();
+}
+
+void PageForm::fix(double margin, double right) {
+  surface_->fix(margin, right);
+  resize(sizeHint().boundedTo(roomOnScreen()));
 }
 
 void PageForm::Form_KeyDown(int KeyCode, int) {

@@ -25,6 +25,8 @@ class PageForm : public Form {
   virtual void nextPage() = 0;
   virtual void redraw() = 0;
 
+  /// Gives the page and its window their size; the measures are those of Surface::fix().
+  void fix(double margin, double right);
   Surface& surface() const { return *surface_; }
 
  private:
