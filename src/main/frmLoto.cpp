@@ -81,7 +81,8 @@ void frmLoto::Check1_Click() {
   if (!Check1->isChecked()) return;
   SortColumn(around_.state.Drawn);
   ShowColumn();
-  tellColumn();
+  const bool rolling = Label1.back()->isHidden();
+  if (!rolling && Picture0->isHidden()) tellColumn();
 }
 
 void frmLoto::Timer_Timer(int ball) {
@@ -90,11 +91,9 @@ void frmLoto::Timer_Timer(int ball) {
   if (last) tellColumn();
 }
 
-/// Tells the numbers to those who hear them, where all of them are seen.
-void frmLoto::tellColumn() {
-  const bool rolling = Label1.back()->isHidden();
-  if (!rolling && Picture0->isHidden()) around_.windows.announce("Kolon: " + drawn());
-}
+/// Tells the numbers to those who hear them; those of a finished draw also if the opening picture
+/// has come back over them meanwhile.
+void frmLoto::tellColumn() { around_.windows.announce("Kolon: " + drawn()); }
 
 std::string frmLoto::drawn() const { return listed(around_.state.Drawn); }
 

@@ -1,6 +1,7 @@
 """What Orca says, word by word, to somebody who hears the program and does not see it."""
 
 import re
+import time
 import unittest
 
 from columns import bag_file, record
@@ -98,6 +99,34 @@ class Spoken(SpeakingCase):
         self.program.keys("F1")
         self.listen("bildirim Banko: 7, 30")  # the box may tell of the number in it first
         self.press("Tab", "Uygula düğme")
+
+    # Keys that the screen reader looks at first
+
+    def test_each_press_is_a_key_and_a_held_key_is_one(self):
+        program = self.start()
+        self.program.keys("space")
+        self.listen(r"bildirim Kolon: [\d, ]+")
+        program.keys("F1", "F1", "F1", "F1")
+        self.listen(r"bildirim KARVENIS\.RND Kayıt No= 4")
+        program.hold("F1")
+        try:
+            self.listen(r"bildirim KARVENIS\.RND Kayıt No= 5")
+            time.sleep(1)  # in which a key that is held comes again and again
+        finally:
+            program.release("F1")
+        self.press("Tab", "Çıkış düğme", "Kapat")
+        self.assertEqual(len(program.bytes("KARVENIS.RND")), 5 * 16)
+
+    def test_enter_answers_one_box_after_the_other(self):
+        program = self.start()
+        self.press("F5", "6/49 Top Seçme Tablosu", "Toplar panel", f"1 {UNTICKED}")
+        self.press("F3", "uyarı KARVENIS 2005 Randomizer",
+                   "Topları KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?", "Evet düğme")
+        self.press("Return", "uyarı KARVENIS 2005 Randomizer",
+                   "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı nokta nokta nokta",
+                   "Tamam düğme")
+        self.press("Return", "6/49 Top Seçme Tablosu", "Toplar panel", f"1 {UNTICKED}")
+        self.assertEqual(program.bytes("KARVENIS.DAT"), bag_file([]))
 
     # Boxes to type into
 
