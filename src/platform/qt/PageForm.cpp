@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QtMath>
+#include <algorithm>
 
 #include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
@@ -11,30 +12,27 @@ namespace karvenis {
 namespace {
 
 constexpr double titleWidth = 6500;  // twips; the frame shows the whole title then
-constexpr int band = 16;             // above and below the page, where the screen has room
-
-void addBand(QVBoxLayout& layout, int stretch) {
-  layout.addItem(new QSpacerItem(0, band, QSizePolicy::Minimum, QSizePolicy::Expanding));
-  layout.setStretch(layout.count() - 1, stretch);
-}
+constexpr int widestBand = 16;       // of the ground above and below the page
 
 }  // namespace
 
 PageForm::PageForm(Windows& windows, const char* name, int lines)
     : Form(windows, name), surface_(new Surface(this, lines)) {
-  auto* whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addStrut(qCeil(surface_->pixels(titleWidth)));
-  addBand(*whole, 1);
-  whole->addWidget(surface_, 0, Qt::AlignHCenter);
-  addBand(*whole, 2);
   surface_->setFocusPolicy(Qt::StrongFocus);
   surface_->setFocus();
 }
 
 void PageForm::fix(double margin, double right) {
   surface_->fix(margin, right);
-  resize(sizeHint().boundedTo(roomOnScreen()));
+  const int spare = roomOnScreen().height() - surface_->height();
+  const int band = std::clamp(spare / 2, 0, widestBand);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, band, 0, band);
+  whole->setSpacing(0);
+  whole->addStrut(qCeil(surface_->pixels(titleWidth)));
+  whole->addStretch(1);
+  whole->addWidget(surface_, 0, Qt::AlignHCenter);
+  whole->addStretch(2);
 }
 
 void PageForm::Form_KeyDown(int KeyCode, int) {

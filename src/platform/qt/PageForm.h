@@ -25,7 +25,7 @@ class PageForm : public Form {
   virtual void nextPage() = 0;
   virtual void redraw() = 0;
 
-  /// Gives the page and its window their size; the measures are those of Surface::fix().
+  /// Gives the page its size and its place; the measures are those of Surface::fix().
   void fix(double margin, double right);
   Surface& surface() const { return *surface_; }
 
