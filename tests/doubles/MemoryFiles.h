@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "doubles/Journal.h"
 #include "platform/Files.h"
 #include "platform/RunTimeError.h"
 
@@ -15,7 +16,7 @@ namespace karvenis {
 using Bytes = std::vector<std::byte>;
 
 /// A folder in memory, without rights.
-class MemoryFiles : public Files {
+class MemoryFiles : public Files, public Journaling {
  public:
   std::map<std::string, Bytes> folder;
 
@@ -29,7 +30,8 @@ class MemoryFiles : public Files {
   }
 
   std::unique_ptr<File> open(const std::string& name) override {
-    return std::make_unique<Open>(folder[name]);
+    note("open", name);
+    return std::make_unique<Open>(*this, name, folder[name]);
   }
   bool exists(const std::string& name) override { return folder.contains(name); }
   std::uint64_t length(const std::string& name) override {
@@ -37,10 +39,15 @@ class MemoryFiles : public Files {
   }
   void refuseProtected(const std::string&) override {}
   void copy(const std::string& from, const std::string& to) override {
+    note("copy", from + " " + to);
     folder[to] = Bytes(found(from, Fault::copy)->second);
   }
-  void remove(const std::string& name) override { folder.erase(found(name, Fault::remove)); }
+  void remove(const std::string& name) override {
+    note("remove", name);
+    folder.erase(found(name, Fault::remove));
+  }
   void rename(const std::string& from, const std::string& to) override {
+    note("rename", from + " " + to);
     Bytes moved = std::move(found(from, Fault::rename)->second);
     folder.erase(from);
     folder[to] = std::move(moved);
@@ -56,7 +63,8 @@ class MemoryFiles : public Files {
 
   class Open final : public File {
    public:
-    explicit Open(Bytes& content) : content_(content) {}
+    Open(const MemoryFiles& door, std::string name, Bytes& content)
+        : door_(door), name_(std::move(name)), content_(content) {}
     std::size_t read(std::uint64_t offset, std::span<std::byte> into) override {
       if (offset >= content_.size()) return 0;
       const std::size_t count = std::min(into.size(), content_.size() - offset);
@@ -64,15 +72,18 @@ class MemoryFiles : public Files {
       return count;
     }
     void write(std::uint64_t offset, std::span<const std::byte> data) override {
+      door_.note("write", name_);
       if (content_.size() < offset + data.size()) content_.resize(offset + data.size());
       std::ranges::copy(data, content_.begin() + static_cast<std::ptrdiff_t>(offset));
     }
     std::uint64_t length() override { return content_.size(); }
     void takeRightsOf(const std::string&) override {}
-    void sync() override {}
-    void close() override {}
+    void sync() override { door_.note("sync", name_); }
+    void close() override { door_.note("close", name_); }
 
    private:
+    const MemoryFiles& door_;
+    std::string name_;
     Bytes& content_;
   };
 };

@@ -3,9 +3,11 @@
 #include <deque>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "core/Surroundings.h"
+#include "doubles/Journal.h"
 #include "doubles/MemoryFiles.h"
 #include "doubles/YieldingBoxes.h"
 #include "platform/RunTimeError.h"
@@ -27,14 +29,14 @@ class SetClock final : public Clock {
   std::int64_t sinceMidnight() override { return microseconds; }
 };
 
-/// Gives the scripted numbers first, then pseudo-random ones of 24 bits; keeps the seeds it got.
-class ScriptedChance final : public Chance {
+/// Gives the scripted numbers first, then pseudo-random ones of 24 bits; a seed changes nothing.
+class ScriptedChance final : public Chance, public Journaling {
  public:
   std::deque<float> script;
-  std::vector<std::int64_t> seeds;
 
-  void seed(std::int64_t microseconds) override { seeds.push_back(microseconds); }
+  void seed(std::int64_t microseconds) override { note("seed", std::to_string(microseconds)); }
   float next() override {
+    note("number");
     if (script.empty()) return static_cast<float>(generator_() >> 8U) / (1U << 24U);
     const float number = script.front();
     script.pop_front();
@@ -45,43 +47,43 @@ class ScriptedChance final : public Chance {
   std::mt19937 generator_{2005};
 };
 
-/// Keeps every caption.
-class RecordingTitle final : public TitleBar {
+/// Tells every caption to the journal.
+class RecordingTitle final : public TitleBar, public Journaling {
  public:
-  std::vector<std::string> captions;
-  void setCaption(std::string_view caption) override { captions.emplace_back(caption); }
+  void setCaption(std::string_view caption) override { note("title", caption); }
 };
 
-/// Keeps what was printed, one text for each line with its horizontal position; can refuse.
-class RecordingPrinter final : public Printer {
+/// Tells the journal what is printed; can refuse.
+class RecordingPrinter final : public Printer, public Journaling {
  public:
-  std::vector<std::string> log;
   bool refuses = false;
-
-  void fontSize(double points) override { note("font " + number(points)); }
-  void currentX(double twips) override { note("x " + number(twips)); }
-  void currentY(double twips) override { note("y " + number(twips)); }
-  void printLine(const std::string& text) override { note("line " + text); }
-  void endDocument() override { note("end"); }
-  void killDocument() noexcept override { killed = true; }
   bool killed = false;
+
+  void fontSize(double points) override { take("font " + number(points)); }
+  void currentX(double twips) override { take("x " + number(twips)); }
+  void currentY(double twips) override { take("y " + number(twips)); }
+  void printLine(const std::string& text) override { take("line " + text); }
+  void endDocument() override { take("end"); }
+  void killDocument() noexcept override { killed = true; }
 
  private:
   static std::string number(double value) { return std::to_string(static_cast<int>(value)); }
-  void note(std::string entry) {
+  void take(const std::string& told) const {
     if (refuses) throw RunTimeError(Fault::printer, "printer", "refuses");
-    log.push_back(std::move(entry));
+    note("printer", told);
   }
 };
 
-/// Keeps the names of the windows that were asked for, and the words that were to be spoken.
-class RecordingWindows final : public Windows {
+/// Keeps the words that were to be spoken; tells the journal which windows were asked for.
+class RecordingWindows final : public Windows, public Journaling {
  public:
-  std::vector<std::string> shown;
   std::vector<std::string> announced;
   bool ended = false;
-  void announce(std::string_view words) override { announced.emplace_back(words); }
-  void show(std::string_view form) override { shown.emplace_back(form); }
+  void announce(std::string_view words) override {
+    announced.emplace_back(words);
+    if (shownTexts()) shownTexts()(words);
+  }
+  void show(std::string_view form) override { note("show", form); }
   void end() override { ended = true; }
 };
 
@@ -89,6 +91,7 @@ class RecordingWindows final : public Windows {
 template <typename TheBoxes, typename TheFiles = MemoryFiles, typename TheChance = ScriptedChance,
           typename TheTitle = RecordingTitle>
 struct WorldOf {
+  Journal journal;
   SharedState state;
   TheBoxes boxes;
   SetClock clock;
@@ -99,8 +102,20 @@ struct WorldOf {
   TheTitle title;
   Surroundings around{state, boxes, clock, chance, files, printer, windows};
 
+  WorldOf() { connectAll(boxes, chance, files, printer, windows, title); }
+  std::vector<std::string> captions() const { return journal.of("title"); }
+  std::vector<std::string> shown() const { return journal.of("show"); }
+  std::vector<std::string> printed() const { return journal.of("printer"); }
+
   /// The same over other files.
   Surroundings over(Files& other) { return {state, boxes, clock, chance, other, printer, windows}; }
+
+ private:
+  template <typename Double>
+  void connect(Double& one) {
+    if constexpr (std::is_base_of_v<Journaling, Double>) one.journal = &journal;
+  }
+  void connectAll(auto&... doubles) { (connect(doubles), ...); }
 };
 
 /// A world that goes along with everything and needs no test framework.

@@ -7,13 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "doubles/Journal.h"
 #include "platform/Boxes.h"
 
 namespace karvenis {
 
 /// Plays an ordered script of boxes, answers and beeps: what comes unexpected fails the test, and
 /// so does what is left over at the end.
-class ScriptedBoxes final : public Boxes {
+class ScriptedBoxes final : public Boxes, public Journaling {
  public:
   ~ScriptedBoxes() override { EXPECT_TRUE(finished()) << "never came: " << script_.front().told(); }
 
@@ -53,16 +54,11 @@ class ScriptedBoxes final : public Boxes {
                     const std::string& example) override {
     return play({"input", prompt, title, Icon::none, {}, preset, example});
   }
-  void beep() override {
-    play({.kind = "beep"});
-    if (atBeep) atBeep();
+  void beep() override { play({.kind = "beep"}); }
+  void pointer(Pointer shape) override {
+    note("pointer", shape == Pointer::hourglass ? "hourglass" : "normal");
   }
-  void pointer(Pointer shape) override { pointers.push_back(shape); }
 
-  /// Runs at every beep: what has been done by then.
-  std::function<void()> atBeep;
-  /// Every pointer shape that was set, in order.
-  std::vector<Pointer> pointers;
   /// Runs just before a scripted box is answered: what the world does while the box is open.
   std::function<void()> whileOpen;
 
@@ -90,6 +86,10 @@ class ScriptedBoxes final : public Boxes {
     const Step expected = script_.front();
     script_.pop_front();
     EXPECT_EQ(came.told(), expected.told());
+    if (shownTexts()) {
+      for (const std::string& text : {came.title, came.preset, came.example}) shownTexts()(text);
+    }
+    note(came.kind, came.text + (expected.answer.empty() ? "" : " ") + expected.answer);
     if (whileOpen && came.kind != "beep") whileOpen();
     return expected.answer;
   }

@@ -117,7 +117,7 @@ TEST(ApplyBag, BeepsWhenTheMarksAreTakenAndGone) {
   buttons.mark({5, 9});
   std::vector<Set> marked;
   std::vector<Set> bags;
-  world.boxes.atBeep = [&] {
+  world.journal.listener = [&](const std::string&) {
     marked.push_back(buttons.marked());
     bags.push_back(bagOf(world.state));
   };
@@ -133,7 +133,9 @@ TEST(LoadBagInWindow, ButtonsAreUnmarkedBeforeTheSecondBeep) {
   buttons.mark({5, 9});
   world.files.folder["KARVENIS.DAT"] = words({1, 7});
   std::vector<Set> marked;
-  world.boxes.atBeep = [&] { marked.push_back(buttons.marked()); };
+  world.journal.listener = [&](const std::string& line) {
+    if (line == "beep") marked.push_back(buttons.marked());
+  };
   world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectBeep();
   loadBagInBagWindow(world.around, buttons);
   EXPECT_EQ(marked, (std::vector<Set>{{5, 9}, {}}));

@@ -133,7 +133,7 @@ TEST(ApplyBanko, BeepsBeforeAnythingElse) {
   boxes.texts = {"7", "12"};
   Set bankos;
   Texts texts;
-  world.boxes.atBeep = [&] {
+  world.journal.listener = [&](const std::string&) {
     bankos = bankoOf(world.state);
     texts = boxes.texts;
   };

@@ -29,7 +29,7 @@ TEST(ShowPage, WithoutAListTouchesNothing) {
   world.page.PageStart = 7;
   world.redraw();
   EXPECT_TRUE(world.files.folder.empty()) << "the file is not created";
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
   EXPECT_EQ(world.surface.cleared, 0);
   EXPECT_EQ(world.page.PageStart, 7);
 }
@@ -44,7 +44,7 @@ TEST(ShowPage, TellsOfAnEmptyListEachTimeAndKeepsThePage) {
   world.redraw();
   world.redraw();
   EXPECT_EQ(world.surface.lines(), shown);
-  EXPECT_EQ(world.title.captions.size(), 1U);
+  EXPECT_EQ(world.captions().size(), 1U);
   EXPECT_EQ(world.page.RecordCount, 0);
   EXPECT_EQ(world.state.FileNo, 0);
 }
@@ -77,7 +77,7 @@ TEST_P(ShownPage, IsTitledAndCorrected) {
   ASSERT_EQ(world.surface.lines().size(), row.rows);
   EXPECT_TRUE(world.surface.lines().front().starts_with("Kolon - " +
                                                         std::to_string(row.corrected + 1) + " : "));
-  EXPECT_EQ(world.title.captions, std::vector<std::string>{row.caption});
+  EXPECT_EQ(world.captions(), std::vector<std::string>{row.caption});
   EXPECT_EQ(world.state.FileNo, 0);
 }
 
@@ -102,10 +102,10 @@ TEST(OpenListing, OpensTheDialogOnlyOverAWholeRecord) {
   openListing(world.around);
   world.files.folder[combinationList].resize(15);
   openListing(world.around);
-  EXPECT_TRUE(world.windows.shown.empty());
+  EXPECT_TRUE(world.shown().empty());
   world.files.folder[combinationList].resize(16);
   openListing(world.around);
-  EXPECT_EQ(world.windows.shown, std::vector<std::string>{"frmCLPrint"});
+  EXPECT_EQ(world.shown(), std::vector<std::string>{"frmCLPrint"});
 }
 
 TEST(CopyToRandomColumns, OnlyBeepsWithoutAWholeRecord) {
@@ -240,6 +240,26 @@ INSTANTIATE_TEST_SUITE_P(
                     Entry{"Negative", "-3", -3, false}, Entry{"TooLarge", "31", 31, false},
                     Entry{"Beyond32Bits", "99999999999", 2147483647, false}),
     [](const auto& entry) { return entry.param.name; });
+
+/// A ragged list counts as recordCount() tells; the last record's missing bytes are 0.
+TEST(DeleteColumn, OfARaggedListTakesTheLastRecordThatCounts) {
+  ListWorld one;
+  one.files.folder[combinationList] = Bytes(9, std::byte{7});
+  one.boxes.expectBeep().expectInput(numberPrompt, "Kolon SİLME", "0", "1");
+  DeleteColumn(one.around, one.page);
+  EXPECT_EQ(one.files.folder,
+            (std::map<std::string, Bytes>{{"KARVENIS.OLD", Bytes(9, std::byte{7})}}));
+
+  ListWorld three;
+  three.hold(3);
+  Bytes& ragged = three.files.folder[combinationList];
+  ragged.resize(44);
+  const Bytes before = ragged;
+  three.boxes.expectBeep().expectInput(numberPrompt, "Kolon SİLME", "0", "3");
+  DeleteColumn(three.around, three.page);
+  EXPECT_EQ(three.files.folder, (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(2)},
+                                                              {"KARVENIS.OLD", before}}));
+}
 
 TEST(DeleteColumn, TakesTheCountAsItIsAfterTheBox) {
   ListWorld world;

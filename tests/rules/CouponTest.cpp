@@ -166,7 +166,7 @@ TEST_F(CouponTest, AnEmptyBagIsFilledForGood) {
 TEST_F(CouponTest, NothingSeedsTheSequence) {
   coupon.start();
   typeAll();
-  EXPECT_TRUE(world.chance.seeds.empty());
+  EXPECT_TRUE(world.journal.of("seed").empty());
 }
 
 TEST_F(CouponTest, WithoutEnoughBallsItStopsBeforeItSaysSo) {
@@ -202,32 +202,14 @@ TEST_F(CouponTest, BallsThatGoMeanwhileStopItAndTheNextCouponStartsAtOne) {
   EXPECT_EQ(printed(), "500R Kolon  1 - |");
 }
 
-/// Hears of every number that is drawn.
-class WatchedChance final : public Chance {
- public:
-  std::function<void()> atNumber;
-  void seed(std::int64_t) override {}
-  float next() override {
-    atNumber();
-    return ordinary_.next();
-  }
-
- private:
-  ScriptedChance ordinary_;
-};
-
 TEST_F(CouponTest, TheHeadIsPrintedBeforeTheColumnIsDrawn) {
-  WatchedChance chance;
   int numbers = 0;
-  chance.atNumber = [&] {
+  world.journal.listener = [&](const std::string&) {
     ++numbers;
     EXPECT_EQ(printed(), "500R Kolon  1 - |");
   };
-  Surroundings around{world.state, world.boxes,   world.clock,  chance,
-                      world.files, world.printer, world.windows};
-  Coupon watched(around, page, *this);
-  watched.start();
-  watched.tick();
+  coupon.start();
+  tick(1);
   EXPECT_GE(numbers, 6);
 }
 

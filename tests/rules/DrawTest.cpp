@@ -60,8 +60,8 @@ TEST(DrawColumn, GivesSixDistinctBallsAndSeedsFromTheClock) {
     EXPECT_GE(*distinct(world.state.Drawn).begin(), 1);
     EXPECT_LE(*distinct(world.state.Drawn).rbegin(), 49);
   }
-  EXPECT_EQ(world.chance.seeds.size(), 2000U);
-  EXPECT_EQ(world.chance.seeds.front(), 1'000'000);
+  EXPECT_EQ(world.journal.of("seed").size(), 2000U);
+  EXPECT_EQ(world.journal.of("seed").front(), "1000000");
 }
 
 TEST(DrawColumn, BankosComeFirstInTheirStoredOrder) {
@@ -125,26 +125,10 @@ TEST(DrawColumn, AfterARepeatTheRestIsComparedWithTheFirst) {
   EXPECT_TRUE(world.chance.script.empty());
 }
 
-/// Keeps the order of seedings and numbers.
-class OrderOfChance final : public Chance {
- public:
-  std::string order;
-  void seed(std::int64_t) override { order += 's'; }
-  float next() override {
-    order += 'n';
-    return ordinary_.next();
-  }
-
- private:
-  ScriptedChance ordinary_;
-};
-
 TEST(DrawColumn, SeedsOnceAndFirst) {
   World world;
-  OrderOfChance chance;
-  DrawColumn(world.state, chance, world.clock, false);
-  EXPECT_TRUE(chance.order.starts_with("snnnnnn")) << chance.order;
-  EXPECT_EQ(std::ranges::count(chance.order, 's'), 1);
+  DrawColumn(world.state, world.chance, world.clock, false);
+  EXPECT_EQ(world.journal.lines, (std::vector<std::string>{"seed 1000000", "number"}));
 }
 
 TEST(DrawColumn, SortsOnlyWhenAsked) {

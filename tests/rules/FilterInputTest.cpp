@@ -25,7 +25,7 @@ TEST_P(FilterQuestion, ShowsWhatTheInputMeansAndNoChangesNothing) {
   world.boxes.expectQuestion(asked.question, false);
   EXPECT_FALSE(run(asked.filter, world));
   EXPECT_EQ(world.files.folder, before) << "no backup either";
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(

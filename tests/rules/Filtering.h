@@ -80,7 +80,8 @@ inline const char* exampleOf(Filter filter) {
 }
 
 inline void expectInput(World& world, Filter filter, const std::string& typed) {
-  world.boxes.expectBeep().expectInput(promptOf(filter), "Kolon SİLME", "", typed, exampleOf(filter));
+  world.boxes.expectBeep().expectInput(promptOf(filter), "Kolon SİLME", "", typed,
+                                       exampleOf(filter));
 }
 
 }  // namespace karvenis

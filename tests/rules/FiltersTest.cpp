@@ -92,7 +92,7 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   EXPECT_EQ(world.state.FileNo, 0);
   const std::string second = passes.secondPass;
   EXPECT_EQ(
-      world.title.captions,
+      world.captions(),
       (std::vector<std::string>{" FAZ 1 - Kolon : 4 [ 1 ]", " FAZ 1 - Kolon : 3 [ 2 ]",
                                 " FAZ 1 - Kolon : 2 [ 3 ]", " FAZ 1 - Kolon : 2 [ 4 ]",
                                 second + " 1 [ 2 ]", second + " 1 [ 2 ]", second + " 1 [ 2 ]",
@@ -120,7 +120,7 @@ TEST(FilterRewrite, ThePairFilterToo) {
   EXPECT_EQ(list(world), columnBytes(kept));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
   EXPECT_EQ(world.files.folder.size(), 2U);
-  EXPECT_EQ(world.title.captions[5], " Faz 2 - Kolon : 1 [ 3 ]");
+  EXPECT_EQ(world.captions()[5], " Faz 2 - Kolon : 1 [ 3 ]");
 }
 
 TEST(FilterRewrite, EveryRecordIsMarkedEvenWhereNothingIsDeleted) {
@@ -145,8 +145,8 @@ TEST(FilterRewrite, AListOfWhichNothingIsKeptIsDeletedWithoutASecondPass) {
   EXPECT_FALSE(world.files.exists(combinationList));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
   EXPECT_EQ(world.files.bytes(tmpScratch), hex("0B")) << "the scratch file is not touched";
-  EXPECT_EQ(world.title.captions.size(), 5U);
-  EXPECT_EQ(world.title.captions.back(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
+  EXPECT_EQ(world.captions().size(), 5U);
+  EXPECT_EQ(world.captions().back(), " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]");
 }
 
 TEST(FilterRewrite, TakesTheListAsItIsAfterTheQuestion) {
@@ -176,7 +176,7 @@ TEST(FilterRewrite, AListThatLostItsRecordsIsDeletedByOneFilterAndLeftByTheOther
     const bool deletes = row.filter == FilterWantedPairs;
     EXPECT_EQ(run(row.filter, world), deletes);
     EXPECT_EQ(world.files.exists(combinationList), !deletes);
-    EXPECT_EQ(world.title.captions.size(), deletes ? 1U : 0U);
+    EXPECT_EQ(world.captions().size(), deletes ? 1U : 0U);
     EXPECT_TRUE(world.files.exists(listBackup));
   }
 }
@@ -230,7 +230,7 @@ TEST_P(BetweenThePhases, EveryRecordIsMarkedAndNothingElseChanged) {
   for (std::size_t i = 0; i < marked.size(); ++i) marked[i].Word = GetParam().words[i];
   EXPECT_EQ(list(world), columnBytes(marked));
   EXPECT_EQ(world.files.bytes(listBackup), columnBytes(fourColumns()));
-  EXPECT_EQ(world.title.captions.back(), " FAZ 1 - Kolon : 2 [ 4 ]");
+  EXPECT_EQ(world.captions().back(), " FAZ 1 - Kolon : 2 [ 4 ]");
   EXPECT_EQ(world.files.folder.size(), 2U);
 }
 

@@ -67,6 +67,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Offer{"EmptyList", 0, false, "32767", "5", "32767"},
                     Offer{"HalfARecordRoundsToNone", 8, false, "32767", "100", "100"},
                     Offer{"OneRecord", 16, true, "32766", "100", "1"},
+                    Offer{"MoreThanHalfIsOne", 9, true, "32766", "100", "1"},
+                    Offer{"OneAndAHalfIsTwo", 24, true, "32765", "100", "2"},
+                    Offer{"TwoAndAHalfIsTwo", 40, true, "32765", "100", "2"},
+                    Offer{"OneByteMoreIsThree", 41, true, "32764", "100", "3"},
+                    Offer{"TwoAndThreeQuartersIsThree", 44, true, "32764", "100", "3"},
                     Offer{"FiveHundred", 8000, true, "32267", "8", "500"},
                     Offer{"OneBelowTheLimit", 32766 * 16, true, "1", "8", "32766"},
                     Offer{"AtTheLimit", 32767 * 16, false, "0", "8", "32767"},
@@ -96,8 +101,8 @@ TEST_P(RefusedCount, IsToldAndWritesNothing) {
   }
   EXPECT_EQ(random.start(refusal.mode, refusal.text), Outcome::refused);
   EXPECT_EQ(world.files.folder, before);
-  EXPECT_TRUE(world.title.captions.empty());
-  EXPECT_TRUE(world.chance.seeds.empty());
+  EXPECT_TRUE(world.captions().empty());
+  EXPECT_TRUE(world.journal.of("seed").empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -126,16 +131,16 @@ TEST(GenerateNewList, WritesTheColumnsNumberedAndTellsHowMany) {
   World world;
   Generator random(world.around, world.title);
   std::string captionDuringBox;
-  world.boxes.whileOpen = [&] { captionDuringBox = world.title.captions.back(); };
+  world.boxes.whileOpen = [&] { captionDuringBox = world.captions().back(); };
   world.boxes.expectBeep().expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   EXPECT_EQ(random.start(Mode::newList, "3"), Outcome::done);
   ASSERT_EQ(list(world).size(), 3U);
   for (int n = 1; n <= 3; ++n)
     EXPECT_TRUE(isGenerated(list(world)[static_cast<std::size_t>(n - 1)], n));
-  EXPECT_EQ(world.title.captions, (std::vector<std::string>{"KOLON= 1", "KOLON= 2", "KOLON= 3",
-                                                            "6/49 Rastgele Kolon Üreteci"}));
+  EXPECT_EQ(world.captions(), (std::vector<std::string>{"KOLON= 1", "KOLON= 2", "KOLON= 3",
+                                                        "6/49 Rastgele Kolon Üreteci"}));
   EXPECT_EQ(captionDuringBox, "KOLON= 3");
-  EXPECT_EQ(world.chance.seeds, (std::vector<std::int64_t>{1'000'000}));
+  EXPECT_EQ(world.journal.of("seed"), std::vector<std::string>{"1000000"});
   EXPECT_FALSE(world.files.exists(listBackup)) << "there was no list to keep";
   EXPECT_EQ(world.state.FileNo, 0);
   EXPECT_TRUE(world.state.Bag.empty()) << "the bag is not filled on the side";
@@ -165,7 +170,7 @@ TEST(GenerateNewList, NoLeavesTheListAsItIs) {
   world.boxes.expectQuestion(replaceQuestion, false);
   EXPECT_EQ(random.start(Mode::newList, "10"), Outcome::kept);
   EXPECT_EQ(world.files.folder, before);
-  EXPECT_TRUE(world.chance.seeds.empty());
+  EXPECT_TRUE(world.journal.of("seed").empty());
 }
 
 TEST(GenerateNewList, AnEmptyListIsBackedUpWithoutAQuestion) {
@@ -227,9 +232,9 @@ TEST(AppendToList, WritesBehindTheListAndTakesNoBackup) {
   EXPECT_EQ(records[499].Word, -7);
   EXPECT_TRUE(isGenerated(records[500], 501));
   EXPECT_TRUE(isGenerated(records[501], 502));
-  EXPECT_EQ(world.title.captions, (std::vector<std::string>{"KOLON= 501  [1]", "KOLON= 502  [2]",
-                                                            "6/49 Rastgele Kolon Üreteci"}));
-  EXPECT_EQ(world.chance.seeds.size(), 1U);
+  EXPECT_EQ(world.captions(), (std::vector<std::string>{"KOLON= 501  [1]", "KOLON= 502  [2]",
+                                                        "6/49 Rastgele Kolon Üreteci"}));
+  EXPECT_EQ(world.journal.of("seed").size(), 1U);
   EXPECT_FALSE(world.files.exists(listBackup));
 }
 
@@ -250,7 +255,7 @@ TEST(AppendToList, StartsBehindAListThatGrewMeanwhile) {
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
   random.start(Mode::append, "5");
   EXPECT_EQ(list(world).size(), 25U);
-  EXPECT_EQ(world.title.captions.front(), "KOLON= 21  [1]");
+  EXPECT_EQ(world.captions().front(), "KOLON= 21  [1]");
 }
 
 TEST(AppendToList, MakesAListThatVanishedMeanwhile) {
@@ -261,6 +266,46 @@ TEST(AppendToList, MakesAListThatVanishedMeanwhile) {
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
   random.start(Mode::append, "5");
   EXPECT_EQ(list(world).size(), 5U);
+}
+
+TEST(AppendToList, StartsBehindTheRecordsThatARaggedListCountsAs) {
+  for (const auto& [bytes, start] : {std::pair{9U, 1}, std::pair{24U, 2}, std::pair{40U, 2},
+                                     std::pair{41U, 3}, std::pair{44U, 3}}) {
+    World world;
+    world.files.folder[combinationList].resize(bytes);
+    Generator random(world.around, world.title);
+    world.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına eklendi.");
+    random.start(Mode::append, "1");
+    EXPECT_EQ(world.captions().front(), "KOLON= " + std::to_string(start + 1) + "  [1]");
+    const auto records = list(world);
+    ASSERT_EQ(records.size(), static_cast<std::size_t>(start + 1)) << bytes;
+    EXPECT_TRUE(isGenerated(records.back(), start + 1)) << bytes;
+  }
+}
+
+TEST(AppendToList, IsLimitedByTheCountOfTheLoading) {
+  World world;
+  putList(world, 10);
+  Generator random(world.around, world.title);
+  putList(world, 20);
+  world.boxes.expectWarning("En çok 32757 kolon ekleyebilirsiniz!", attention);
+  EXPECT_EQ(random.start(Mode::append, "32758"), Outcome::refused);
+}
+
+TEST(GenerateNewList, AsksByTheCountOfTheLoading) {
+  World appeared;
+  Generator overNone(appeared.around, appeared.title);
+  putList(appeared, 5);
+  appeared.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
+  EXPECT_EQ(overNone.start(Mode::newList, "1"), Outcome::done);
+  EXPECT_EQ(appeared.files.bytes(listBackup), listOf(5));
+
+  World vanished;
+  putList(vanished, 5);
+  Generator overFive(vanished.around, vanished.title);
+  vanished.files.folder.clear();
+  vanished.boxes.expectQuestion(replaceQuestion, false);
+  EXPECT_EQ(overFive.start(Mode::newList, "1"), Outcome::kept);
 }
 
 /// Appends `wanted` columns to a list that has grown to `grown` records; whether that overflowed.

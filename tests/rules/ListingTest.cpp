@@ -138,7 +138,7 @@ TEST(ListText, ASecondRunReplacesTheFirst) {
 
 TEST(ListText, TheTitleTellsTheByteOfEachCharacterAndLine) {
   const auto check = [](const std::string& blank, std::size_t headBytes, ListingWorld& world) {
-    const auto& captions = world.title.captions;
+    const auto& captions = world.captions();
     std::vector<std::string> expected = {blank.empty() ? "Dosyaya yazılıyor..."
                                                        : " Dosyaya yazılıyor..."};
     for (std::size_t k = 1; k <= headBytes; ++k) {
@@ -180,7 +180,7 @@ TEST(ListText, TheLastBoxFindsTheTitleBackAndTheSourceOpen) {
       .expectMessage(told(136), bareTitle);
   world.boxes.whileOpen = [&] {
     if (!world.boxes.finished()) return;
-    EXPECT_EQ(world.title.captions.back(), " Rastgele Kolonlar");
+    EXPECT_EQ(world.captions().back(), " Rastgele Kolonlar");
     EXPECT_EQ(world.state.FileNo, 1);
   };
   world.listRandom(Output::text);
@@ -230,8 +230,8 @@ TEST(ListPrinter, RandomColumns) {
     expected.push_back("line Kolon " + padded(number, 2) + " - 03, 11, 17, 25, 38, 45  [139]");
   }
   expected.insert(expected.end(), {"line ", "x 1000", "line < Toplam 10 kolon. >", "end"});
-  EXPECT_EQ(world.printer.log, expected);
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_EQ(world.printed(), expected);
+  EXPECT_TRUE(world.captions().empty());
   EXPECT_EQ(world.files.folder.size(), 1U);
 }
 
@@ -240,9 +240,9 @@ TEST(ListPrinter, ARangeOfCombinations) {
   world.files.folder["KARVENIS.LST"] = columns139(12);
   world.boxes.expectBeep().expectQuestion(printQuestionC, true, bareTitle);
   EXPECT_EQ(world.listRange(Output::printer, 9, 10), RangeRefusal::none);
-  EXPECT_EQ(world.printer.log.at(5), "line SAYISAL LOTO Kombinasyon Listesi [ 21.11.2026 ] ");
-  EXPECT_EQ(world.printer.log.at(8), "line Kolon 09 - 03, 11, 17, 25, 38, 45  [139]");
-  EXPECT_EQ(world.printer.log.at(13), "line < Toplam 2 kolon. >");
+  EXPECT_EQ(world.printed().at(5), "line SAYISAL LOTO Kombinasyon Listesi [ 21.11.2026 ] ");
+  EXPECT_EQ(world.printed().at(8), "line Kolon 09 - 03, 11, 17, 25, 38, 45  [139]");
+  EXPECT_EQ(world.printed().at(13), "line < Toplam 2 kolon. >");
 }
 
 TEST(ListPrinter, ARefusalIsToldAndTheSourceClosed) {
@@ -290,7 +290,7 @@ TEST(ListRandomColumns, AnEmptyFileIsRefusedBehindTheQuestion) {
         .expectWarning("KARVENIS.RND dosyasında kayıt yok !", errorTitle);
     world.listRandom(Output::text);
     EXPECT_EQ(world.files.folder, before);
-    EXPECT_TRUE(world.title.captions.empty());
+    EXPECT_TRUE(world.captions().empty());
   }
 }
 

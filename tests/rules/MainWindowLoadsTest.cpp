@@ -6,7 +6,6 @@
 
 #include "bag/Spoken.h"
 #include "doubles/Doubles.h"
-#include "doubles/FailingFiles.h"
 #include "doubles/Sets.h"
 
 namespace karvenis {
@@ -184,31 +183,6 @@ INSTANTIATE_TEST_SUITE_P(Lengths, LoadBankoShort,
                          testing::Values(TooShort{"Empty", 0}, TooShort{"BagPartOnly", 100},
                                          TooShort{"HalfACount", 101}),
                          [](const auto& row) { return row.param.name; });
-
-struct Closing {
-  void (*load)(Surroundings& around);
-  const char* question;
-  int beeps;  // between the question and the closing
-};
-
-/// A file that cannot be closed ends the load before its last beep.
-TEST(MainWindowLoads, TheLastBeepComesBehindTheClosing) {
-  for (const auto& [load, question, beeps] :
-       {Closing{loadBagInMainWindow, question6, 1}, Closing{loadBankoInMainWindow, question8, 0}}) {
-    World world;
-    std::vector<int> both = withBankoPart({1, 7});
-    both[0] = 1;
-    both[1] = 5;
-    world.files.folder["KARVENIS.DAT"] = words(both);
-    FailingFiles files(world.files);
-    Surroundings around = world.over(files);
-    world.boxes.expectBeep().expectQuestion(question, true).expectBeep(beeps + 1);
-    load(around);
-    files.failAt(files.calls(), Mishap::fault);  // the closing is the last call
-    world.boxes.expectBeep().expectQuestion(question, true).expectBeep(beeps);
-    EXPECT_THROW(load(around), RunTimeError);
-  }
-}
 
 TEST(LoadBag, AFileThatGoesBehindTheQuestionLeavesTheBag) {
   World world;

@@ -13,7 +13,7 @@ TEST(PickFromList, AnEmptyListIsRefused) {
   world.files.folder["KARVENIS.LST"] = Bytes(8);
   world.boxes.expectWarning("Kombinasyon Listesi dosyası boş!", " ! KARVENIS.LST geçersiz !");
   EXPECT_FALSE(PickFromList(world.around).has_value());
-  EXPECT_TRUE(world.chance.seeds.empty());
+  EXPECT_TRUE(world.journal.of("seed").empty());
 }
 
 TEST(PickFromList, ARecordThatIsNotWholeLeavesTheColumn) {
@@ -46,7 +46,7 @@ TEST(PickFromList, BagAndBankosAreNotAsked) {
   world.files.folder["KARVENIS.LST"] = columnBytes({{1, column(1, 2, 3, 4, 5, 6)}});
   world.boxes.expectBeep();
   EXPECT_TRUE(PickFromList(world.around).has_value());
-  EXPECT_EQ(world.chance.seeds.size(), 1U);
+  EXPECT_EQ(world.journal.of("seed").size(), 1U);
 }
 
 }  // namespace

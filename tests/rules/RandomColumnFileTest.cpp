@@ -25,10 +25,10 @@ TEST(SaveRndColumn, MakesTheFileAndItsFirstRecordAscending) {
   saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), hex("00000000 0100 0700 0B00 1E00 2A00 3100"));
   EXPECT_EQ(world.state.Drawn, column(1, 7, 11, 30, 42, 49)) << "the array itself is sorted";
-  EXPECT_EQ(world.title.captions,
+  EXPECT_EQ(world.captions(),
             (Captions{" Kolon kayıtlanıyor...", " KARVENIS.RND Kayıt No= 1"}));
   EXPECT_EQ(world.windows.announced, Captions{" KARVENIS.RND Kayıt No= 1"});
-  EXPECT_EQ(world.boxes.pointers, (std::vector{Pointer::hourglass, Pointer::normal}));
+  EXPECT_EQ(world.journal.of("pointer"), (Captions{"hourglass", "normal"}));
   EXPECT_EQ(world.state.FileNo, 0);
 }
 
@@ -57,7 +57,7 @@ TEST(SaveRndColumn, TwiceSavesTwice) {
   saveRndColumn(world.around, world.title, false);
   saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(columnsOf(world.files.bytes("KARVENIS.RND")).size(), 2U);
-  EXPECT_EQ(world.title.captions.back(), " KARVENIS.RND Kayıt No= 2");
+  EXPECT_EQ(world.captions().back(), " KARVENIS.RND Kayıt No= 2");
 }
 
 struct Length {
@@ -77,13 +77,13 @@ TEST_P(SaveBehind, ALengthGivesTheRecordNumber) {
   const std::int32_t number = GetParam().number;
   if (number == 0) {
     EXPECT_EQ(world.files.bytes("KARVENIS.RND"), Bytes(GetParam().bytes, std::byte{7}));
-    EXPECT_TRUE(world.title.captions.empty());
-    EXPECT_TRUE(world.boxes.pointers.empty());
+    EXPECT_TRUE(world.captions().empty());
+    EXPECT_TRUE(world.journal.of("pointer").empty());
     return;
   }
   const auto written = columnsOf(world.files.bytes("KARVENIS.RND"));
   EXPECT_EQ(written.at(static_cast<std::size_t>(number) - 1).Balls, column(1, 2, 3, 4, 5, 6));
-  EXPECT_EQ(world.title.captions.back(), " KARVENIS.RND Kayıt No= " + std::to_string(number));
+  EXPECT_EQ(world.captions().back(), " KARVENIS.RND Kayıt No= " + std::to_string(number));
 }
 
 INSTANTIATE_TEST_SUITE_P(Lengths, SaveBehind,
@@ -104,7 +104,7 @@ TEST(SaveRndColumn, DoesNothingWhileTheDrawIsNotComplete) {
     ballAt(world.state.Drawn, missing) = 0;
     saveRndColumn(world.around, world.title, false);
     EXPECT_TRUE(world.files.folder.empty());
-    EXPECT_TRUE(world.title.captions.empty());
+    EXPECT_TRUE(world.captions().empty());
     EXPECT_TRUE(world.windows.announced.empty());
   }
 }
@@ -143,8 +143,8 @@ TEST_P(ShowTheList, NeedsOneWholeRecord) {
   }
   if (!GetParam().shows) world.boxes.expectWarning(emptyWarning);
   showRndList(world.around, world.title);
-  EXPECT_EQ(world.windows.shown, GetParam().shows ? Captions{"frmRndLst"} : Captions{});
-  EXPECT_EQ(world.title.captions, GetParam().shows ? Captions{standardTitle} : Captions{});
+  EXPECT_EQ(world.shown(), GetParam().shows ? Captions{"frmRndLst"} : Captions{});
+  EXPECT_EQ(world.captions(), GetParam().shows ? Captions{standardTitle} : Captions{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, ShowTheList,
@@ -166,7 +166,7 @@ TEST(ShowRndList, ANameInOtherLettersIsNoFile) {
 TEST(ChangeRndFile, DoesNothingWithoutAFile) {
   World world;
   changeRndFile(world.around, world.title);
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
 }
 
 TEST(ChangeRndFile, NoStopsAtOnce) {
@@ -176,7 +176,7 @@ TEST(ChangeRndFile, NoStopsAtOnce) {
   world.boxes.expectBeep().expectQuestion(changeQuestion, false);
   changeRndFile(world.around, world.title);
   EXPECT_EQ(world.files.folder, before);
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
 }
 
 TEST(ChangeRndFile, TheFirstListTakesNoBackup) {
@@ -189,7 +189,7 @@ TEST(ChangeRndFile, TheFirstListTakesNoBackup) {
   changeRndFile(world.around, world.title);
   EXPECT_EQ(world.files.folder,
             (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(3)}}));
-  EXPECT_EQ(world.title.captions, Captions{standardTitle});
+  EXPECT_EQ(world.captions(), Captions{standardTitle});
 }
 
 TEST(ChangeRndFile, TheOldListGoesToItsBackup) {
@@ -215,7 +215,7 @@ TEST(ChangeRndFile, AnEmptyFileIsDeletedUnaskedAndAnyListCounted) {
     changeRndFile(world.around, world.title);
     EXPECT_EQ(world.files.folder,
               (std::map<std::string, Bytes>{{"KARVENIS.LST", countedColumns(5)}}));
-    EXPECT_EQ(world.title.captions, Captions{standardTitle});
+    EXPECT_EQ(world.captions(), Captions{standardTitle});
   }
 }
 
@@ -225,7 +225,7 @@ TEST(ChangeRndFile, AnEmptyFileAndNoListShowNoLastBox) {
   world.boxes.expectBeep();
   changeRndFile(world.around, world.title);
   EXPECT_TRUE(world.files.folder.empty());
-  EXPECT_EQ(world.title.captions, Captions{standardTitle});
+  EXPECT_EQ(world.captions(), Captions{standardTitle});
 }
 
 TEST(ChangeRndFile, MoreRecordsThanTheLimitAreNotRefused) {
@@ -264,7 +264,7 @@ TEST_P(ChangeDespite, AFailingStepTheNextOneRuns) {
   }
   changeRndFile(around, world.title);
   EXPECT_EQ(world.files.folder, GetParam().after);
-  EXPECT_EQ(world.title.captions, Captions{standardTitle});
+  EXPECT_EQ(world.captions(), Captions{standardTitle});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -298,7 +298,7 @@ TEST(DeleteRndFile, OnlyBeepsWithoutAFile) {
   World world;
   world.boxes.expectBeep();
   deleteRndFile(world.around, world.title);
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
 }
 
 TEST(DeleteRndFile, NoKeepsTheFile) {
@@ -307,7 +307,7 @@ TEST(DeleteRndFile, NoKeepsTheFile) {
   world.boxes.expectBeep().expectQuestion(deleteQuestion, false);
   deleteRndFile(world.around, world.title);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
-  EXPECT_TRUE(world.title.captions.empty());
+  EXPECT_TRUE(world.captions().empty());
 }
 
 TEST(DeleteRndFile, YesDeletesAndConfirmsUnderTheDefaultTitle) {
@@ -319,7 +319,7 @@ TEST(DeleteRndFile, YesDeletesAndConfirmsUnderTheDefaultTitle) {
       .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
   deleteRndFile(world.around, world.title);
   EXPECT_TRUE(world.files.folder.empty());
-  EXPECT_EQ(world.title.captions, Captions{standardTitle});
+  EXPECT_EQ(world.captions(), Captions{standardTitle});
 }
 
 TEST(DeleteRndFile, GoesOnWhereTheDeletionFails) {
@@ -334,7 +334,7 @@ TEST(DeleteRndFile, GoesOnWhereTheDeletionFails) {
       .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
   deleteRndFile(around, world.title);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
-  EXPECT_EQ(world.title.captions, Captions{standardTitle});
+  EXPECT_EQ(world.captions(), Captions{standardTitle});
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ TEST(ShowRndPage, CreatesAMissingFileAndShowsPage0) {
   ListWorld world;
   world.redraw();
   EXPECT_EQ(world.files.folder, (Folder{{"KARVENIS.RND", {}}}));
-  EXPECT_EQ(world.title.captions.back(), " Rastgele Kolon Listesi - Sayfa 0  [ F10= Yardım ]");
+  EXPECT_EQ(world.captions().back(), " Rastgele Kolon Listesi - Sayfa 0  [ F10= Yardım ]");
   EXPECT_TRUE(world.surface.runs.empty());
   EXPECT_EQ(world.state.FileNo, 0);
 }
@@ -42,12 +42,12 @@ TEST(ShowRndPage, ShowsTheFileAsItIsNow) {
   world.files.folder["KARVENIS.RND"] = countedColumns(26);
   world.redraw();
   EXPECT_EQ(world.surface.lines().size(), 25U);
-  EXPECT_EQ(world.title.captions.back(), " Rastgele Kolon Listesi - Sayfa 1  [ F10= Yardım ]");
+  EXPECT_EQ(world.captions().back(), " Rastgele Kolon Listesi - Sayfa 1  [ F10= Yardım ]");
   world.page.PageStart = 25;
   world.redraw();
   EXPECT_EQ(world.surface.lines(),
             std::vector<std::string>{"Kolon - 26 :  1   2   3   4   5   31  [ 046 ]"});
-  EXPECT_EQ(world.title.captions.back(), " Rastgele Kolon Listesi - Sayfa 2  [ F10= Yardım ]");
+  EXPECT_EQ(world.captions().back(), " Rastgele Kolon Listesi - Sayfa 2  [ F10= Yardım ]");
   world.files.folder["KARVENIS.RND"] = countedColumns(3);
   world.redraw();
   EXPECT_EQ(world.surface.lines().size(), 3U);
@@ -249,11 +249,11 @@ TEST_P(DialogOver, AFileOfAnyLength) {
   world.boxes.expectBeep();
   DeleteOneColumn(world.around, world.page);
   if (GetParam().deletion) expected.emplace_back("frmRndDel");
-  EXPECT_EQ(world.windows.shown, expected);
+  EXPECT_EQ(world.shown(), expected);
   world.boxes.expectBeep();
   openRndListing(world.around);
   if (GetParam().listing) expected.emplace_back("frmRLPrint");
-  EXPECT_EQ(world.windows.shown, expected);
+  EXPECT_EQ(world.shown(), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, DialogOver,

@@ -142,10 +142,10 @@ void expectShown(const KnownProgram& known, Forms& forms, World& world) {
   EXPECT_EQ(bagOf(world.state), known.bag);
   EXPECT_EQ(bankoOf(world.state), known.banko);
   EXPECT_EQ(world.state.Drawn, known.drawn);
-  EXPECT_EQ(world.chance.seeds.size(), known.seeds);
-  EXPECT_EQ(std::ranges::count(world.printer.log, "end"), known.documents);
-  const auto& pointers = world.boxes.pointers;
-  EXPECT_TRUE(pointers.empty() || pointers.back() == Pointer::normal) << "the hourglass stays";
+  EXPECT_EQ(world.journal.of("seed").size(), known.seeds);
+  EXPECT_EQ(std::ranges::count(world.printed(), "end"), known.documents);
+  const std::vector<std::string> pointers = world.journal.of("pointer");
+  EXPECT_TRUE(pointers.empty() || pointers.back() == "normal") << "the hourglass stays";
 }
 
 }  // namespace karvenis

@@ -425,7 +425,7 @@ TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
       "! HATA !", Icon::critical);
   press(a, Qt::Key_F1);
   EXPECT_TRUE(forms.ending());
-  EXPECT_EQ(world.boxes.pointers, (std::vector<Pointer>{Pointer::normal}));
+  EXPECT_EQ(world.journal.of("pointer"), std::vector<std::string>{"normal"});
   press(a, Qt::Key_F1);  // a second fault says no more
 }
 

@@ -328,6 +328,9 @@ TEST_F(KnowingUser, GetsFromEachWindowWhatHeKnows) {
     expectShown(*known, forms, world);
     ASSERT_FALSE(HasFailure()) << "step " << i << ", seed " << seed() << ":" << story();
     seen.insert(known->active);
+    world.journal.lines.clear();
+    known->seeds = 0;
+    known->documents = 0;
     const auto isLong = [](const auto& columns) { return Lists::count(columns) > mostColumns; };
     if (isLong(known->lists.kept) || isLong(known->lists.list)) replaceLists();
   }

@@ -65,7 +65,7 @@ class KnownProgram {
   std::optional<std::string> text;
   Set bag, banko;
   Column drawn{};
-  std::size_t seeds = 0;
+  std::size_t seeds = 0;  // of the journal's lines, and the documents printed in them
   int documents = 0;
 
   std::string active = "frmLoto";

@@ -142,7 +142,7 @@ TEST_F(Listings, Print) {
   click(control(dialog, "Option2"), {8, 8});
   world.boxes.expectBeep().expectQuestion(printQuestionR, true);
   pressCommand();
-  EXPECT_EQ(world.printer.log.back(), "end");
+  EXPECT_EQ(world.printed().back(), "end");
   openCL(2);
   click(control(dialog, "Option2"), {8, 8});
   world.boxes.expectBeep()

@@ -62,7 +62,7 @@ TEST_F(FrmLoto, StartsCoveredWithEmptyNumbersAndTheBallsAtRest) {
       EXPECT_EQ(image(5 * (k - 1) + 1 + step)->isHidden(), step < 3) << k << " step " << step;
     }
   }
-  EXPECT_EQ(world.chance.seeds.size(), 1U) << "the first activation seeds";
+  EXPECT_EQ(world.journal.of("seed").size(), 1U) << "the first activation seeds";
   EXPECT_TRUE(world.files.folder.empty()) << "nothing is made at start";
 }
 
