@@ -250,6 +250,39 @@ TEST(QtBoxes, HaveIconsOfTheirOwnThatSayWhatTheyAre) {
   }
 }
 
+TEST(QtBoxes, ShowMarkupAsTheTextThatItIs) {
+  message("<b>X</b>", Icon::none, [](const QMessageBox& box) {
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(textOf(box).text(), "<b>X</b>");
+    EXPECT_EQ(textOf(box).textFormat(), Qt::PlainText);
+  });
+}
+
+TEST(QtBoxes, AnInputShowsItsPromptInLinesAndItsPresetSelected) {
+  seeing<QInputDialog>(
+      [] { QtBoxes().input("<b>bir</b>\riki", "Kolon SİLME", "0", ""); },
+      [](const QInputDialog& box) {
+        const auto* label = box.findChild<QLabel*>();
+        EXPECT_EQ(label->text(), "<b>bir</b>\niki");
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        EXPECT_GE(label->height(), 2 * label->fontMetrics().height());
+        const auto* line = box.findChild<QLineEdit*>();
+        EXPECT_EQ(line->text(), "0");
+        EXPECT_EQ(line->selectedText(), "0");
+        EXPECT_EQ(box.focusWidget(), line);
+      });
+}
+
+TEST(QtBoxes, ThePointerIsTheHourglassUntilItIsSetBack) {
+  QtBoxes boxes;
+  boxes.pointer(Pointer::hourglass);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  boxes.pointer(Pointer::hourglass);
+  boxes.pointer(Pointer::normal);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "however often it was set";
+}
+
 TEST(QtBoxes, KeepNoColumnForAMissingIcon) {
   message("X", Icon::none, [](const QMessageBox& box) {
     EXPECT_EQ(scrollerOf(box).x(), box.layout()->contentsMargins().left());

@@ -88,6 +88,15 @@ class WindowTest : public testing::Test {
     }
     return menus;
   }
+  /// The object names of the menus, each with those of its entries behind it.
+  static QStringList menuNamesOf(Form* form) {
+    QStringList names;
+    for (const QAction* head : form->findChild<QMenuBar*>()->actions()) {
+      names.append(head->menu()->objectName());
+      for (const QAction* entry : head->menu()->actions()) names.append(entry->objectName());
+    }
+    return names;
+  }
   /// The lines that a window's surface shows.
   static std::vector<std::string> linesOf(Form* form) {
     std::vector<std::string> lines;

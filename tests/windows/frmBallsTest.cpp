@@ -66,11 +66,11 @@ class FrmBalls : public WindowTest {
 TEST_F(FrmBalls, ShowsItsWords) {
   start();
   EXPECT_EQ(balls->caption(), "6/49 Top Seçme Tablosu");
-  EXPECT_EQ(ball(1)->text(), "01");
-  EXPECT_EQ(ball(9)->text(), "09");
-  EXPECT_EQ(ball(49)->text(), "49");
-  EXPECT_EQ(ball(1)->toolTip(), "1");
-  EXPECT_EQ(ball(49)->toolTip(), "49");
+  for (int number = 1; number <= 49; ++number) {
+    const QString digits = QString::number(number);
+    EXPECT_EQ(ball(number)->text(), digits.rightJustified(2, '0'));
+    EXPECT_EQ(ball(number)->toolTip(), digits);
+  }
   EXPECT_EQ(control<QLabel>(balls, "Label2")->text(), "F10= Yardım");
   EXPECT_EQ(control<QLabel>(balls, "Label2")->toolTip(), "KARVENIS 2005");
   const char* const words[4][3] = {{"Command1", "Uygula", "Uygula"},
@@ -90,6 +90,10 @@ TEST_F(FrmBalls, ShowsItsMenus) {
       {"Dosya", {"Dosyadan Yükle", "Dosyaya Kayıtla"}},
       {"Yardım", {"Fonksiyon Tuşları", "Bu Seçim Niçin ve Nasıl Uygulanır"}}};
   EXPECT_EQ(menusOf(balls), menus);
+  EXPECT_EQ(menuNamesOf(balls),
+            (QStringList{"mnuSecim", "mnuUygula", "mnuL1", "mnuHepsi", "mnuHicbiri", "mnuL2",
+                         "mnuKapat", "mnuDosya", "mnuYukle", "mnuKayitla", "mnuYardim",
+                         "mnuFunctionKeys", "mnuNasil"}));
 }
 
 TEST_F(FrmBalls, TheTemplateIsNeverShownNorTouched) {

@@ -10,6 +10,32 @@ constexpr char missing[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' bulunama
 constexpr char emptyList[] = "Kombinasyon listesi dosyası 'KARVENIS.LST' boş!";
 constexpr char unwantedPrompt[] = "İstemediğiniz sayıları (aralarına virgül koyarak) girin.";
 
+struct FilterKey {
+  Qt::Key key;
+  const char* prompt;
+  const char* example;
+  const char* typed;
+  const char* question;
+};
+
+constexpr FilterKey filterKeys[] = {
+    {Qt::Key_F5, unwantedPrompt, "örnek: 5,12,30", "6",
+     "'6' numaralı topun yer aldığı kolonları silmek istiyormusunuz?"},
+    {Qt::Key_F6,
+     "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
+     "(Herhangi biri olan kolonlar seçilecek.)",
+     "örnek: 7,20", "7,8,9",
+     "'7,8,9' numaralı topların hiç birinin yer almadığı kolonları silmek "
+     "istiyormusunuz?"},
+    {Qt::Key_F7, "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
+     "örnek: 5-12", "7-1",
+     "'1-7' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
+    {Qt::Key_F8,
+     "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin sayılarının "
+     "arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak girin.",
+     "örnek: 3-7,12-40", "1-8",
+     "'1-8'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"}};
+
 /// The window that the list is opened from.
 class Opener final : public Form {
  public:
@@ -65,6 +91,29 @@ TEST_F(FrmComLst, OverAnEmptyListTellsAndStays) {
   press(list, Qt::Key_Down);
 }
 
+TEST_F(FrmComLst, OverAnEmptyListF1F2AndAClickTellOfIt) {
+  openOver(3);
+  hold(0);
+  world.boxes.expectBeep().expectWarning(emptyList);
+  press(list, Qt::Key_F1);
+  world.boxes.expectBeep().expectWarning(emptyList);
+  press(list, Qt::Key_F2);
+  world.boxes.expectWarning(emptyList);
+  click(list);
+  EXPECT_EQ(forms.find("frmCLPrint"), nullptr);
+  EXPECT_FALSE(world.files.exists(randomColumns));
+}
+
+TEST_F(FrmComLst, AnOpenOneThatIsShownAgainWithoutItsListTellsAndCloses) {
+  openOver(3);
+  open("opener");
+  world.files.folder.clear();
+  world.boxes.expectWarning(missing);
+  forms.show("frmComLst");
+  settle();
+  EXPECT_EQ(forms.find("frmComLst"), nullptr);
+}
+
 TEST_F(FrmComLst, AnotherSizeKeepsThePage) {
   openOver(60);
   press(list, Qt::Key_PageDown);
@@ -74,23 +123,33 @@ TEST_F(FrmComLst, AnotherSizeKeepsThePage) {
   EXPECT_EQ(list->caption(), pageTitled(2));
 }
 
-TEST_F(FrmComLst, OtherKeysShowTheListAsItIsNow) {
-  openOver(3);
-  for (const Qt::Key key : {Qt::Key_F9, Qt::Key_A, Qt::Key_Tab}) {
-    hold(2);
+TEST_F(FrmComLst, EveryKeyShowsTheListAsItIsNow) {
+  openOver(30);
+  std::int16_t ball = 20;
+  const auto redraws = [&](Qt::Key key) {
+    world.files.folder[combinationList] =
+        columnBytes(std::vector<ColumnRecord>(30, {1, column(1, 2, 3, 4, 5, ++ball)}));
     press(list, key);
-    EXPECT_EQ(shown().size(), 2U);
-    hold(3);
-    press(list, key);
-    EXPECT_EQ(shown().size(), 3U);
+    EXPECT_TRUE(shown().back().ends_with("[ 0" + std::to_string(15 + ball) + " ]")) << key;
+  };
+  for (const Qt::Key key :
+       {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Space, Qt::Key_Home,
+        Qt::Key_Return, Qt::Key_End, Qt::Key_F9, Qt::Key_A, Qt::Key_Tab}) {
+    redraws(key);
   }
-  world.boxes.expectBeep(2);
-  hold(4);
-  press(list, Qt::Key_F11);
-  EXPECT_EQ(shown().size(), 4U);
-  hold(5);
-  press(list, Qt::Key_F12);
-  EXPECT_EQ(shown().size(), 5U);
+  for (const Qt::Key key : {Qt::Key_F11, Qt::Key_F12, Qt::Key_F1}) {
+    world.boxes.expectBeep();
+    redraws(key);
+  }
+  forms.find("frmCLPrint")->unload();
+  expectNumber("");
+  redraws(Qt::Key_F3);
+  world.boxes.expectBeep().expectQuestion(combinations.deleteQuestion, false);
+  redraws(Qt::Key_F4);
+  for (const FilterKey& filter : filterKeys) {
+    expectFilter(filter.prompt, filter.example, "");
+    redraws(filter.key);
+  }
 }
 
 TEST_F(FrmComLst, EscClosesWithoutARedraw) {
@@ -170,39 +229,14 @@ TEST_F(FrmComLst, F4DeletesTheListAndKeepsThePage) {
   EXPECT_NE(forms.find("frmComLst"), nullptr);
 }
 
-struct FilterKey {
-  Qt::Key key;
-  const char* prompt;
-  const char* example;
-  const char* typed;
-  const char* question;
-};
-
 TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
-  const FilterKey keys[] = {
-      {Qt::Key_F5, unwantedPrompt, "örnek: 5,12,30", "6",
-       "'6' numaralı topun yer aldığı kolonları silmek istiyormusunuz?"},
-      {Qt::Key_F6,
-       "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
-       "(Herhangi biri olan kolonlar seçilecek.)",
-       "örnek: 7,20", "7,8,9",
-       "'7,8,9' numaralı topların hiç birinin yer almadığı kolonları silmek "
-       "istiyormusunuz?"},
-      {Qt::Key_F7, "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
-       "örnek: 5-12", "7-1",
-       "'1-7' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
-      {Qt::Key_F8,
-       "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin sayılarının "
-       "arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak girin.",
-       "örnek: 3-7,12-40", "1-8",
-       "'1-8'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?"}};
   const std::size_t left[] = {58, 6, 4, 2};
   openOver(60);
   for (std::size_t i = 0; i < 4; ++i) {
-    SCOPED_TRACE(keys[i].question);
-    expectFilter(keys[i].prompt, keys[i].example, keys[i].typed);
-    world.boxes.expectQuestion(keys[i].question, true);
-    press(list, keys[i].key);
+    SCOPED_TRACE(filterKeys[i].question);
+    expectFilter(filterKeys[i].prompt, filterKeys[i].example, filterKeys[i].typed);
+    world.boxes.expectQuestion(filterKeys[i].question, true);
+    press(list, filterKeys[i].key);
     EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
     EXPECT_EQ(records(), left[i]);
     EXPECT_TRUE(showsFrom(2, std::min<std::size_t>(left[i] - 1, 25)));

@@ -1,5 +1,7 @@
 #include "randomlist/frmRndDel.h"
 
+#include <QLabel>
+
 #include "core/Numbers.h"
 #include "doubles/Doubles.h"
 #include "randomlist/frmRndLst.h"
@@ -31,8 +33,21 @@ class FrmRndDel : public WindowTest {
 TEST_F(FrmRndDel, AsksForANumber) {
   openOver(3);
   EXPECT_EQ(dialog->caption(), " Kolon Silme");
+  EXPECT_EQ(control<QLabel>(dialog, "Label1")->text(),
+            "Silmek istediğiniz kolon numarasını girin.");
+  EXPECT_EQ(control<QPushButton>(dialog, "Command1")->text(), "Tamam");
+  EXPECT_EQ(control<QPushButton>(dialog, "Command2")->text(), "İptal");
   EXPECT_TRUE(number()->hasFocus());
   EXPECT_EQ(number()->text(), "");
+}
+
+TEST_F(FrmRndDel, TakesEveryCharacterAsItIsTyped) {
+  openOver(3);
+  QString typed;
+  for (char c = ' '; c <= '~'; ++c) typed += QLatin1Char(c);
+  typed += typed;
+  type(dialog, typed);
+  EXPECT_EQ(number()->text(), typed);
 }
 
 TEST_F(FrmRndDel, AFileInSmallLettersIsNoneOfTheirs) {

@@ -208,12 +208,14 @@ TEST_F(FrmRnd, EscAndTheButtonClose) {
 
 TEST_F(FrmRnd, AnOpenOneKeepsItsCountAndAFreshOneCountsAnew) {
   start(10);
+  clickOption(1);
   put("7");
   putList(20);
   forms.show("opener");
   ASSERT_TRUE(QTest::qWaitForWindowActive(forms.find("opener")));
   start();
   EXPECT_EQ(text1()->text(), "32757") << "shown again: the count of its loading";
+  EXPECT_TRUE(option(2)->isChecked());
   press(form, Qt::Key_Escape);
   settle();
   start();
