@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "bag/Texts.h"
-#include "core/Numbers.h"
 #include "bag/widgets/BallCell.h"
+#include "core/Numbers.h"
 #include "platform/qt/Letters.h"
 #include "platform/qt/Text.h"
 

@@ -91,12 +91,11 @@ TEST_P(FilterRewrite, KeepsTheOrderMarksTheWordsAndShowsItsProgress) {
   EXPECT_FALSE(world.files.exists(tmpScratch));
   EXPECT_EQ(world.state.FileNo, 0);
   const std::string second = passes.secondPass;
-  EXPECT_EQ(
-      world.captions(),
-      (std::vector<std::string>{" FAZ 1 - Kolon : 4 [ 1 ]", " FAZ 1 - Kolon : 3 [ 2 ]",
-                                " FAZ 1 - Kolon : 2 [ 3 ]", " FAZ 1 - Kolon : 2 [ 4 ]",
-                                second + " 1 [ 2 ]", second + " 1 [ 2 ]", second + " 1 [ 2 ]",
-                                second + " 2 [ 2 ]", " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]"}));
+  EXPECT_EQ(world.captions(), (std::vector<std::string>{
+                                  " FAZ 1 - Kolon : 4 [ 1 ]", " FAZ 1 - Kolon : 3 [ 2 ]",
+                                  " FAZ 1 - Kolon : 2 [ 3 ]", " FAZ 1 - Kolon : 2 [ 4 ]",
+                                  second + " 1 [ 2 ]", second + " 1 [ 2 ]", second + " 1 [ 2 ]",
+                                  second + " 2 [ 2 ]", " KOMBİNASYON LİSTESİ  [ F10= YARDIM ]"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Filters, FilterRewrite,

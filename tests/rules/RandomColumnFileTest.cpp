@@ -25,8 +25,7 @@ TEST(SaveRndColumn, MakesTheFileAndItsFirstRecordAscending) {
   saveRndColumn(world.around, world.title, false);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), hex("00000000 0100 0700 0B00 1E00 2A00 3100"));
   EXPECT_EQ(world.state.Drawn, column(1, 7, 11, 30, 42, 49)) << "the array itself is sorted";
-  EXPECT_EQ(world.captions(),
-            (Captions{" Kolon kayıtlanıyor...", " KARVENIS.RND Kayıt No= 1"}));
+  EXPECT_EQ(world.captions(), (Captions{" Kolon kayıtlanıyor...", " KARVENIS.RND Kayıt No= 1"}));
   EXPECT_EQ(world.windows.announced, Captions{" KARVENIS.RND Kayıt No= 1"});
   EXPECT_EQ(world.journal.of("pointer"), (Captions{"hourglass", "normal"}));
   EXPECT_EQ(world.state.FileNo, 0);

@@ -259,18 +259,17 @@ TEST(QtBoxes, ShowMarkupAsTheTextThatItIs) {
 }
 
 TEST(QtBoxes, AnInputShowsItsPromptInLinesAndItsPresetSelected) {
-  seeing<QInputDialog>(
-      [] { QtBoxes().input("<b>bir</b>\riki", "Kolon SİLME", "0", ""); },
-      [](const QInputDialog& box) {
-        const auto* label = box.findChild<QLabel*>();
-        EXPECT_EQ(label->text(), "<b>bir</b>\niki");
-        EXPECT_EQ(label->textFormat(), Qt::PlainText);
-        EXPECT_GE(label->height(), 2 * label->fontMetrics().height());
-        const auto* line = box.findChild<QLineEdit*>();
-        EXPECT_EQ(line->text(), "0");
-        EXPECT_EQ(line->selectedText(), "0");
-        EXPECT_EQ(box.focusWidget(), line);
-      });
+  seeing<QInputDialog>([] { QtBoxes().input("<b>bir</b>\riki", "Kolon SİLME", "0", ""); },
+                       [](const QInputDialog& box) {
+                         const auto* label = box.findChild<QLabel*>();
+                         EXPECT_EQ(label->text(), "<b>bir</b>\niki");
+                         EXPECT_EQ(label->textFormat(), Qt::PlainText);
+                         EXPECT_GE(label->height(), 2 * label->fontMetrics().height());
+                         const auto* line = box.findChild<QLineEdit*>();
+                         EXPECT_EQ(line->text(), "0");
+                         EXPECT_EQ(line->selectedText(), "0");
+                         EXPECT_EQ(box.focusWidget(), line);
+                       });
 }
 
 TEST(QtBoxes, ThePointerIsTheHourglassUntilItIsSetBack) {

@@ -91,10 +91,9 @@ TEST_F(FrmBanko, ShowsItsMenus) {
       {"Dosya", {"Dosyadan Yükle", "Dosyaya Kayıtla"}},
       {"Yardım", {"Fonksiyon Tuşları", "Banko Nedir ve Niçin Kullanılır"}}};
   EXPECT_EQ(menusOf(banko), menus);
-  EXPECT_EQ(menuNamesOf(banko),
-            (QStringList{"mnuSecim", "mnuUygula", "mnuSil", "mnuL1", "mnuKapat", "mnuDosya",
-                         "mnuYukle", "mnuKayitla", "mnuYardim", "mnuFunctionKeys",
-                         "mnuBankoNedir"}));
+  EXPECT_EQ(menuNamesOf(banko), (QStringList{"mnuSecim", "mnuUygula", "mnuSil", "mnuL1", "mnuKapat",
+                                             "mnuDosya", "mnuYukle", "mnuKayitla", "mnuYardim",
+                                             "mnuFunctionKeys", "mnuBankoNedir"}));
 }
 
 TEST_F(FrmBanko, StartsWithNoneWhereThereIsNone) {
