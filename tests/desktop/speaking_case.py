@@ -30,6 +30,10 @@ class SpeakingCase(DesktopCase):
 
     def hear(self, *lines):
         """Exactly these lines come next, and none of them is cut off by the one behind it."""
+        if self.screen.is_newer:
+            for line in self.awaited(lines):
+                self.listen(re.escape(line))
+            return
         end = 0
 
         def spoken():
@@ -45,6 +49,12 @@ class SpeakingCase(DesktopCase):
             pass
         self.assertEqual(spoken(), list(lines), self._coming())
         self._heard += end
+
+    def awaited(self, lines):
+        """Those of the lines that are waited for. An Orca newer than 43 repeats the surroundings and
+        cuts itself off, so that others may be between them; where it is busy it leaves out the
+        first of several, which is the title of a window."""
+        return lines[1:] if self.screen.is_newer and len(lines) > 1 else lines
 
     def listen(self, pattern):
         """The next line that matches, as its match; those before it are passed over."""

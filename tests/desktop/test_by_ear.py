@@ -43,7 +43,7 @@ class ByEar(SpeakingCase):
         self.note()
         self.told.append(f"- {key}")
         self.program.keys(key)
-        return [self.listen(pattern) for pattern in patterns][-1]
+        return [self.listen(pattern) for pattern in self.awaited(patterns)][-1]
 
     def write_in(self, digits):
         self.note()
@@ -206,7 +206,7 @@ class ByEar(SpeakingCase):
 
     def list_as_text(self):
         self.step("The list is written to a text file")
-        self.do("F1", "Kombinasyon Listesi", "Başlangıç : metin", "1 seçilmiş")
+        self.do("F1", "Başlangıç : metin", "1 seçilmiş")
         self.agree("F1", r"Kombinasyon Listesi'ni KARVENIS\.TXT dosyasına yazdırmak "
                          r"istiyormusunuz \?",
                    '[0-9]+ byte "KARVENIS.TXT" dosyasına yazıldı')

@@ -17,6 +17,11 @@ def row(number, *balls):
 
 
 class Spoken(SpeakingCase):
+    @property
+    def dots(self):
+        """What is said of three full stops at the end."""
+        return "" if self.screen.is_newer else 3 * " nokta"
+
     def question(self, key, text, title="KARVENIS 2005 Randomizer", answered=()):
         """A question that a key brings is read; Enter says yes, which is followed by `answered`."""
         self.press(key, f"uyarı {title}", text, "Evet düğme")
@@ -123,8 +128,7 @@ class Spoken(SpeakingCase):
         self.press("F3", "uyarı KARVENIS 2005 Randomizer",
                    "Topları KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?", "Evet düğme")
         self.press("Return", "uyarı KARVENIS 2005 Randomizer",
-                   "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı nokta nokta nokta",
-                   "Tamam düğme")
+                   "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı" + self.dots, "Tamam düğme")
         self.press("Return", "6/49 Top Seçme Tablosu", "Toplar panel", f"1 {UNTICKED}")
         self.assertEqual(program.bytes("KARVENIS.DAT"), bag_file([]))
 
