@@ -1,5 +1,5 @@
 // Plays the desktop's sound "bell" once for each byte of its standard input, which is a pipe from
-// karvenis, and ends with it. Where it cannot play it ends at once: karvenis beeps itself then.
+// karvenis, and ends with it. If it cannot play, it ends at once, and karvenis beeps by itself.
 
 #include <canberra.h>
 #include <dlfcn.h>
@@ -13,12 +13,12 @@
 
 namespace {
 
-/// Bells that were asked for while none could be played: more than these came too late.
+/// How many waiting bells are played at most; a bell beyond them would come too late.
 constexpr ssize_t mostAtOnce = 8;
 /// From one bell to the next, so that two of them are heard as two.
 constexpr std::chrono::milliseconds apart(80);
 
-/// The sound library, loaded where it is installed: karvenis works without it.
+/// The sound library, loaded if it is installed: karvenis works without it.
 class Sounds {
  public:
   /// Whether bells can be played.
@@ -28,7 +28,7 @@ class Sounds {
                  CA_PROP_APPLICATION_ICON_NAME, "karvenis", nullptr) == CA_SUCCESS &&
            open_(context_) == CA_SUCCESS;
   }
-  /// Starts one bell; false where it cannot be played.
+  /// Starts one bell. Returns false if it cannot be played.
   bool play() {
     return play_(context_, 0, CA_PROP_EVENT_ID, "bell", CA_PROP_CANBERRA_CACHE_CONTROL, "volatile",
                  nullptr) == CA_SUCCESS;

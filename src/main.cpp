@@ -15,15 +15,15 @@
 
 using namespace Qt::StringLiterals;
 
-// Wires the doors to the windows; what the program does stands in the rooms.
+// Makes the doors and the windows and connects them. What the program does is decided in the rooms.
 
 namespace {
 
 /// The toolkit's own words (the menus of text boxes) in Turkish too, whatever the system's
 /// language.
-void speakTurkish(QTranslator& words) {
-  if (words.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-    QCoreApplication::installTranslator(&words);
+void speakTurkish(QTranslator& translator) {
+  if (translator.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(&translator);
   }
 }
 
@@ -32,7 +32,7 @@ void speakTurkish(QTranslator& words) {
 int main(int, char** argv) {
   using namespace karvenis;
   SystemFiles files;  // first, since the toolkit may write files too
-  int count = 1;      // the program's name; the toolkit's own options are no options of the program
+  int count = 1;      // only the program's name: it does not take the toolkit's options
   Application application(count, argv);
   Application::setApplicationName(u"KARVENIS"_s);
   Application::setDesktopFileName(u"karvenis"_s);

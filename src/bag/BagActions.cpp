@@ -7,7 +7,7 @@
 namespace karvenis {
 namespace {
 
-/// The marked balls in ascending order; the bankos among them stay.
+/// Makes the marked balls, in ascending order, the bag; bankos among them are not removed.
 void takeMarked(SharedState& state, const BallButtons& buttons) {
   state.Bag.clear();
   for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
@@ -46,7 +46,7 @@ void loadBagInBagWindow(Surroundings& around, BallButtons& buttons) {
   const std::int64_t length = bagFileLength(around.files);
   if (length <= bagWordSize) return;
   if (!around.boxes.ask("Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
-  if (!around.files.exists(bagFileName)) return;  // it went while the question was open
+  if (!around.files.exists(bagFileName)) return;  // deleted while the question was open
 
   BagFile file(around.files);
   const std::int16_t count = file.bagCount();

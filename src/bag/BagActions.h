@@ -12,6 +12,7 @@ class BallButtons {
   [[nodiscard]] virtual bool isMarked(int ball) const = 0;
   virtual void setMarked(int ball, bool marked) = 0;
 
+  /// Marks or unmarks all 49 balls.
   void markAll(bool marked);
 };
 
@@ -19,17 +20,17 @@ class BallButtons {
 void showBag(const SharedState& state, BallButtons& buttons);
 
 /// "Uygula": the marked balls, without the bankos, become the bag, and the buttons show it. Any
-/// number of balls will do. Beeps.
+/// number of balls is accepted. Beeps.
 void applyBag(Surroundings& around, BallButtons& buttons);
 
 /// "Yükle" of the bag window: asks, takes the bag from the file and shows it. Unlike the main
 /// window's load it accepts a file of exactly 2 x count bytes, warns if the file is broken, and
-/// empties the bag if the count is 0 or less. A file that goes while the question is open changes
-/// nothing. Throws RunTimeError(open, read).
+/// empties the bag if the count is 0 or less. If the file is deleted while the question is open,
+/// nothing changes. Throws RunTimeError(open, read).
 void loadBagInBagWindow(Surroundings& around, BallButtons& buttons);
 
-/// "Kayıtla": asks, then the marked balls become the bag, bankos and all, and go to the file. What
-/// the file holds of the bankos stays. Throws RunTimeError(open, write).
+/// "Kayıtla": asks; then the marked balls, also those that are bankos, become the bag and are
+/// written to the file. The bankos in the file stay. Throws RunTimeError(open, write).
 void saveBag(Surroundings& around, const BallButtons& buttons);
 
 }  // namespace karvenis

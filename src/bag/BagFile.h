@@ -34,13 +34,13 @@ class BagFile {
 
   /// Bytes in the file, with what has been written.
   [[nodiscard]] std::int64_t length() const { return static_cast<std::int64_t>(file_.length()); }
-  /// The counts as they stand; 0 past the end. They throw RunTimeError(read).
+  /// The counts as the file holds them; 0 past its end. Throw RunTimeError(read).
   [[nodiscard]] std::int16_t bagCount() { return get(bagCountWord); }
   [[nodiscard]] std::int16_t bankoCount() { return get(bankoCountWord); }
   /// The first `count` balls of the bag, up to the first word that is no ball; none for a count
   /// outside 1..49. Throws RunTimeError(read).
   [[nodiscard]] BallSet<ballsInAll> bag(std::int16_t count);
-  /// The first `count` bankos as they stand; none for a count outside 1..5. Throws
+  /// The first `count` bankos as the file holds them; none for a count outside 1..5. Throws
   /// RunTimeError(read).
   [[nodiscard]] BallSet<mostBankos> bankos(std::int16_t count);
 
@@ -49,7 +49,7 @@ class BagFile {
   void write(const BallSet<ballsInAll>& bag);
   /// Writes the banko count and the bankos; words behind them stay. Throws RunTimeError(write).
   void write(const BallSet<mostBankos>& bankos);
-  /// Returns with everything on disk and the file closed. Throws RunTimeError(write).
+  /// Returns when everything is on disk and the file is closed. Throws RunTimeError(write).
   void close() { file_.close(); }
 
  private:

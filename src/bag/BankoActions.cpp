@@ -68,7 +68,7 @@ void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
   const std::int64_t length = bagFileLength(around.files);
   if (!holdsBankos(length, 0)) return;
   if (!around.boxes.ask("Banko topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?")) return;
-  if (!around.files.exists(bagFileName)) return;  // it went while the question was open
+  if (!around.files.exists(bagFileName)) return;  // deleted while the question was open
 
   BagFile file(around.files);
   const std::int16_t count = file.bankoCount();

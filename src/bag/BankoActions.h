@@ -23,28 +23,28 @@ class BankoBoxes {
 /// The caption over `count` boxes (0..5).
 [[nodiscard]] const char* bankoCaption(int count);
 
-/// What a box keeps of a text: the number that `typed` begins with, plainly written, or nothing if
-/// that is no ball (1..49). Only ASCII digits count, and only at the very start.
+/// What a box keeps of the text `typed` into it: the number that it begins with, without leading
+/// zeros, or nothing if that is no ball (1..49). Only ASCII digits at the very start count.
 [[nodiscard]] std::string bankoText(std::string_view typed);
 
-/// Shows the bankos: selects how many there are and writes them into the boxes, which clear what is
-/// no ball. The other boxes keep their text.
+/// Shows the bankos: selects the option of their number and writes them into the first boxes. A box
+/// does not take a number that is no ball. The other boxes keep their text.
 void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes);
 
-/// "Uygula": the numbers in the boxes become the bankos, without blanks and repeats, and leave the
-/// bag for good. Beeps.
+/// "Uygula": the numbers in the boxes become the bankos, each once; empty boxes do not count. The
+/// bankos are removed from the bag and do not come back. Beeps.
 void applyBanko(Surroundings& around, BankoBoxes& boxes);
 
-/// "Seçimi Sil": no bankos. The boxes keep what they show, and no ball returns to the bag.
+/// "Seçimi Sil": removes all bankos. The boxes keep what they show, and no ball returns to the bag.
 void clearBanko(SharedState& state);
 
 /// "Yükle" of the banko window: asks, takes the bankos from the file, shows them and removes them
-/// from the bag; warns if the file is broken. A file that goes while the question is open changes
-/// nothing. Throws RunTimeError(open, read).
+/// from the bag; warns if the file is broken. If the file is deleted while the question is open,
+/// nothing changes. Throws RunTimeError(open, read).
 void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes);
 
-/// "Kayıtla": asks, applies, then puts the bankos into the file. What the file holds of the bag
-/// stays; a new file gets an empty bag. Throws RunTimeError(open, write).
+/// "Kayıtla": asks, applies, then writes the bankos to the file. The bag in the file stays; a new
+/// file gets an empty bag. Throws RunTimeError(open, write).
 void saveBanko(Surroundings& around, BankoBoxes& boxes);
 
 }  // namespace karvenis

@@ -56,7 +56,7 @@ void Coupon::finish() {
   window_.hideLabel1();
 }
 
-/// The ticks stop first: they would go on behind the open box.
+/// The timer stops first: it would go on while the box is open.
 void Coupon::refuse() {
   window_.enableTimer1(false);
   rewind();

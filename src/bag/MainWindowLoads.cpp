@@ -4,6 +4,7 @@
 #include "bag/Spoken.h"
 
 namespace karvenis {
+
 void loadBagInMainWindow(Surroundings& around) {
   around.boxes.beep();
   if (!around.files.exists(bagFileName)) return;

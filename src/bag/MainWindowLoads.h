@@ -4,8 +4,8 @@
 
 namespace karvenis {
 
-// The main window's own loads. Those of the bag and the banko window, which show what they load,
-// stand with their other actions.
+// How the main window loads the bag and the bankos. The bag and the banko window have loads of
+// their own (BagActions.h, BankoActions.h), which also show what they have loaded.
 
 /// F6 of the main window, "Torbayı KARVENIS.DAT dosyasından yükle": beeps, asks and runs
 /// LoadBagFromFile; only beeps if there is no file.
@@ -15,14 +15,14 @@ void loadBagInMainWindow(Surroundings& around);
 /// LoadBankoFromFile; only beeps if there is no file or it does not reach the banko count.
 void loadBankoInMainWindow(Surroundings& around);
 
-/// Takes the bag from the file, without its bankos. A file that holds no whole bag, or that is
-/// gone, leaves the bag as it is; a count of 50 or more empties it. Beeps: twice if a bag was
-/// found, else once. Throws RunTimeError(open, read).
+/// Loads the bag from the file and removes the bankos from it. If the file is missing or shorter
+/// than its count says, or the count is below 1, the bag stays as it is; a count of 50 or more
+/// empties it. Beeps twice if a bag was found, else once. Throws RunTimeError(open, read).
 void LoadBagFromFile(Surroundings& around);
 
-/// Takes the bankos from the file and removes them from the bag. A file that does not hold them
-/// all leaves them as they are, and one that is gone leaves the bag too; a count outside 1..5
-/// leaves none. Beeps once. Throws RunTimeError(open, read).
+/// Loads the bankos from the file and removes them from the bag. If the file is shorter than its
+/// count says, the bankos stay as they are; if it is missing, so does the bag. A count outside 1..5
+/// means no bankos. Beeps once. Throws RunTimeError(open, read).
 void LoadBankoFromFile(Surroundings& around);
 
 }  // namespace karvenis

@@ -6,10 +6,10 @@
 
 namespace karvenis {
 
-/// How many balls the bag holds, for those who hear it: "Torbada 12 top".
+/// How many balls the bag holds, as a screen reader says it: "Torbada 12 top".
 std::string spokenBag(const SharedState& state);
 
-/// The bankos, for those who hear them: "Banko: 7, 30".
+/// The bankos, as a screen reader says them: "Banko: 7, 30".
 std::string spokenBanko(const SharedState& state);
 
 }  // namespace karvenis

@@ -6,9 +6,9 @@ namespace karvenis {
 
 /// The longer texts of the bag, banko and coupon windows. Character 13 is a line break.
 
-/// What a load says of a file that does not hold what its counts claim.
+/// The warning of a load if the file is shorter than its counts say.
 inline constexpr char bagFileBroken[] = "'KARVENIS.DAT' dosyası bozuk !";
-/// What a save says when it is done.
+/// The message of a save when it is done.
 inline constexpr char bagFileSaved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
 
 inline constexpr char bagKeys[] =

@@ -57,8 +57,7 @@ void frmBalls::buildCells() {
   grid->setSpacing(2);
   for (int index = 0; index <= ballsInAll; ++index) buildCell(index);
   for (int ball = 1; ball <= ballsInAll; ++ball) {
-    grid->addWidget(cmdBall[static_cast<std::size_t>(ball)], (ball - 1) / cellsInRow,
-                    (ball - 1) % cellsInRow);
+    grid->addWidget(cmdBall[ball], (ball - 1) / cellsInRow, (ball - 1) % cellsInRow);
   }
 }
 
@@ -69,7 +68,7 @@ void frmBalls::buildCell(int index) {
   cell->setObjectName(u"cmdBall_%1"_s.arg(index));
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cell->setAccessibleName(cell->toolTip());
-  cmdBall[static_cast<std::size_t>(index)] = cell;
+  cmdBall[index] = cell;
   if (!isBall) {
     cell->hide();
     return;
@@ -112,10 +111,8 @@ void frmBalls::ownKey(int KeyCode) {
   }
 }
 
-/// The font, and not the tag, says which way a click turns.
-void frmBalls::cmdBall_Click(int Index) {
-  setMarked(Index, !cmdBall[static_cast<std::size_t>(Index)]->font().bold());
-}
+/// Whether a click marks or unmarks depends on the font, not on the tag.
+void frmBalls::cmdBall_Click(int Index) { setMarked(Index, !cmdBall[Index]->font().bold()); }
 
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
 void frmBalls::Command3_Click() { loadBagInBagWindow(around_, *this); }
@@ -138,16 +135,16 @@ void frmBalls::mnuFunctionKeys_Click() {
 
 void frmBalls::mnuNasil_Click() { around_.boxes.message(bagExplained, bagExplainedTitle); }
 
-/// The tag, and not the look, says what counts as marked.
+/// A ball is marked if its tag says so, whatever it looks like.
 bool frmBalls::isMarked(int ball) const {
-  const QVariant mark = cmdBall[static_cast<std::size_t>(ball)]->property(tag);
+  const QVariant mark = cmdBall[ball]->property(tag);
   return typedNumber16(fromQt(mark.toString())) == 1;
 }
 
 void frmBalls::setMarked(int ball, bool marked) {
   markedBalls_ += static_cast<int>(marked) - static_cast<int>(isMarked(ball));
   Label1->setText(u"%1 top işaretli"_s.arg(markedBalls_));
-  BallCell* cell = cmdBall[static_cast<std::size_t>(ball)];
+  BallCell* cell = cmdBall[ball];
   QFont number = cell->font();
   number.setBold(marked);
   cell->setFont(number);
@@ -157,19 +154,19 @@ void frmBalls::setMarked(int ball, bool marked) {
   cell->setProperty(tag, marked ? u"1"_s : u"0"_s);
 }
 
-/// Moves the focus inside the grid; at its border it stays.
+/// Moves the focus inside the grid; at the edge of the grid it stays where it is.
 void frmBalls::step(int from, int columns, int rows) {
   const int column = (from - 1) % cellsInRow + columns;
   const int row = (from - 1) / cellsInRow + rows;
   if (column < 0 || column >= cellsInRow || row < 0 || row >= ballsInAll / cellsInRow) return;
-  cmdBall[static_cast<std::size_t>(row * cellsInRow + column + 1)]->setFocus(Qt::TabFocusReason);
+  cmdBall[row * cellsInRow + column + 1]->setFocus(Qt::TabFocusReason);
 }
 
 /// Tab leads to one ball only, the one that had the focus last; the arrows lead to the others.
 void frmBalls::takeTabStop(int index) {
-  cmdBall[static_cast<std::size_t>(tabStop_)]->setFocusPolicy(Qt::ClickFocus);
+  cmdBall[tabStop_]->setFocusPolicy(Qt::ClickFocus);
   tabStop_ = index;
-  cmdBall[static_cast<std::size_t>(index)]->setFocusPolicy(Qt::StrongFocus);
+  cmdBall[index]->setFocusPolicy(Qt::StrongFocus);
 }
 
 }  // namespace karvenis

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "bag/BagActions.h"
 #include "bag/frmSelection.h"
+#include "platform/qt/ControlArray.h"
 
 class QFrame;
 class QLabel;
@@ -48,10 +47,10 @@ class frmBalls final : public frmSelection, private BallButtons {
   int tabStop_ = 1;  // the ball that Tab leads to
   int markedBalls_ = 0;
 
-  QFrame* Frame1 = nullptr;                         // holds the ball buttons
-  std::array<BallCell*, ballsInAll + 1> cmdBall{};  // 1..49: the balls; 0: a template, never shown
-  QLabel* Label1 = nullptr;                         // how many balls are marked
-  QLabel* Label2 = nullptr;                         // "F10= Yardım"
+  QFrame* Frame1 = nullptr;                        // holds the ball buttons
+  ControlArray<BallCell, ballsInAll + 1> cmdBall;  // 1..49: the balls; 0: a template, never shown
+  QLabel* Label1 = nullptr;                        // how many balls are marked
+  QLabel* Label2 = nullptr;                        // "F10= Yardım"
 };
 
 }  // namespace karvenis

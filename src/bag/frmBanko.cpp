@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <array>
 
 #include "bag/Texts.h"
 #include "platform/qt/Letters.h"
@@ -49,15 +51,15 @@ QWidget* frmBanko::buildOptions() {
   constexpr std::array clicks = {&frmBanko::Option1_Click, &frmBanko::Option2_Click,
                                  &frmBanko::Option3_Click, &frmBanko::Option4_Click,
                                  &frmBanko::Option5_Click, &frmBanko::Option6_Click};
-  for (int count = 0; count <= mostBankos; ++count) {
+  for (int count = 0; const auto click : clicks) {
     auto* option = control<QRadioButton>(u"Option%1"_s.arg(count + 1), QString::number(count));
     option->setAccessibleName(u"%1 banko top"_s.arg(count));
-    on(option, &QRadioButton::toggled,
-       [this, option, click = clicks[static_cast<std::size_t>(count)]] {
-         if (option->isChecked()) (this->*click)();
-       });
-    Option[static_cast<std::size_t>(count)] = option;
+    on(option, &QRadioButton::toggled, [this, option, click] {
+      if (option->isChecked()) (this->*click)();
+    });
+    Option[count] = option;
     row->addWidget(option);
+    ++count;
   }
   row->addStretch();
   return holder;
@@ -72,26 +74,28 @@ QWidget* frmBanko::buildBoxes() {
   column->addWidget(Label2);
   auto* row = new QHBoxLayout;
   row->setSpacing(boxGap);
-  for (int index = 0; index < mostBankos; ++index) {
-    auto* box = control<NumberBox>(u"Text1_%1"_s.arg(index));
-    box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
-    box->setAlignment(Qt::AlignCenter);
-    box->setFixedHeight(qRound(boxHeight * letterGrowth()));
-    box->setMinimumWidth(box->height());
-    QFont large = box->font();
-    large.setPixelSize(qRound(boxPixels * letterGrowth()));
-    box->setFont(large);
-    QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    kept.setRetainSizeWhenHidden(true);
-    box->setSizePolicy(kept);
-    box->hide();
-    on(box, &NumberBox::textChanged, [this, index] { Text1_Change(index); });
-    onEnter(box, [this, index] { Text1_KeyPress(index); });
-    Text1[static_cast<std::size_t>(index)] = box;
-    row->addWidget(box);
-  }
+  for (int index = 0; index < mostBankos; ++index) row->addWidget(buildBox(index));
   column->addLayout(row);
   return holder;
+}
+
+/// A hidden box keeps its room, so that the window does not change its size.
+QWidget* frmBanko::buildBox(int index) {
+  auto* box = Text1[index] = control<NumberBox>(u"Text1_%1"_s.arg(index));
+  box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
+  box->setAlignment(Qt::AlignCenter);
+  box->setFixedHeight(qRound(boxHeight * letterGrowth()));
+  box->setMinimumWidth(box->height());
+  QFont large = box->font();
+  large.setPixelSize(qRound(boxPixels * letterGrowth()));
+  box->setFont(large);
+  QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  kept.setRetainSizeWhenHidden(true);
+  box->setSizePolicy(kept);
+  box->hide();
+  on(box, &NumberBox::textChanged, [this, index] { Text1_Change(index); });
+  onEnter(box, [this, index] { Text1_KeyPress(index); });
+  return box;
 }
 
 QWidget* frmBanko::buildFoot() {
@@ -120,7 +124,7 @@ void frmBanko::ownKey(int KeyCode) {
   if (KeyCode == keyF11) mnuBankoNedir_Click();
 }
 
-/// So that the next digit arrives; if every box is filled, the focus stays.
+/// Moves the focus to where the next digit belongs; if every box is filled, it stays.
 void frmBanko::focusFirstEmptyBox() {
   const auto empty = std::ranges::find_if(
       Text1, [](const NumberBox* box) { return box->isVisible() && box->text().isEmpty(); });
@@ -129,31 +133,31 @@ void frmBanko::focusFirstEmptyBox() {
 
 /// The chosen option speaks for itself only if it has the focus.
 void frmBanko::tellCount() {
-  const QRadioButton* chosen = Option[static_cast<std::size_t>(count())];
+  const QRadioButton* chosen = Option[count()];
   if (!chosen->hasFocus()) around_.windows.announce(fromQt(chosen->accessibleName()));
 }
 
 void frmBanko::showBoxes(int count) {
   Label2->setText(toQt(bankoCaption(count)));
   for (int index = 0; index < mostBankos; ++index) {
-    Text1[static_cast<std::size_t>(index)]->setVisible(index < count);
+    Text1[index]->setVisible(index < count);
   }
-  // The focus goes with the choice, unless the user works elsewhere in the window.
+  // The focus follows the choice, unless it is on another control of the window.
   QWidget* focused = focusWidget();
   if (focused == nullptr || qobject_cast<QRadioButton*>(focused) != nullptr) {
-    Option[static_cast<std::size_t>(count)]->setFocus();
+    Option[count]->setFocus();
   }
 }
 
-/// Rewrites the box only where that changes it, so that the caret does not jump.
+/// Rewrites the box only if that changes it, so that the caret does not jump.
 void frmBanko::Text1_Change(int Index) {
-  NumberBox* box = Text1[static_cast<std::size_t>(Index)];
+  NumberBox* box = Text1[Index];
   const QString kept = toQt(bankoText(fromQt(box->text())));
   if (kept != box->text()) box->setText(kept);
 }
 
 void frmBanko::Text1_KeyPress(int Index) {
-  const auto next = static_cast<std::size_t>(Index) + 1;
+  const int next = Index + 1;
   if (next < Text1.size() && Text1[next]->isVisible()) {
     Text1[next]->setFocus();
   } else {
@@ -179,14 +183,12 @@ int frmBanko::count() const {
   return chosen == Option.end() ? 0 : static_cast<int>(chosen - Option.begin());
 }
 
-void frmBanko::chooseCount(int count) { Option[static_cast<std::size_t>(count)]->setChecked(true); }
+void frmBanko::chooseCount(int count) { Option[count]->setChecked(true); }
 
-std::string frmBanko::text(int index) const {
-  return fromQt(Text1[static_cast<std::size_t>(index)]->text());
-}
+std::string frmBanko::text(int index) const { return fromQt(Text1[index]->text()); }
 
 void frmBanko::setText(int index, const std::string& text) {
-  NumberBox* box = Text1[static_cast<std::size_t>(index)];
+  NumberBox* box = Text1[index];
   if (box == focusWidget()) {
     box->write(toQt(text));
   } else {

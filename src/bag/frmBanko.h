@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "bag/BankoActions.h"
 #include "bag/frmSelection.h"
+#include "platform/qt/ControlArray.h"
 
 class QLabel;
 class QRadioButton;
@@ -29,6 +28,7 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   void buildMenus();
   QWidget* buildOptions();
   QWidget* buildBoxes();
+  QWidget* buildBox(int index);
   QWidget* buildFoot();
 
   void Option1_Click() { showBoxes(0); }
@@ -54,12 +54,12 @@ class frmBanko final : public frmSelection, private BankoBoxes {
   std::string text(int index) const override;
   void setText(int index, const std::string& text) override;
 
-  QLabel* Label1 = nullptr;                            // "Banko Top Sayısı:"
-  std::array<QRadioButton*, mostBankos + 1> Option{};  // Option1..Option6: 0..5 bankos
-  QLabel* Label2 = nullptr;                            // the caption over the boxes
-  std::array<NumberBox*, mostBankos> Text1{};          // the banko numbers
-  QLabel* Label3 = nullptr;                            // the credit line
-  QLabel* Label4 = nullptr;                            // "F10= Yardım"
+  QLabel* Label1 = nullptr;                           // "Banko Top Sayısı:"
+  ControlArray<QRadioButton, mostBankos + 1> Option;  // Option1..Option6: 0..5 bankos
+  QLabel* Label2 = nullptr;                           // the caption over the boxes
+  ControlArray<NumberBox, mostBankos> Text1;          // the banko numbers
+  QLabel* Label3 = nullptr;                           // the credit line
+  QLabel* Label4 = nullptr;                           // "F10= Yardım"
 };
 
 }  // namespace karvenis

@@ -70,7 +70,7 @@ void frmList::Timer1_Timer() {
 }
 
 void frmList::enableTimer1(bool enabled) {
-  // Starting a timer that runs would put its tick off, for ever under a key that is held.
+  // To restart a running timer puts off its tick: while a key is held, it would never come.
   if (!enabled) Timer1->stop();
   if (enabled && !Timer1->isActive()) Timer1->start();
 }

@@ -10,7 +10,7 @@ namespace karvenis {
 
 class Surface;
 
-/// The window of eight random columns, which types its coupon by itself. Any key or a double click
+/// The window of eight random columns, which prints its coupon by itself. A key or a double click
 /// asks for a new one.
 class frmList final : public Form, private CouponWindow {
   Q_OBJECT
@@ -31,7 +31,7 @@ class frmList final : public Form, private CouponWindow {
   void hideLabel1() override;
 
   Surface* page_;            // the window's own surface
-  QTimer* Timer1 = nullptr;  // types the coupon
+  QTimer* Timer1 = nullptr;  // prints the coupon
   QLabel* Label1 = nullptr;  // "F10 = Yardım", until the first coupon is complete
   Coupon coupon_;
 };

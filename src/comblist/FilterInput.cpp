@@ -7,7 +7,7 @@
 namespace karvenis {
 namespace {
 
-/// A pair and what follows it in an input takes at least "a-b".
+/// The length of the shortest text that can hold a pair: "a-b".
 constexpr std::size_t shortestPair = 3;
 
 /// The marked numbers, ascending, with `separator` between them.
@@ -33,8 +33,9 @@ std::string joinedPairs(const FilterMarks& marks) {
   return list;
 }
 
-/// Marks the pair that `rest` begins with and moves `rest` behind the comma that follows it; `rest`
-/// becomes empty if no further pair can follow. Returns false if `rest` begins with no pair.
+/// Marks the pair that `rest` begins with and takes it, with the comma behind it, out of `rest`.
+/// `rest` becomes empty if what remains is too short for a pair. Returns false if `rest` does not
+/// begin with a pair.
 bool takePair(std::string_view& rest, FilterMarks& marks) {
   const std::size_t dash = rest.find('-');
   if (rest.size() < shortestPair || dash == std::string_view::npos || dash + 1 == rest.size()) {
@@ -65,7 +66,7 @@ bool FilterMarks::markPair(std::int16_t a, std::int16_t b) {
 std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks& marks) {
   const std::string_view input = InputText;
   if (!marks.mark(typedNumber16(input))) return std::nullopt;
-  // What stands right behind a comma is never taken for a comma.
+  // The character right behind a comma is never taken for the next comma.
   for (std::size_t i = input.find(','); i != std::string_view::npos; i = input.find(',', i + 2)) {
     marks.mark(typedNumber16(input.substr(i + 1)));
   }

@@ -22,7 +22,7 @@ auto countMarked(const FilterMarks& marks, const Column& column) {
   return std::ranges::count_if(column, [&](std::int16_t ball) { return marks.has(ball); });
 }
 
-// What each filter keeps.
+// Which columns each filter keeps.
 
 bool noneIsMarked(const FilterMarks& marks, const Column& column) {
   return countMarked(marks, column) == 0;
@@ -54,15 +54,15 @@ enum class Copies { allButDeleted, onlyKept };
 /// What happens to a list that lost its records while the question was open.
 enum class EmptyList { stays, isDeleted };
 
-/// What one filter does in its own way.
+/// What differs from filter to filter.
 struct Kind {
   const char* prompt;
-  const char* example;  // shown in grey where nothing is typed yet
+  const char* example;  // shown in grey while nothing is typed
   std::optional<std::string> (*read)(const std::string& InputText, FilterMarks& marks);
-  const char* questionOne;      // follows the quoted list: of one number,
-  const char* questionSeveral;  // of several
+  const char* questionOne;      // follows the quoted numbers if there is one,
+  const char* questionSeveral;  // and if there are several
   bool (*keeps)(const FilterMarks& marks, const Column& column);
-  std::optional<std::int32_t> firstWord;  // what phase 1 writes before the word that stays
+  std::optional<std::int32_t> firstWord;  // what phase 1 writes before the final word
   Copies copies;
   const char* phase2;
   EmptyList emptyList;
@@ -117,9 +117,9 @@ constexpr Kind kinds[] = {
      .emptyList = EmptyList::isDeleted},
 };
 
-/// The question about `list`; from three characters on it holds two numbers at least.
-std::string questionOf(const Kind& kind, const std::string& list) {
-  return "'" + list + (list.size() >= 3 ? kind.questionSeveral : kind.questionOne);
+/// The question about `numbers`, which are at least two if they take three characters.
+std::string questionOf(const Kind& kind, const std::string& numbers) {
+  return "'" + numbers + (numbers.size() >= 3 ? kind.questionSeveral : kind.questionOne);
 }
 
 void putWord(ColumnFile& list, std::int64_t number, ColumnRecord record, std::int32_t Word) {
@@ -172,8 +172,8 @@ void copyKept(const Kind& kind, std::int32_t KeepCount, ColumnFile& list, Column
   }
 }
 
-/// Both phases. Returns false if the list turned out to be empty and was left alone.
-bool thinOut(const Kind& kind, const FilterMarks& marks, Surroundings& around, TitleBar& title) {
+/// Runs both phases. Returns false if the list turned out to be empty and was not changed.
+bool runPhases(const Kind& kind, const FilterMarks& marks, Surroundings& around, TitleBar& title) {
   Files& files = around.files;
   backUpList(files);
   ColumnFile list(around.state, files, combinationList);
@@ -203,9 +203,9 @@ bool filterList(Filter filter, Surroundings& around, ListPage& page, TitleBar& t
   const Kind& kind = kinds[static_cast<std::size_t>(filter)];
   const std::string InputText = around.boxes.input(kind.prompt, "Kolon SİLME", "", kind.example);
   FilterMarks marks;
-  const std::optional<std::string> shown = kind.read(InputText, marks);
-  if (!shown || !around.boxes.ask(questionOf(kind, *shown))) return false;
-  if (!thinOut(kind, marks, around, title)) return false;
+  const std::optional<std::string> numbers = kind.read(InputText, marks);
+  if (!numbers || !around.boxes.ask(questionOf(kind, *numbers))) return false;
+  if (!runPhases(kind, marks, around, title)) return false;
   title.setCaption(listTitle);
   page.PageStart = 1;
   return true;

@@ -19,9 +19,9 @@ enum class Filter : std::uint8_t {
   FilterWantedPairs,      ///< deletes the columns that hold none of some pairs
 };
 
-/// Beeps, asks for the numbers, asks whether to go on, and thins out the list in two phases: the
-/// first marks each record in its word (417 to keep, -1 to delete), the second copies the kept
-/// ones. The list as it was goes to its backup first; a list of which nothing is kept is deleted.
+/// Beeps, asks for the numbers, asks whether to go on, copies the list to its backup and filters it
+/// in two phases: the first marks each record in its word (417 to keep, -1 to delete), the second
+/// copies those to keep. If there are none, the list is deleted.
 /// `title` shows the progress, then the list's title; `page` then starts at the second column.
 /// Returns false if the list was left as it was. Throws RunTimeError; once phase 1 has begun, the
 /// backup holds the list as it was.

@@ -7,11 +7,11 @@
 namespace karvenis {
 namespace {
 
-/// A count below this one, left in the box, is taken for a slip when a first list is to be made.
+/// While there is no list, a smaller count in the box is replaced by the largest one.
 constexpr std::int32_t leastSensibleCount = 8;
 constexpr char attentionTitle[] = "! DİKKAT !";
 
-/// A new list is written over a copy of the old one too, whose last records may stay.
+/// A new list is written over a copy of the old one too: records of a longer old list stay.
 constexpr ListAndScratch listAndScratch{combinationList, tmpScratch, ScratchStart::copyOfList};
 
 }  // namespace
@@ -40,7 +40,7 @@ Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   return Outcome::done;
 }
 
-/// Refuses a wanted count that cannot be, with a box or a beep; returns whether it did.
+/// Whether WantedCount is out of range; a box or a beep has then told the user so.
 bool Generator::refuses(Mode mode) {
   if (mode == Mode::newList) {
     if (WantedCount >= 1 && WantedCount <= recordLimit) return false;
@@ -76,7 +76,7 @@ void Generator::GenerateNewList(GeneratorDraw& draw) {
   finish(savedInList(RecordNo));
 }
 
-/// Writes WantedCount records behind those that the list has by now.
+/// Writes WantedCount records behind those that the list has now.
 void Generator::AppendToList(GeneratorDraw& draw) {
   std::int16_t Start = 0;
   replaceList(around_.state, around_.files, listAndScratch, [&](ColumnFile& list) {
@@ -97,9 +97,9 @@ void Generator::writeNext(ColumnFile& list, const Column& drawn) {
   list.put(RecordNo, {.Word = RecordNo, .Balls = drawn});
 }
 
-void Generator::finish(const std::string& told) {
+void Generator::finish(const std::string& message) {
   around_.boxes.beep();
-  around_.boxes.message(told);
+  around_.boxes.message(message);
   title_.setCaption(generatorTitle);
 }
 

@@ -13,14 +13,14 @@ namespace karvenis {
 
 inline constexpr char generatorTitle[] = "6/49 Rastgele Kolon Üreteci";
 
-/// Writes a whole list of random columns into the combination list in one run: a new list, or
-/// columns behind the existing ones.
+/// Writes random columns into the combination list, all in one run: a new list, or columns behind
+/// the existing ones.
 class Generator {
  public:
   enum class Mode { newList, append };
   enum class Outcome {
     done,     ///< the columns are on disk, and a box said so
-    refused,  ///< the count cannot be; the user is to type another one
+    refused,  ///< the count is out of range; the user has to type another one
     kept,     ///< the user does not want the list replaced
   };
 
@@ -48,7 +48,7 @@ class Generator {
   void GenerateNewList(GeneratorDraw& draw);
   void AppendToList(GeneratorDraw& draw);
   void writeNext(ColumnFile& list, const Column& drawn);
-  void finish(const std::string& told);
+  void finish(const std::string& message);
 
   Surroundings& around_;
   TitleBar& title_;

@@ -27,7 +27,7 @@ Column GeneratorDraw::draw(Chance& chance) {
 }
 
 /// Takes entry `drawn` out of the pool. The entries behind it move up; if it is the last one, the
-/// pool shrinks by two. An exhausted pool only loses its stale first entry.
+/// pool shrinks by two. In an empty pool the first entry becomes 0.
 std::int16_t GeneratorDraw::take(std::int16_t drawn) {
   const auto place = Pool.begin() + drawn;
   const std::int16_t ball = *place;

@@ -30,7 +30,7 @@ bool frmComLst::command(int KeyCode) {
       return copyToRandomColumns(around_);
     case keyF3:
       DeleteColumn(around_, page_);
-      forms().dropInput();
+      Forms::dropInput();
       return true;
     case keyF4:
       deleteList(around_);
@@ -55,7 +55,7 @@ bool frmComLst::command(int KeyCode) {
 }
 
 void frmComLst::runFilter(Filter filter) {
-  if (filterList(filter, around_, page_, *this)) forms().dropInput();
+  if (filterList(filter, around_, page_, *this)) Forms::dropInput();
 }
 
 void frmComLst::redraw() {

@@ -7,7 +7,7 @@
 
 namespace karvenis {
 
-/// The combination list: pages through the file and carries the commands that thin it out.
+/// The combination list: shows it page by page and runs the commands on it.
 class frmComLst final : public PageForm {
   Q_OBJECT
 

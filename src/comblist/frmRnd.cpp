@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 namespace {
 
-constexpr int titleWidth = 350;  // the frame shows the whole title then
+constexpr int titleWidth = 350;  // with it the frame shows the whole title
 
 }  // namespace
 
@@ -61,7 +61,7 @@ QLayout* frmRnd::buildOptions() {
   return column;
 }
 
-/// An option is clicked when it is chosen, in whatever way, and also when it was chosen before.
+/// Runs `procedure` whenever the option is chosen, and also if a click chooses it again.
 void frmRnd::onOption(QRadioButton* option, void (frmRnd::*procedure)()) {
   on(option, &QRadioButton::clicked, [this, procedure] { (this->*procedure)(); });
   on(option, &QRadioButton::toggled, [this, option, procedure] {
@@ -113,7 +113,7 @@ void frmRnd::Command1_Click() {
     case Generator::Outcome::kept:
       return;
     case Generator::Outcome::done:
-      forms().dropInput();
+      Forms::dropInput();
       return unload();
   }
 }

@@ -15,7 +15,7 @@ namespace karvenis {
 template <std::size_t most>
 class BallSet {
  public:
-  /// The balls, in order. Valid until the set is changed.
+  /// The balls, in the order in which they were added. The span is valid until the set changes.
   [[nodiscard]] std::span<const std::int16_t> balls() const {
     return std::span(elements_).subspan(1, static_cast<std::size_t>(elements_[0]));
   }

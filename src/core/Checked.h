@@ -8,7 +8,8 @@
 
 namespace karvenis {
 
-/// `number` as an integer of type Int. Throws RunTimeError(overflow) if it does not fit.
+/// Returns `number` as an integer of type Int. Throws RunTimeError(overflow) if it does not fit, so
+/// that no number ever loses its upper bits unnoticed.
 template <std::integral Int, std::integral Number>
 [[nodiscard]] Int checked(Number number) {
   if (!std::in_range<Int>(number)) {

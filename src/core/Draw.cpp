@@ -45,8 +45,8 @@ void drawDistinct(SharedState& state, Chance& chance) {
     ballAt(state.Drawn, position) = PickBall(state, chance, position);
   };
   for (std::int16_t position = 1; position <= ballsInColumn; ++position) pick(position);
-  // After a repeat the comparisons, the rest of the inner loop included, go on with position 1.
-  // Only the later ball of a pair is drawn again, so a banko is never replaced.
+  // After a repeat `i` is 1 again, also in the rest of the inner loop. Only the later ball of a
+  // pair is drawn again, so a banko is never replaced.
   for (std::int16_t i = 1; i < ballsInColumn; ++i) {
     for (std::int16_t j = i; ++j <= ballsInColumn;) {
       while (ballAt(state.Drawn, j) == ballAt(state.Drawn, i)) {

@@ -9,23 +9,25 @@
 namespace karvenis {
 namespace {
 
-constexpr double ballColumn = 1600;  // twips, as all measures here
-constexpr double ballPitch = 400;
-constexpr double sumOffset = 2500;  // from the first ball
+// Twips.
+constexpr double ballColumn = 1600;  // where the first ball of a row stands behind a short label,
+constexpr double nextBallColumn = 1700;  // behind a longer one,
+constexpr double behindLongLabel = 75;   // and how far behind the longest ones
+constexpr double ballPitch = 400;        // from ball to ball
+constexpr double sumOffset = 2500;       // from the first ball to the sum
 
 /// The start of a full last page; 0 if the list has less than a page.
 std::int32_t lastPageStart(std::int32_t count) { return std::max(count - rowsOnPage, 0); }
 
-/// Prints the label of record `number` and returns the place of the first ball, in twips. Short
-/// labels share one ball column, longer ones push it to the right.
+/// Prints the label of record `number` and returns the place of the row's first ball.
 double printLabel(TextSurface& surface, std::int64_t number) {
   surface.currentX(pageMargin);
   surface.foreColor(QBColor::lightRed);
   surface.print("Kolon -" + withBlank(number) + " : ");
   const double x = surface.currentX();
   if (x < ballColumn) return ballColumn;
-  if (x < 1700) return 1700;
-  return x + 75;
+  if (x < nextBallColumn) return nextBallColumn;
+  return x + behindLongLabel;
 }
 
 std::string bracketed(std::int16_t sum) {
@@ -100,6 +102,7 @@ void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface) {
   }
 }
 
+/// No digit is wider than an 8.
 double fitRows(TextSurface& surface) {
   constexpr int narrowest = 75;  // percent; narrower letters cannot be read
   for (int percent = 100; percent > narrowest && printLabel(surface, 8888) > ballColumn;) {

@@ -55,7 +55,8 @@ double leadingNumber(std::string_view text) {
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value,
                                             std::chars_format::fixed);
   if (error != std::errc::result_out_of_range) return value;
-  // Out of range is beyond every bound, or so near to 0 that no digit stands before the point.
+  // Out of range is a number that is too large, or one so near to 0 that no digit but 0 stands
+  // before its point.
   const bool large = number.find_first_of("123456789") < number.find('.');
   if (!large) return 0;
   return number.starts_with('-') ? -HUGE_VAL : HUGE_VAL;

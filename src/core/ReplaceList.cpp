@@ -8,8 +8,7 @@
 namespace karvenis {
 namespace {
 
-/// The scratch file of a replacement that is under way; one that does not come to its end leaves
-/// none behind.
+/// The scratch file of one replacement. It is removed at the end unless it took the list's place.
 class Scratch {
  public:
   Scratch(Files& files, const ListAndScratch& names) : files_(files), names_(names) {}
@@ -48,8 +47,8 @@ void replaceList(SharedState& state, Files& files, const ListAndScratch& names,
   files.refuseProtected(names.list);
   Scratch scratch(files, names);
   scratch.begin();
-  // This one creates it. The second one, which is written, does not wait for its name on disk: the
-  // rename does.
+  // `created` makes the file, and `columns` writes it. The one that makes a file also waits for its
+  // name to be on disk when it is synced; here the rename does that.
   const std::unique_ptr<File> created = files.open(names.scratch);
   ColumnFile columns(state, files, names.scratch);
   if (files.exists(names.list)) created->takeRightsOf(names.list);

@@ -11,7 +11,7 @@
 namespace karvenis {
 
 /// What a window and its rules work with: the shared state and the doors to everything outside. All
-/// of them outlive every window.
+/// of them outlive every window. A function that needs less takes only the doors that it uses.
 struct Surroundings {
   SharedState& state;
   Boxes& boxes;

@@ -10,7 +10,7 @@
 
 namespace karvenis {
 
-/// The lines of a listed column list, alike on paper and in the text file; none has its line end.
+/// The lines of a listing, the same on paper and in the text file. None ends with a line break.
 
 /// The first line.
 inline constexpr char firstLine[] = "< KARVENIS 2005 Randomizer >";
@@ -22,7 +22,7 @@ struct ListRange {
   [[nodiscard]] std::int32_t count() const { return last - first + 1; }
 };
 
-/// The line of record `number`, which is filled up with zeros to `digits` digits:
+/// The line of record `number`, which is padded with zeros to `digits` digits:
 /// "Kolon 07 - 03, 11, 17, 25, 38, 45  [139]". Throws RunTimeError(overflow) if the sum of a
 /// damaged record outgrows 16 bits.
 [[nodiscard]] std::string columnLine(std::int64_t number, std::size_t digits, const Column& balls);
@@ -35,7 +35,7 @@ void eachColumnLine(ColumnFile& list, ListRange range,
 /// The last line: how many columns were listed.
 [[nodiscard]] std::string totalLine(std::int32_t columns);
 
-/// A UTF-8 text in one byte a character; what is not ASCII becomes "?".
+/// `text`, which is UTF-8, with one byte for each character: one that is not ASCII becomes "?".
 [[nodiscard]] std::string singleBytes(std::string_view text);
 
 }  // namespace karvenis

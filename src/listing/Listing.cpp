@@ -36,7 +36,8 @@ bool askToList(Boxes& boxes, const Listing& listing, Output output) {
                    listing.questionTitle);
 }
 
-/// Whatever fails while printing, the source included, is shown as a printer that is not ready.
+/// Any fault while printing, also one of the list's file, is reported as a printer that is not
+/// ready.
 void printTrapped(Surroundings& around, ColumnFile& list, const Listing& listing, ListRange range) {
   try {
     PrintList(around, list, listing, range);

@@ -11,17 +11,17 @@ namespace karvenis {
 /// What a list is written to.
 enum class Output { text, printer };
 
-/// All that tells the two listing dialogs apart.
+/// What differs between the two listing dialogs.
 struct Listing {
   const char* source;  ///< the column file
   const char* title;   ///< of the dialog
   const char* questionTitle;
   const char* textQuestion;
   const char* printerQuestion;
-  const char* startTitle;  ///< of the dialog while the text file is begun
-  const char* progress;    ///< what stands before the byte's number in the title meanwhile
+  const char* startTitle;  ///< of the dialog until the first byte is written
+  const char* progress;    ///< before the byte's number in the title while the file is written
   const char* heading;     ///< the second line up to the date
-  const char* headingEnd;  ///< ... and behind it, in the text file
+  const char* headingEnd;  ///< the second line behind the date, in the text file
 };
 
 extern const Listing randomColumnListing;
@@ -38,9 +38,10 @@ enum class RangeRefusal { none, first, last };
 RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output output,
                               ListRange range);
 
-/// Writes the range of `list` to the text file, replacing it; the title shows the progress, byte by
-/// byte in the head and the tail and once a line between. Ends with a box that says how long the
-/// file is. Throws RunTimeError, before anything is done if the text file is protected.
+/// Writes the range of `list` to the text file and replaces an old one. The title shows the
+/// progress: after each byte of the first and the last lines, after each line between them. Ends
+/// with a box that says how long the file is. A protected text file is refused before anything is
+/// done. Throws RunTimeError.
 void WriteListText(Surroundings& around, TitleBar& title, ColumnFile& list, const Listing& listing,
                    ListRange range);
 

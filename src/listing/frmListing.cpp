@@ -58,7 +58,7 @@ void frmListing::Form_KeyDown(int KeyCode, int) {
 /// Keys and clicks that come while the list is written must not list it again.
 void frmListing::list() {
   Command1_Click();
-  forms().dropInput();
+  Forms::dropInput();
 }
 
 Output frmListing::output() const { return Option1->isChecked() ? Output::text : Output::printer; }

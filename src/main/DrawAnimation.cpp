@@ -47,27 +47,27 @@ void DrawAnimation::tick(int k) {
 }
 
 void DrawAnimation::hideLastDraw() {
-  for (int k = 1; k <= ballsInColumn; ++k) stage_.showImage(image(k, 'd'), false);
+  for (int k = 1; k <= ballsInColumn; ++k) stage_.showImage(imageIndex(k, 'd'), false);
   for (int label = copyLabel(ballsInColumn); label >= mainLabel(2); --label) {
     stage_.showLabel(label, false);
   }
 }
 
-/// Puts the picture of the current frame in place of the one before; every tick of a picture's
-/// range repeats this, so that a picture that something else has hidden comes back.
+/// Shows the picture of the current frame instead of the one before. Every tick repeats that, so
+/// that a picture that something else has hidden comes back.
 void DrawAnimation::moveBall(int k) {
   if (frame_ == lastFrame) {
-    stage_.showImage(image(k, 'c'), false);
-    stage_.showImage(image(k, 'd'), true);
+    stage_.showImage(imageIndex(k, 'c'), false);
+    stage_.showImage(imageIndex(k, 'd'), true);
     stage_.showLabel(mainLabel(k), true);
   } else if (frame_ >= 13) {
-    stage_.showImage(image(k, 'b'), false);
-    stage_.showImage(image(k, 'c'), true);
+    stage_.showImage(imageIndex(k, 'b'), false);
+    stage_.showImage(imageIndex(k, 'c'), true);
   } else if (frame_ >= 10) {
-    stage_.showImage(image(k, 'a'), false);
-    stage_.showImage(image(k, 'b'), true);
+    stage_.showImage(imageIndex(k, 'a'), false);
+    stage_.showImage(imageIndex(k, 'b'), true);
   } else if (frame_ >= 6) {
-    stage_.showImage(image(k, 'a'), true);
+    stage_.showImage(imageIndex(k, 'a'), true);
   }
 }
 

@@ -10,9 +10,9 @@ namespace karvenis {
 /// The labels in `Label1` that show the number of ball position k (1..6): on the ball and below it.
 constexpr int mainLabel(int k) { return 2 * k - 2; }
 constexpr int copyLabel(int k) { return 2 * k - 1; }
-/// The picture in `Image1` of ball position k: a rolling step, 'a' to 'c', or the ball at rest,
-/// 'd'.
-constexpr int image(int k, char step) { return 5 * (k - 1) + 1 + (step - 'a'); }
+/// The index in `Image1` of a picture of ball position k (1..6): `step` is 'a' to 'c' for the
+/// rolling ball, 'd' for the ball at rest.
+constexpr int imageIndex(int k, char step) { return 5 * (k - 1) + 1 + (step - 'a'); }
 
 /// What the animation moves: the pictures `Image1`, the number labels `Label1` and the ball timers.
 class BallStage {
@@ -28,8 +28,8 @@ class BallStage {
 };
 
 /// Shows a drawn column ball by ball, each rolling in through its four pictures. The six ball
-/// timers run one after another and share the counters; an interrupted ball's counters go on in
-/// Timer1.
+/// timers run one after another and share the counters. If a new draw interrupts a ball, ball 1
+/// goes on with that ball's counters.
 class DrawAnimation {
  public:
   DrawAnimation(BallStage& stage, const Column& drawn) : stage_(stage), drawn_(drawn) {}

@@ -4,7 +4,7 @@
 
 namespace karvenis {
 
-/// The banner picture that sways sideways behind its opening. Lengths are twips.
+/// The banner picture, which moves from side to side behind its opening. Lengths are twips.
 class Banner {
  public:
   /// The picture's left edge, -3000..-25 and a step beyond at the turns.
@@ -28,11 +28,13 @@ class Banner {
   bool movingRight_ = false;
 };
 
-/// When the opening picture comes back over the balls: at the first change of the clock's minute
-/// since the last draw or click on it.
+/// Decides when the opening picture comes back over the balls: when the clock's minute is another
+/// one than at the last draw or click on the picture.
 class IdleCover {
  public:
+  /// A draw, or a click on the picture, in this minute of the hour.
   void stamp(std::int16_t minute) { stamp_ = minute; }
+  /// Whether the picture is to be shown in this minute.
   bool returns(std::int16_t minute) const { return minute != stamp_; }
 
  private:

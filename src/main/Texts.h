@@ -25,8 +25,8 @@ inline constexpr char keyList[] =
     "ESC= Çıkış/Kapat";
 
 inline constexpr char aboutTitle[] = " KARVENIS 2005 Randomizer Hakkında";
-/// What the program does, where it comes from and where its things stand, and what goes with it.
-/// `folder` is the one that its files are in.
+/// What "Program hakkında" shows: the purpose, version, licence and guide of the program, and
+/// `folder`, which its files are in.
 std::string aboutText(const std::string& folder);
 
 }  // namespace karvenis

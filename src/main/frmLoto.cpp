@@ -19,7 +19,7 @@
 #include "platform/qt/WindowPlace.h"
 #include "randomlist/RandomColumnFile.h"
 
-// The window's event procedures. How it is built stands in frmLotoBuild.cpp.
+// The window's event procedures; frmLotoBuild.cpp builds and paints it.
 
 namespace karvenis {
 
@@ -34,7 +34,7 @@ void frmLoto::Form_Activate() { around_.chance.seedFrom(around_.clock); }
 
 void frmLoto::Form_KeyDown(int KeyCode, int Shift) {
   if (Shift != 0 || KeyCode < keyF1 || KeyCode > keyF12) return;
-  entries_[static_cast<std::size_t>(KeyCode - keyF1)]->trigger();
+  entries_[KeyCode - keyF1]->trigger();
 }
 
 void frmLoto::Form_KeyPress(int KeyAscii) {
@@ -45,14 +45,14 @@ void frmLoto::Form_DblClick() { around_.windows.end(); }
 void frmLoto::closeRequested() { around_.windows.end(); }
 
 void frmLoto::Command1_Click() {
-  takePicture();
+  showBackground();
   cover_.stamp(around_.clock.minute());
   if (Option1->isChecked()) {
     newColumnFromBag();
   } else {
     newColumnFromList();
   }
-  uncover();
+  hideOpening();
 }
 
 void frmLoto::newColumnFromBag() {
@@ -65,7 +65,7 @@ void frmLoto::newColumnFromList() {
   if (const auto pick = PickFromList(around_)) {
     ShowColumn();
     setCaption(pickTitle(*pick));
-    around_.windows.announce("Kayıt" + withBlank(pick->record) + ": " + drawn());
+    around_.windows.announce("Kayıt" + withBlank(pick->record) + ": " + drawnNumbers());
   }
 }
 
@@ -81,36 +81,36 @@ void frmLoto::Check1_Click() {
   if (!Check1->isChecked()) return;
   SortColumn(around_.state.Drawn);
   ShowColumn();
-  const bool rolling = Label1.back()->isHidden();
-  if (!rolling && Picture0->isHidden()) tellColumn();
+  const bool rolling = Label1[copyLabel(ballsInColumn)]->isHidden();
+  if (!rolling && Picture0->isHidden()) announceColumn();
 }
 
 void frmLoto::Timer_Timer(int ball) {
   animation_.tick(ball);
   const bool last = ball == ballsInColumn && !Timer[ballsInColumn]->isActive();
-  if (last) tellColumn();
+  if (last) announceColumn();
 }
 
-/// Tells the numbers to those who hear them; those of a finished draw also if the opening picture
-/// has come back over them meanwhile.
-void frmLoto::tellColumn() { around_.windows.announce("Kolon: " + drawn()); }
+/// Has a screen reader say the numbers; those of a finished draw also if the opening picture has
+/// come back over them in the meantime.
+void frmLoto::announceColumn() { around_.windows.announce("Kolon: " + drawnNumbers()); }
 
-std::string frmLoto::drawn() const { return listed(around_.state.Drawn); }
+std::string frmLoto::drawnNumbers() const { return listed(around_.state.Drawn); }
 
 void frmLoto::Picture0_Click() {
   around_.boxes.beep();
-  uncover();
+  hideOpening();
   cover_.stamp(around_.clock.minute());
 }
 
-/// Hides the opening picture; a focus on it goes where the next draw is asked for.
-void frmLoto::uncover() {
+/// Hides the opening picture. If it has the focus, the button of the next draw gets it.
+void frmLoto::hideOpening() {
   if (focusWidget() == Picture0) Command1->setFocus();
   Picture0->hide();
 }
 
 void frmLoto::Label1_MouseMove(int Index) {
-  QLabel* number = Label1.at(static_cast<std::size_t>(Index));
+  QLabel* number = Label1[Index];
   number->setToolTip(number->text());
 }
 
@@ -143,25 +143,21 @@ void frmLoto::mnuAbout_Click() {
 }
 
 void frmLoto::showImage(int index, bool visible) {
-  Picture* image = Image1.at(static_cast<std::size_t>(index));
+  Picture* image = Image1[index];
   if (image != nullptr) image->setVisible(visible);
 }
 
-void frmLoto::showLabel(int index, bool visible) {
-  Label1.at(static_cast<std::size_t>(index))->setVisible(visible);
-}
+void frmLoto::showLabel(int index, bool visible) { Label1[index]->setVisible(visible); }
 
 void frmLoto::setLabel(int index, const std::string& caption) {
-  Label1.at(static_cast<std::size_t>(index))->setText(toQt(caption));
+  Label1[index]->setText(toQt(caption));
   nameLabel(index);
 }
 
-std::string frmLoto::label(int index) const {
-  return fromQt(Label1.at(static_cast<std::size_t>(index))->text());
-}
+std::string frmLoto::label(int index) const { return fromQt(Label1[index]->text()); }
 
 void frmLoto::enableTimer(int timer, bool enabled) {
-  QTimer* ballTimer = Timer.at(static_cast<std::size_t>(timer));
+  QTimer* ballTimer = Timer[timer];
   if (enabled) {
     ballTimer->start();
   } else {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QPixmap>
-#include <array>
 
 #include "core/Surroundings.h"
 #include "main/DrawAnimation.h"
 #include "main/Idle.h"
 #include "main/Settings.h"
 #include "platform/qt/Artwork.h"
+#include "platform/qt/ControlArray.h"
 #include "platform/qt/Form.h"
 
 class QCheckBox;
@@ -42,7 +42,7 @@ class frmLoto final : public Form, private BallStage {
 
  private:
   void buildMenus();
-  void function(int number, QMenu* head, const char* entry, QStringView text,
+  void keyEntry(int number, QMenu* head, const char* entry, QStringView text,
                 std::function<void()> procedure);
   void buildBanner();
   void buildStage();
@@ -55,8 +55,8 @@ class frmLoto final : public Form, private BallStage {
   void grow(double growth);
   void placeBall(int k);
   void placeBanner();
-  void takePicture();
-  void uncover();
+  void showBackground();
+  void hideOpening();
   void nameLabel(int index);
 
   void Command1_Click();
@@ -83,8 +83,8 @@ class frmLoto final : public Form, private BallStage {
   void newColumnFromBag();
   void newColumnFromList();
   void ShowColumn();
-  void tellColumn();
-  std::string drawn() const;
+  void announceColumn();
+  std::string drawnNumbers() const;
 
   void showImage(int index, bool visible) override;
   void showLabel(int index, bool visible) override;
@@ -98,10 +98,10 @@ class frmLoto final : public Form, private BallStage {
   DrawAnimation animation_;
   Banner banner_;
   IdleCover cover_;
-  Place place_;                         // from the file at the start; 0, 0 without one
-  std::array<QAction*, 12> entries_{};  // what F1..F12 trigger
-  double growth_ = 1;                   // how much larger than designed the pictures are
-  QPixmap picture_;  // the window's own picture, taken from Picture2 by the first draw
+  Place place_;                        // as the file held it at the start; 0, 0 without a file
+  ControlArray<QAction, 12> entries_;  // what F1..F12 trigger
+  double growth_ = 1;                  // how much larger than designed the pictures are
+  QPixmap background_;                 // the picture of Picture2, from the first draw on
 
   QPushButton* Command1 = nullptr;    // "Kolon": draws a new column
   QPushButton* Command2 = nullptr;    // "Çıkış": saves the window's place and ends the program
@@ -111,17 +111,17 @@ class frmLoto final : public Form, private BallStage {
   QFrame* Frame1 = nullptr;           // groups the options and the check box
   PictureButton* Picture0 = nullptr;  // the opening picture over the balls
   Picture* Picture1 = nullptr;        // the emblem beside the clock
-  Picture* Picture2 = nullptr;        // never shown: the picture that the window takes
-  Picture* Picture3 = nullptr;        // the banner that sways
-  Picture* Picture4 = nullptr;        // its companion
+  Picture* Picture2 = nullptr;        // never shown: its picture becomes the background
+  Picture* Picture3 = nullptr;        // the banner, which moves from side to side
+  Picture* Picture4 = nullptr;        // the strip below it, which moves with it
   QWidget* strip_ = nullptr;          // shows a part of the banner
   QWidget* stage_ = nullptr;          // holds the balls and their numbers
-  std::array<Picture*, 30> Image1{};  // the balls' pictures; multiples of 5 belong to no ball
-  std::array<QLabel*, 12> Label1{};   // two numbers for each ball position
+  ControlArray<Picture, 30> Image1;   // the balls' pictures; multiples of 5 belong to no ball
+  ControlArray<QLabel, 12> Label1;    // two numbers for each ball position
   QLabel* Label2 = nullptr;           // today's date
   QLabel* Label3 = nullptr;           // the time
   // Timer0: the clock; Timer1, Timer2, Timer3, Timer4, Timer5, Timer6: the balls.
-  std::array<QTimer*, 7> Timer{};
+  ControlArray<QTimer, 7> Timer;
 };
 
 }  // namespace karvenis

@@ -34,7 +34,7 @@ constexpr int restTop = 84;
 constexpr int plateTop = 210;
 constexpr int ballNumber = 30;    // letters on the balls
 constexpr int plateNumber = 20;   // and on the plates below them
-constexpr double ballRoom = 1.1;  // how much larger than that they may be and still fit
+constexpr double ballRoom = 1.1;  // the factor by which they may grow and still fit
 constexpr double plateRoom = 1.2;
 constexpr double wordRoom = 1.5;
 constexpr int tickOfBalls = 20;   // milliseconds
@@ -61,20 +61,24 @@ void setLetters(QWidget* widget, double pixels) {
   widget->setFont(letters);
 }
 
-/// How far from its rest each rolling step of a ball is seen.
-constexpr std::array<QPoint, 4> stepOffsets = {QPoint(20, -80), QPoint(12, -58), QPoint(4, -28),
-                                               QPoint(0, 0)};
+/// A picture of a ball, and how far from the ball's rest it is drawn.
+struct RollingStep {
+  char step;  // 'a' to 'c': rolling; 'd': at rest
+  QPoint offset;
+};
+constexpr RollingStep rollingSteps[] = {
+    {'a', QPoint(20, -80)}, {'b', QPoint(12, -58)}, {'c', QPoint(4, -28)}, {'d', QPoint(0, 0)}};
 
-/// The one button that everything is about.
-void dressMain(QPushButton* button) {
-  button->setProperty(Style::mainButton, true);
+/// Makes `button` the primary button of its window.
+void makePrimary(QPushButton* button) {
+  button->setProperty(Style::primaryButton, true);
   QPalette colours = button->palette();
   colours.setColor(QPalette::ButtonText, Qt::white);
   button->setPalette(colours);
 }
 
-/// Dresses `label` in bold letters of one colour.
-QLabel* dressed(QLabel* label, unsigned colour) {
+/// Returns `label`, now with bold letters of one colour.
+QLabel* boldened(QLabel* label, unsigned colour) {
   QFont bold = label->font();
   bold.setBold(true);
   label->setFont(bold);
@@ -108,48 +112,47 @@ frmLoto::frmLoto(Surroundings& around)
 
 void frmLoto::buildMenus() {
   QMenu* file = menuHead("mnuDosya", u"Dosya"_s);
-  function(1, file, "mnuSaveRndColumn", u"Kolunu KARVENIS.RND dosyasına kayıtla (F1)",
+  keyEntry(1, file, "mnuSaveRndColumn", u"Kolunu KARVENIS.RND dosyasına kayıtla (F1)",
            [this] { mnuSaveRndColumn_Click(); });
-  function(2, file, "mnuShowRndList", u"KARVENIS.RND dosyasını göster (F2)",
+  keyEntry(2, file, "mnuShowRndList", u"KARVENIS.RND dosyasını göster (F2)",
            [this] { mnuShowRndList_Click(); });
-  function(3, file, "mnuChangeRndFile", u"KARVENIS.RND dosyasının adını değiştir (F3)",
+  keyEntry(3, file, "mnuChangeRndFile", u"KARVENIS.RND dosyasının adını değiştir (F3)",
            [this] { mnuChangeRndFile_Click(); });
-  function(4, file, "mnuDeleteRndFile", u"KARVENIS.RND dosyasını sil (F4)",
+  keyEntry(4, file, "mnuDeleteRndFile", u"KARVENIS.RND dosyasını sil (F4)",
            [this] { mnuDeleteRndFile_Click(); });
 
   QMenu* bag = menuHead("mnuBag", u"Torba"_s);
-  function(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] { mnuShowBag_Click(); });
-  function(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
+  keyEntry(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] { mnuShowBag_Click(); });
+  keyEntry(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
            [this] { mnuLoadBag_Click(); });
 
   QMenu* banko = menuHead("mnuBanko", u"Banko"_s);
-  function(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] { mnuShowBanko_Click(); });
-  function(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
+  keyEntry(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] { mnuShowBanko_Click(); });
+  keyEntry(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
            [this] { mnuLoadBanko_Click(); });
 
   QMenu* list = menuHead("mnuListe", u"Liste"_s);
-  function(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)",
+  keyEntry(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)",
            [this] { mnuShow8Columns_Click(); });
-  function(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)",
+  keyEntry(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)",
            [this] { mnuCreateRndCList_Click(); });
-  function(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)",
+  keyEntry(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)",
            [this] { mnuShowClist_Click(); });
 
   QMenu* help = menuHead("mnuHelp", u"Yardım"_s);
-  function(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
+  keyEntry(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
   menuEntry(help, "mnuAbout", u"Program hakkında"_s, [this] { mnuAbout_Click(); });
 }
 
-/// The menu entry that the function key `number` triggers too.
-void frmLoto::function(int number, QMenu* head, const char* entry, QStringView text,
+/// Adds a menu entry that the function key `number` triggers too.
+void frmLoto::keyEntry(int number, QMenu* head, const char* entry, QStringView text,
                        std::function<void()> procedure) {
-  entries_[static_cast<std::size_t>(number - 1)] =
-      menuEntry(head, entry, text.toString(), std::move(procedure));
+  entries_[number - 1] = menuEntry(head, entry, text.toString(), std::move(procedure));
 }
 
 void frmLoto::buildBanner() {
   strip_ = new QWidget(this);
-  makeSurface(strip_);
+  markAsBackground(strip_);
   Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, strip_);
   Picture3->setObjectName(u"Picture3"_s);
   Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, strip_);
@@ -165,7 +168,7 @@ void frmLoto::placeBanner() {
 
 void frmLoto::buildStage() {
   stage_ = new QWidget(this);
-  makeSurface(stage_);
+  markAsBackground(stage_);
   for (int k = 1; k <= ballsInColumn; ++k) buildBall(k);
   Picture0 = new PictureButton(artwork_, u"opening.svg"_s, stage_);
   Picture0->setObjectName(u"Picture0"_s);
@@ -178,34 +181,34 @@ void frmLoto::buildStage() {
 }
 
 void frmLoto::buildBall(int k) {
-  for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
-    const int index = image(k, "abcd"[step]);
-    const QString part = u"p%1-%2"_s.arg(k).arg(QLatin1Char("abcd"[step]));
-    auto* image = new Picture(artwork_, u"ball.svg"_s, part, stage_);
-    image->setObjectName(u"Image1_%1"_s.arg(index));
-    image->setVisible(step + 1 == stepOffsets.size());
-    Image1[static_cast<std::size_t>(index)] = image;
+  for (const auto& [step, offset] : rollingSteps) {
+    const int index = imageIndex(k, step);
+    auto* picture =
+        new Picture(artwork_, u"ball.svg"_s, u"p%1-%2"_s.arg(k).arg(QLatin1Char(step)), stage_);
+    picture->setObjectName(u"Image1_%1"_s.arg(index));
+    picture->setVisible(step == 'd');
+    Image1[index] = picture;
   }
   buildLabel(mainLabel(k), look::ink);
   buildLabel(copyLabel(k), look::petrol)->setFrameShape(QFrame::StyledPanel);
 }
 
 QLabel* frmLoto::buildLabel(int index, unsigned colour) {
-  auto* number = dressed(new QLabel(stage_), colour);
+  auto* number = boldened(new QLabel(stage_), colour);
   number->setObjectName(u"Label1_%1"_s.arg(index));
   number->setMouseTracking(true);
   number->installEventFilter(this);
-  Label1[static_cast<std::size_t>(index)] = number;
+  Label1[index] = number;
   nameLabel(index);
   return number;
 }
 
-/// What a number label is called by those who have the window read to them.
+/// Gives a number label the name that a screen reader says.
 void frmLoto::nameLabel(int index) {
-  QLabel* number = Label1[static_cast<std::size_t>(index)];
+  QLabel* number = Label1[index];
   const QString kind = index % 2 == 0 ? u"%1. top: %2"_s : u"%1. sayı: %2"_s;
-  const QString told = number->text().isEmpty() ? u"boş"_s : number->text();
-  number->setAccessibleName(kind.arg(index / 2 + 1).arg(told));
+  const QString value = number->text().isEmpty() ? u"boş"_s : number->text();
+  number->setAccessibleName(kind.arg(index / 2 + 1).arg(value));
 }
 
 void frmLoto::buildPanel() {
@@ -214,7 +217,7 @@ void frmLoto::buildPanel() {
   row->setSpacing(margin);
   row->addWidget(buildChoices());
   Command1 = command("Command1", u"Kolon", u"Yeni Kolon", [this] { Command1_Click(); });
-  dressMain(Command1);
+  makePrimary(Command1);
   Command1->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   row->addWidget(Command1, 1);
   row->addWidget(buildClock());
@@ -243,7 +246,7 @@ QWidget* frmLoto::buildChoices() {
 
 QWidget* frmLoto::buildClock() {
   auto* plate = new QWidget(this);
-  makeSurface(plate);
+  markAsBackground(plate);
   auto* row = new QHBoxLayout(plate);
   row->setContentsMargins(0, 0, 0, 0);
   Picture1 = new Picture(artwork_, u"emblem.svg"_s, {}, plate);
@@ -252,8 +255,8 @@ QWidget* frmLoto::buildClock() {
   row->addWidget(Picture1);
   auto* column = new QVBoxLayout;
   column->setSpacing(2);
-  Label2 = dressed(new QLabel(plate), look::muted);
-  Label3 = dressed(new QLabel(plate), look::petrol);
+  Label2 = boldened(new QLabel(plate), look::muted);
+  Label3 = boldened(new QLabel(plate), look::petrol);
   Label2->setObjectName(u"Label2"_s);
   Label3->setObjectName(u"Label3"_s);
   column->addStretch();
@@ -266,7 +269,7 @@ QWidget* frmLoto::buildClock() {
 
 void frmLoto::buildTimers() {
   for (int number = 0; number <= ballsInColumn; ++number) {
-    QTimer* timer = Timer[static_cast<std::size_t>(number)] = new QTimer(this);
+    QTimer* timer = Timer[number] = new QTimer(this);
     timer->setObjectName(u"Timer%1"_s.arg(number));
     timer->setTimerType(number == 0 ? Qt::CoarseTimer : Qt::PreciseTimer);
     timer->setInterval(number == 0 ? tickOfClock : tickOfBalls);
@@ -300,39 +303,39 @@ void frmLoto::grow(double growth) {
 }
 
 void frmLoto::placeBall(int k) {
-  for (std::size_t step = 0; step < stepOffsets.size(); ++step) {
-    const auto index = static_cast<std::size_t>(image(k, "abcd"[step]));
-    Image1[index]->setGeometry(scaled(restOf(k).translated(stepOffsets[step]), growth_));
+  for (const auto& [step, offset] : rollingSteps) {
+    Image1[imageIndex(k, step)]->setGeometry(scaled(restOf(k).translated(offset), growth_));
   }
-  QLabel* number = Label1[static_cast<std::size_t>(mainLabel(k))];
+  QLabel* number = Label1[mainLabel(k)];
   number->setGeometry(scaled(restOf(k).adjusted(0, 0, 0, -7), growth_));
   setLetters(number, ballNumber * std::min(letterGrowth(), ballRoom * growth_));
-  QLabel* copy = Label1[static_cast<std::size_t>(copyLabel(k))];
+  QLabel* copy = Label1[copyLabel(k)];
   copy->setGeometry(scaled(plateOf(k), growth_));
   setLetters(copy, plateNumber * std::min(letterGrowth(), plateRoom * growth_));
 }
 
-/// The window's own picture becomes that of Picture2.
-void frmLoto::takePicture() {
+/// Makes the picture of Picture2 the background of the window.
+void frmLoto::showBackground() {
   const QSize art = windowArt.scaled(size(), Qt::KeepAspectRatioByExpanding);
-  picture_ = artwork_.pixmap(u"window.svg"_s, {}, art.expandedTo(windowArt), devicePixelRatioF());
+  background_ =
+      artwork_.pixmap(u"window.svg"_s, {}, art.expandedTo(windowArt), devicePixelRatioF());
   update();
 }
 
 bool frmLoto::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseMove) {
-    for (std::size_t index = 0; index < Label1.size(); ++index) {
-      if (watched == Label1[index]) run([&] { Label1_MouseMove(static_cast<int>(index)); });
+    for (int index = 0; index < Label1.size(); ++index) {
+      if (watched == Label1[index]) run([&] { Label1_MouseMove(index); });
     }
   }
   return Form::eventFilter(watched, event);
 }
 
-/// The window's picture, and on it the tray with a hollow for each ball.
+/// Paints the background, and on it the tray with a hollow for each ball.
 void frmLoto::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  if (!picture_.isNull()) painter.drawPixmap(0, 0, picture_);
+  if (!background_.isNull()) painter.drawPixmap(0, 0, background_);
   painter.setPen(QColor(look::edge));
   painter.setBrush(QColor(255, 253, 247, 150));
   painter.drawRoundedRect(QRectF(stage_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5),

@@ -28,6 +28,7 @@ class RunTimeError : public std::runtime_error {
         subject_(std::move(subject)),
         reason_(reason) {}
 
+  /// What failed, on what, and why: the parts that describe() makes a sentence of.
   Fault fault() const { return fault_; }
   const std::string& subject() const { return subject_; }
   const std::string& reason() const { return reason_; }
@@ -38,7 +39,8 @@ class RunTimeError : public std::runtime_error {
   std::string reason_;
 };
 
-/// The closing box's Turkish text for `error`: which file (or number), what failed, and why.
+/// The Turkish text of the closing box for `error`: which file or number, what failed, and why.
+/// Character 13 in it is a line break.
 [[nodiscard]] std::string describe(const RunTimeError& error);
 
 }  // namespace karvenis

@@ -15,13 +15,13 @@
 #include <vector>
 
 #include "platform/RunTimeError.h"
-#include "platform/SystemWords.h"
+#include "platform/SystemErrorText.h"
 
 namespace karvenis {
 namespace {
 
 [[noreturn]] void fail(Fault fault, const std::string& name, int error = errno) {
-  throw RunTimeError(fault, name, systemWords(error));
+  throw RunTimeError(fault, name, systemErrorText(error));
 }
 
 /// Calls again as long as a signal interrupted the call.
@@ -54,7 +54,7 @@ class Descriptor {
   int number_;
 };
 
-/// Puts the names of a folder on disk. Returns whether that succeeded.
+/// Waits until the names in a folder are on disk. Returns whether that succeeded.
 bool syncFolder(const std::string& folder = ".") {
   const Descriptor names(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   return names && uninterrupted([&] { return ::fsync(names.get()); }) == 0;
@@ -94,7 +94,7 @@ struct stat statusOf(int descriptor, Fault fault, const std::string& name) {
   return status;
 }
 
-/// Gives the open file the owner, the group and the mode that `rights` tells. Only the superuser
+/// Gives the open file the owner, the group and the mode that `rights` holds. Only the superuser
 /// may give a file away, and a group can be set only by its members: if that is refused, the file
 /// keeps its own. The mode comes last, since a change of the owner may change it.
 void giveRights(int descriptor, const struct stat& rights, Fault fault, const std::string& name) {
@@ -200,8 +200,9 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// The file of this name, new and empty, locked while it is open. One that an interrupted copy left
-/// behind is thrown away; one that another copy is writing just now is not, and none is returned.
+/// Makes the file `name`, new and empty, and locks it while it is open. A file that an interrupted
+/// copy left behind is removed. If another program is copying to the same target at this moment,
+/// its file stays, and none is returned.
 Descriptor openAlone(const std::string& name) {
   constexpr int flags = O_CLOEXEC | O_NOFOLLOW;
   {
@@ -219,9 +220,9 @@ void failIfProtected(Fault fault, const std::string& name) {
   if (!writable && errno != ENOENT) fail(fault, name);
 }
 
-/// A copy grows under a name of its own beside its target and takes the target's place when it is
-/// whole and on disk. If it does not come to that, nothing of it stays behind; what a killed
-/// process leaves is removed by the next copy to that target.
+/// The file that a copy is written to: it has a name of its own beside the target, and takes the
+/// target's name when it is whole and on disk. If that does not happen, it is removed; one that a
+/// killed process leaves is removed by the next copy to the same target.
 class Replacement {
  public:
   explicit Replacement(const std::string& target)
@@ -229,7 +230,7 @@ class Replacement {
     if (!descriptor_) fail(Fault::copy, target_);
   }
   ~Replacement() {
-    if (!done_) ::unlink(name_.c_str());  // still locked: it is this one's
+    if (!done_) ::unlink(name_.c_str());  // the lock shows that it is ours
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;

@@ -4,7 +4,8 @@
 
 namespace karvenis {
 
-/// The files of the current directory.
+/// The files of the process's current directory. Links are followed: a file behind a link is
+/// replaced where it is, and the link stays.
 class SystemFiles final : public Files {
  public:
   /// Makes the process ignore the signal of a size limit (`ulimit -f`), so that a write that

@@ -56,7 +56,7 @@ void changeRndFile(Surroundings& around, TitleBar& title) {
   Files& files = around.files;
   if (!files.exists(randomColumns)) return;
   std::int32_t count = 0;
-  // Columns that cannot be counted are not deleted for an empty file.
+  // If the columns cannot be counted, the file is not taken for an empty one, which is deleted.
   if (!ignoringFaults([&] { count = columnCount(files, randomColumns); })) return;
   if (count > 0) {
     around.boxes.beep();
@@ -69,7 +69,7 @@ void changeRndFile(Surroundings& around, TitleBar& title) {
   }
   ignoringFaults([&] { files.remove(randomColumns); });
   title.setCaption(standardTitle);
-  ignoringFaults([&] { tellOfNewList(around); });
+  ignoringFaults([&] { reportNewList(around); });
 }
 
 bool askAndDeleteRndFile(Surroundings& around) {
@@ -80,7 +80,7 @@ bool askAndDeleteRndFile(Surroundings& around) {
   return true;
 }
 
-void tellOfNewList(Surroundings& around) {
+void reportNewList(Surroundings& around) {
   around.boxes.beep();
   around.boxes.message(savedInList(columnCount(around.files, combinationList)));
 }

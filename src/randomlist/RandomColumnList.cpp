@@ -63,7 +63,7 @@ void saveAsCombinationList(Surroundings& around) {
   }
   backUpAnyList(around.files);
   around.files.copy(randomColumns, combinationList);
-  tellOfNewList(around);
+  reportNewList(around);
 }
 
 void DeleteOneColumn(Surroundings& around, ListPage& page) {

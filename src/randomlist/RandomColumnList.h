@@ -13,9 +13,9 @@ namespace karvenis {
 /// and its number in the title. A missing file is created empty. Throws RunTimeError.
 void ShowRndPage(Surroundings& around, ListPage& page, TextSurface& surface, TitleBar& title);
 
-/// Appends all columns to the combination list, after a question and whatever the length of either.
+/// Appends all columns to the combination list, after a question; neither list has a length limit.
 /// The page then starts behind as many columns as the combination list had before. Throws
-/// RunTimeError; the list is then as it was.
+/// RunTimeError; the combination list is then as it was.
 void appendToCombinationList(Surroundings& around, ListPage& page);
 
 /// Makes a copy of the file the combination list, after a question; the old list goes to its
@@ -25,7 +25,7 @@ void saveAsCombinationList(Surroundings& around);
 /// Opens the dialog that deletes one column, if there is one.
 void DeleteOneColumn(Surroundings& around, ListPage& page);
 
-/// Opens the dialog that writes or prints the list, if there is a whole record.
+/// Opens the dialog that writes or prints the list, if the list holds a whole record.
 void openRndListing(Surroundings& around);
 
 /// Shows the window's keys.

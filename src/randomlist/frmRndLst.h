@@ -6,7 +6,7 @@
 
 namespace karvenis {
 
-/// The list of random columns: pages through the file and carries the commands on all of it.
+/// The list of random columns: shows it page by page and runs the commands on it.
 class frmRndLst final : public PageForm {
   Q_OBJECT
 

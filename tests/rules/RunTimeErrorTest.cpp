@@ -4,7 +4,7 @@
 
 #include "core/Checked.h"
 #include "platform/RunTimeError.h"
-#include "platform/SystemWords.h"
+#include "platform/SystemErrorText.h"
 
 namespace karvenis {
 namespace {
@@ -31,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(Faults, ClosingBox,
                                          Told{Fault::overflow, "'X' sayısı taştı.\rNeden: y"},
                                          Told{Fault::printer, "Printer hatası: 'X'\rNeden: y"}));
 
-TEST(SystemWords, AreTurkishForTheErrorsThatAUserCanMeet) {
+TEST(SystemErrorText, IsTurkishForTheErrorsThatAUserCanMeet) {
   const std::pair<int, const char*> rows[] = {
       {EACCES, "Erişim izni yok."},          {EPERM, "Erişim izni yok."},
       {EROFS, "Dosya sistemi salt okunur."}, {ENOSPC, "Diskte yer kalmadı."},
@@ -41,8 +41,8 @@ TEST(SystemWords, AreTurkishForTheErrorsThatAUserCanMeet) {
       {EBADF, "Dosya salt okunur."},         {EAGAIN, "Dosya başka bir programda kullanılıyor."},
       {ELOOP, "Bağlantı kendine dönüyor."},
   };
-  for (const auto& [error, words] : rows) EXPECT_EQ(systemWords(error), words);
-  EXPECT_FALSE(systemWords(ETXTBSY).empty());
+  for (const auto& [error, words] : rows) EXPECT_EQ(systemErrorText(error), words);
+  EXPECT_FALSE(systemErrorText(ETXTBSY).empty());
 }
 
 TEST(Checked, TellsTheNumberAndTheRoomThatItOutgrew) {

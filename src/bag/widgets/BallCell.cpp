@@ -42,7 +42,7 @@ QAccessibleInterface* makeAccessible(const QString& className, QObject* object) 
 
 }  // namespace
 
-/// The caption is set last: it makes the cell known to assistive technology, as what it is by then.
+/// The caption is set last: with it assistive technology learns of the cell, and asks what it is.
 BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(parent) {
   static const bool known = (QAccessible::installFactory(makeAccessible), true);
   static_cast<void>(known);
@@ -58,17 +58,17 @@ void BallCell::grow(double growth) {
   setFixedSize(cellSize * growth);
 }
 
-/// A procedure may turn a mark twice; what it has become is told when it has ended.
+/// A procedure may change a mark twice; the result is reported when the procedure has ended.
 void BallCell::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
   if (event->type() == QEvent::FontChange) {
-    QMetaObject::invokeMethod(this, &BallCell::tellMark, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &BallCell::reportMark, Qt::QueuedConnection);
   }
 }
 
-void BallCell::tellMark() {
-  if (told_ == isMarked()) return;
-  told_ = isMarked();
+void BallCell::reportMark() {
+  if (reportedMark_ == isMarked()) return;
+  reportedMark_ = isMarked();
   QAccessible::State changed;
   changed.checked = true;
   QAccessibleStateChangeEvent event(this, changed);

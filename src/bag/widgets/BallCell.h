@@ -4,7 +4,7 @@
 
 namespace karvenis {
 
-/// One ball of the bag window's coupon. A marked ball is told by its bold font, and so it is drawn:
+/// The button of one ball in the bag window. It is marked if its font is bold, and is then drawn
 /// bold, ringed and on bright white.
 class BallCell final : public QPushButton {
   Q_OBJECT
@@ -30,9 +30,9 @@ class BallCell final : public QPushButton {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
-  void tellMark();
+  void reportMark();
 
-  bool told_ = false;  // the mark that assistive technology knows of
+  bool reportedMark_ = false;  // what assistive technology knows of the mark
   double growth_ = 1;
 };
 

@@ -8,7 +8,7 @@ namespace karvenis {
 
 class Artwork;
 
-/// A drawing in its full size; a click on it goes to what lies behind.
+/// Shows a drawing, or a part of one, that fills the widget. A click on it goes to its parent.
 class Picture final : public QWidget {
   Q_OBJECT
 

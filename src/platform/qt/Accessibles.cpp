@@ -25,20 +25,20 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
   if (is(QLineEdit::staticMetaObject)) {
     return makeTypedTextAccessible(static_cast<QLineEdit*>(object));
   }
-  // By itself a frame is told as a window, and swallows the focus of what is in it.
+  // The toolkit reports a frame as a window, and a screen reader then misses the focus inside it.
   if (is(QFrame::staticMetaObject)) {
     return new QAccessibleWidget(static_cast<QFrame*>(object), QAccessible::Grouping);
   }
   return nullptr;
 }
 
-const QObject* focused = nullptr;  // as assistive technology was told; only compared
+const QObject* focused = nullptr;  // the focus that was reported last; only compared
 
-/// Of the caret and the selection in a box assistive technology hears while the box has the focus.
-/// A screen reader that hears of them before it hears of the focus does not name the box, and what
-/// is selected no more when the focus goes is no news. Of a number that the program writes, the
-/// program speaks itself.
-bool isToBeTold(const QAccessibleEvent& event) {
+/// Whether assistive technology hears of `event`. It hears of the caret and the selection in a box
+/// only while the box has the focus and that has been reported: a screen reader that hears of them
+/// earlier does not name the box, and a selection that ends when the focus leaves is no news. A
+/// number that the program writes is announced by the program itself.
+bool isToBeReported(const QAccessibleEvent& event) {
   switch (event.type()) {
     case QAccessible::Focus:
       focused = event.object();
@@ -55,18 +55,18 @@ bool isToBeTold(const QAccessibleEvent& event) {
   }
 }
 
-void tell(QAccessibleEvent* event) {
-  if (!isToBeTold(*event)) return;
+void report(QAccessibleEvent* event) {
+  if (!isToBeReported(*event)) return;
   QAccessible::installUpdateHandler(nullptr);
   QAccessible::updateAccessibility(event);
-  QAccessible::installUpdateHandler(tell);
+  QAccessible::installUpdateHandler(report);
 }
 
 }  // namespace
 
 void installAccessibles() {
   static const bool installed =
-      (QAccessible::installFactory(make), QAccessible::installUpdateHandler(tell), true);
+      (QAccessible::installFactory(make), QAccessible::installUpdateHandler(report), true);
   static_cast<void>(installed);
 }
 

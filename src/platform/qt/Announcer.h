@@ -4,9 +4,9 @@
 
 namespace karvenis {
 
-/// Words for those who have `window` read to them, spoken without moving the focus: a screen reader
-/// speaks a notification that comes up. This one has nothing to see, and goes by itself when even a
-/// slow reader has asked for its words.
+/// Has a screen reader speak `words` without moving the focus: it speaks a notification that
+/// appears in `window`. This one is invisible to the eye, and deletes itself when even a slow
+/// screen reader has fetched its text.
 class Announcer final : public QWidget {
   Q_OBJECT
 

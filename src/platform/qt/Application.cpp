@@ -7,7 +7,7 @@
 namespace karvenis {
 namespace {
 
-/// A key press, told as what it is: a repeat.
+/// A key press that is marked as a repeat.
 struct Repeat final : QKeyEvent {
   explicit Repeat(const QKeyEvent& press) : QKeyEvent(press) { m_autoRepeat = true; }
 };
@@ -23,9 +23,9 @@ bool isOfClosedBox(const QObject* receiver) {
 
 /// Input comes from the desktop to the native windows.
 bool Application::notify(QObject* receiver, QEvent* event) {
-  // That a box has closed is told by the window that follows it. Assistive technology, which
-  // watches all events, may be busy with a key when it hears of that by itself, takes the next
-  // window for known then and does not read it.
+  // Assistive technology sees every event. It need not see that a closed box is no longer active:
+  // if it is busy with a key at that moment, it takes the next window for one that it has read
+  // already, and does not read it. That window's own events tell it enough.
   if (event->type() == QEvent::WindowDeactivate && isOfClosedBox(receiver)) {
     return receiver->event(event);
   }
@@ -47,8 +47,8 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   return dropping_ || QApplication::notify(receiver, event);
 }
 
-/// Sends the key to the application itself: assistive technology, which may stop it on this way and
-/// send it on later, remembers where to, and the window may be gone then.
+/// Sends the key to the application itself and not to a window: assistive technology may stop a key
+/// on its way and send it on later to the same receiver, and a window may be closed by then.
 bool Application::takeKey(QKeyEvent& key) {
   const bool repeats = isRepeat(key);
   if (dropping_) return true;
@@ -85,9 +85,9 @@ QWindow* Application::keyWindow() const {
   return working_ ? working_->windowHandle() : focusWindow();
 }
 
-/// An X server sends a repeat as a release and a press of the same moment; the toolkit knows the
-/// two for a repeat only where it happens to read them together, and else takes them for a key
-/// pressed anew. Elsewhere the moment is that of the event's making, and no repeat is told by it.
+/// An X server sends a repeat as a release and a press with the same time. The toolkit recognises
+/// the two only if it happens to read them together. On other platforms an event's time is when it
+/// was made, and says nothing about repeats.
 bool Application::isRepeat(const QKeyEvent& key) {
   if (key.type() == QEvent::KeyRelease) {
     releasedKey_ = key.key();

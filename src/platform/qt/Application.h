@@ -13,11 +13,12 @@ namespace karvenis {
 /// before the toolkit hands a key to assistive technology and gets a copy of it back, late and
 /// without the moment when it was pressed.
 ///
-/// - The repeat of a key that is held is told from a new press (QKeyEvent::isAutoRepeat), and stays
-///   in the window it was pressed in: a box is not answered, and a list not paged, by a key that
-///   was already held when it came.
-/// - A key belongs to the window that the user works in when it is served, and not to the one that
-///   still had the keyboard when it was pressed: the open box, else the working window.
+/// - A repeat of a held key is marked as one (QKeyEvent::isAutoRepeat) and reaches only the window
+///   in which the key was pressed: a key that is already held when a box or a list opens does not
+///   answer the box and does not page the list.
+/// - A key goes to the window that the user works in when the key is handled, not to the one that
+/// had
+///   the keyboard when it was pressed: the open box, else the working window.
 /// - What came while a long action ran is dropped, so that it does not become a command after it.
 class Application final : public QApplication {
   Q_OBJECT
@@ -25,7 +26,7 @@ class Application final : public QApplication {
  public:
   using QApplication::QApplication;
 
-  /// The running application; null where another kind of it runs.
+  /// The running application; null if that is an application of another class.
   static Application* instance() { return qobject_cast<Application*>(qApp); }
 
   /// Sets the window that has the keys while no box is open; null: the one that has the keyboard.

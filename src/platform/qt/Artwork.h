@@ -9,10 +9,11 @@ class QSvgRenderer;
 
 namespace karvenis {
 
-/// A drawing in the pixels of `size`, made when the program was built; null where there is none.
+/// The pixels of the drawing `name` in `size`, rendered when the program was built; null if they
+/// were not.
 QPixmap readyMade(const QString& name, const QSize& size);
 
-/// The program's drawings, rendered once for each size and kept.
+/// The program's drawings. Each is rendered once for each size, and then kept.
 class Artwork {
  public:
   Artwork();

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 namespace {
 
-/// Starts `program` with `input` as its standard input and without an output; 0 where it cannot.
+/// Starts `program` with `input` as its standard input and without an output; 0 if it cannot.
 pid_t started(const QString& program, int input) {
   QByteArray path = QFile::encodeName(program);
   char* const arguments[] = {path.data(), nullptr};
@@ -41,7 +41,7 @@ Bell::~Bell() {
   if (pipe_ >= 0) ::close(pipe_);
 }
 
-/// Beside this program in a build folder, else where it is installed.
+/// The player beside this program, as in a build folder, else the installed one.
 QString Bell::installedPlayer() {
   const QString here = QCoreApplication::applicationDirPath();
   const QString beside = here + u"/karvenis-bell"_s;

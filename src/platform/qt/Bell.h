@@ -10,9 +10,9 @@
 
 namespace karvenis {
 
-/// The beep as a sound of the desktop, played by a program of its own. The first ring starts it; a
-/// sound server that hangs holds up that program only. It ends by itself where it cannot play, and
-/// from then on the window system's own bell rings.
+/// The beep as a sound of the desktop, played by a program of its own, which the first ring starts:
+/// a sound server that hangs stops only that program. If it cannot play, it ends, and from then on
+/// the window system's own bell rings.
 class Bell {
  public:
   /// `player` plays one sound for each byte of its standard input and ends with it; `otherwise`

@@ -17,7 +17,7 @@
 namespace karvenis {
 namespace {
 
-/// How often the screen hears of a new caption while a procedure runs, in milliseconds.
+/// How often the title on the screen changes at most while a procedure runs, in milliseconds.
 constexpr qint64 captionInterval = 15;
 
 bool isBoxOpen() { return QApplication::activeModalWidget() != nullptr; }
@@ -39,8 +39,8 @@ void Form::setCaption(std::string_view caption) {
 
 void Form::showCaption() {
   sinceShown_.start();
-  const QString shown = toQt(caption_);
-  if (shown != windowTitle()) setWindowTitle(shown);
+  const QString title = toQt(caption_);
+  if (title != windowTitle()) setWindowTitle(title);
 }
 
 void Form::unload() {
@@ -112,14 +112,15 @@ void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
   });
 }
 
-/// Keys and clicks go to the open box by themselves, but assistive technology presses what it
-/// likes, and the press of a button that began before the box opened ends behind it.
+/// Whether `sender` is a control behind an open box. The user's keys and clicks go to the box, but
+/// assistive technology can press any control, and a press that began before the box opened can end
+/// behind it.
 bool Form::isBehindBox(const QObject* sender) {
   return isBoxOpen() && (qobject_cast<const QAbstractButton*>(sender) != nullptr ||
                          qobject_cast<const QAction*>(sender) != nullptr);
 }
 
-/// Puts a choice back that was made behind an open box.
+/// Undoes a change of `choice` that is made behind an open box.
 void Form::keepBehindBox(QAbstractButton* choice) {
   connect(choice, &QAbstractButton::toggled, this, [this, choice](bool checked) {
     if (!isBoxOpen() || puttingBack_ || choice->isChecked() != checked) return;
@@ -132,7 +133,8 @@ void Form::keepBehindBox(QAbstractButton* choice) {
 bool Form::event(QEvent* event) {
   const bool handled = QWidget::event(event);
   if (event->type() == QEvent::WindowActivate && isVisible()) forms_.gotKeyboard(*this);
-  if (event->type() == QEvent::WindowDeactivate) pressWasFree_ = pressBeforeWasFree_ = false;
+  if (event->type() == QEvent::WindowDeactivate)
+    pressedBackground_ = pressedBackgroundBefore_ = false;
   return handled;
 }
 
@@ -217,19 +219,19 @@ void Form::resizeEvent(QResizeEvent* event) {
   run([this] { Form_Resize(); });
 }
 
-void Form::makeSurface(QWidget* container) { container->setProperty("surface", true); }
+void Form::markAsBackground(QWidget* container) { container->setProperty("background", true); }
 
-bool Form::isFree(const QPoint& place) const {
+bool Form::isBackground(const QPoint& place) const {
   const QWidget* child = childAt(place);
-  return child == nullptr || child->property("surface").toBool();
+  return child == nullptr || child->property("background").toBool();
 }
 
-/// Every press comes by here, also one on a control and the second one of a double click, so that a
-/// double click counts as one on the window's own surface only where both presses were there.
+/// Sees every press, also one on a control and the second one of a double click: a double click on
+/// the background is one with both presses there.
 void Form::notePress(const QMouseEvent& press) {
-  pressBeforeWasFree_ = pressWasFree_;
-  pressWasFree_ = press.button() == Qt::LeftButton && isFree(press.pos());
-  clickArmed_ = pressWasFree_;
+  pressedBackgroundBefore_ = pressedBackground_;
+  pressedBackground_ = press.button() == Qt::LeftButton && isBackground(press.pos());
+  clickArmed_ = pressedBackground_;
 }
 
 void Form::mouseReleaseEvent(QMouseEvent* event) {
@@ -240,7 +242,8 @@ void Form::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void Form::mouseDoubleClickEvent(QMouseEvent* event) {
-  const bool both = pressBeforeWasFree_ && pressWasFree_ && event->button() == Qt::LeftButton;
+  const bool both =
+      pressedBackgroundBefore_ && pressedBackground_ && event->button() == Qt::LeftButton;
   clickArmed_ = false;
   if (both) run([this] { Form_DblClick(); });
 }

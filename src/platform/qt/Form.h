@@ -32,10 +32,11 @@ class Form : public QWidget, public TitleBar {
   Form(Windows& windows, const char* name);
 
   std::string name() const { return objectName().toStdString(); }
-  /// The exact caption at once; while a procedure runs, the screen is told of the newest one now
-  /// and then only, since a window manager shows no more.
+  /// Keeps the exact caption at once. While a procedure runs, the screen gets the newest one only
+  /// every few milliseconds, since a window manager shows no more.
   void setCaption(std::string_view caption) override;
   const std::string& caption() const { return caption_; }
+  /// Brings the title on the screen up to date.
   void showCaption();
 
   /// Closes the window and deletes it when the running procedure has ended.
@@ -46,7 +47,7 @@ class Form : public QWidget, public TitleBar {
   const std::string& opener() const { return opener_; }
   void setOpener(const std::string& opener) { opener_ = opener; }
 
-  /// Whether the window has been minimised since this was asked last.
+  /// Whether the window has been minimised since the last call.
   bool cameBack() { return std::exchange(wasMinimised_, false); }
 
   /// Runs an event procedure; a fault ends the program with its one closing box.
@@ -63,26 +64,24 @@ class Form : public QWidget, public TitleBar {
   virtual void Form_KeyDown(int KeyCode, int Shift);
   /// The character of a key: Enter (13) and Esc (27) only, not while Ctrl or Alt is held.
   virtual void Form_KeyPress(int KeyAscii);
-  /// A left click on the window's own surface.
+  /// A left click on the background: on the window itself and not on a control.
   virtual void Form_Click() {}
-  /// A left double click with both presses on the window's own surface.
+  /// A left double click with both presses on the background.
   virtual void Form_DblClick() {}
   /// The window has another size than before; also at its first show.
   virtual void Form_Resize() {}
   /// The user closes the window by its frame.
   virtual void closeRequested() { unload(); }
 
-  Forms& forms() const { return forms_; }
-
-  /// Connects a control's signal with an event procedure.
+  /// Connects a control's signal with an event procedure. Behind an open box it does not run.
   template <typename Sender, typename Signal, typename Procedure>
   void on(Sender* sender, Signal signal, Procedure procedure) {
     connect(sender, signal, this, [this, sender, procedure] {
       if (!isBehindBox(sender)) run(procedure);
     });
   }
-  /// Counts `container`, a widget that only holds others, as part of the window's own surface.
-  static void makeSurface(QWidget* container);
+  /// Makes clicks on `container`, a widget that only holds others, clicks on the background.
+  static void markAsBackground(QWidget* container);
   /// Enter in `box`, once however long it is held.
   void onEnter(QLineEdit* box, std::function<void()> procedure);
   /// A control of this window under its own name.
@@ -119,7 +118,7 @@ class Form : public QWidget, public TitleBar {
   void notePress(const QMouseEvent& press);
   bool pressesFocused(int code) const;
   bool pressFocused(int code, QWidget* focused);
-  bool isFree(const QPoint& place) const;
+  bool isBackground(const QPoint& place) const;
 
   Forms& forms_;
   std::string opener_;
@@ -133,8 +132,8 @@ class Form : public QWidget, public TitleBar {
   bool puttingBack_ = false;
   bool keyRepeats_ = false;  // the key that is being handled is a repeat
   bool clickArmed_ = false;
-  bool pressWasFree_ = false;        // the last press was on the window's own surface
-  bool pressBeforeWasFree_ = false;  // and so was the one before
+  bool pressedBackground_ = false;        // the last press was on the background
+  bool pressedBackgroundBefore_ = false;  // and so was the one before
 };
 
 }  // namespace karvenis

@@ -19,13 +19,12 @@ namespace {
 /// elsewhere for longer has refused.
 constexpr std::chrono::milliseconds patience(2000);
 
-/// How long the keyboard must stay in a window before that is taken for the one the user went to: a
-/// desktop may also pass through another window after it has been to the right one. A key or a
-/// click tells it at once.
+/// How long the keyboard must stay in a window before the user is taken to work there: a desktop
+/// may pass through another window even after the right one. A key or a click decides at once.
 constexpr std::chrono::milliseconds calm(200);
 
-/// What a fault that is not a RunTimeError says to the user.
-std::string words(const std::exception& error) {
+/// What the closing box says about `error`, which may also be no RunTimeError.
+std::string described(const std::exception& error) {
   if (const auto* known = dynamic_cast<const RunTimeError*>(&error)) return describe(*known);
   return std::string("Beklenmeyen bir hata oluştu.\rNeden: ") + error.what();
 }
@@ -75,7 +74,7 @@ void Forms::show(std::string_view form) {
   present(*window);
 }
 
-/// Makes and loads a window; null where it closed itself at once.
+/// Makes and loads a window. Returns null if it closed itself at once.
 Form* Forms::open(std::string_view form) {
   const auto factory = factories_.find(form);
   if (factory == factories_.end()) throw std::logic_error("no window " + std::string(form));
@@ -89,8 +88,8 @@ Form* Forms::open(std::string_view form) {
   return window->isClosing() || ending_ ? nullptr : window;
 }
 
-/// A new window stands a little to the right of its opener's corner and below its title, and of
-/// every window that stands there already.
+/// Puts a new window a little to the right of its opener's corner and below its title, and farther
+/// on if another window stands there already.
 void Forms::placeBeside(Form& window, const Form& opener) const {
   constexpr QPoint step(36, 56);
   QPoint place = opener.pos();
@@ -138,8 +137,8 @@ void Forms::clicked(Form& form) {
   activate(form);
 }
 
-/// Makes `form` the window that the user works in; runs its Form_Activate where another one was it
-/// before, or where it comes back from being minimised.
+/// Makes `form` the window that the user works in. Runs its Form_Activate if that was another
+/// window before, or if it comes back from being minimised.
 void Forms::activate(Form& form) {
   if (ending_ || form.isClosing()) return;
   const bool cameBack = form.cameBack();
@@ -165,8 +164,8 @@ void Forms::closed(const Form& form) {
   if (Form* next = successorOf(form)) present(*next);
 }
 
-/// The window that takes the place of `form`; null where the user works elsewhere. What is left is
-/// never only a minimised main window.
+/// The window that becomes active when `form` closes; null if the active one stays. The main window
+/// is never left alone and minimised.
 Form* Forms::successorOf(const Form& form) const {
   Form* main = find(mainForm_);
   if (active_ == &form) {
@@ -193,8 +192,8 @@ void Forms::announce(std::string_view words) {
   if (QAccessible::isActive()) announcement_ = words;
 }
 
-/// Words are spoken behind what the focus is on, and wait for a window that has it: what is read
-/// with a window that gets the focus would cut them off.
+/// Has the announcement spoken as soon as a window has the focus: what a screen reader says about a
+/// window that gets the focus would cut it off.
 void Forms::speak() {
   auto* window = qobject_cast<Form*>(QApplication::activeWindow());
   if (announcement_.empty() || running_ > 0 || window == nullptr) return;
@@ -219,7 +218,7 @@ void Forms::fault(const std::exception& error) {
   ending_ = true;
   boxes_.pointer(Pointer::normal);
   status_ = 1;
-  boxes_.message(words(error) + "\r\rProgram kapanacak.", errorTitle, Icon::critical);
+  boxes_.message(described(error) + "\r\rProgram kapanacak.", errorTitle, Icon::critical);
   QCoreApplication::exit(status_);
 }
 

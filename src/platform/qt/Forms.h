@@ -21,10 +21,10 @@ class Form;
 /// The program's windows: makes them, knows which one the user works in and which one opened which,
 /// and ends the program.
 ///
-/// A window becomes the active one, with its Form_Activate, when the program shows it, when it is
-/// the opener of the active one that closes, when the user clicks into it, and when the desktop has
-/// given it the keyboard and left it there. Where the program has given the keyboard to a window, a
-/// desktop may pass through others until it gets there; they are not activated.
+/// A window becomes the active one, and its Form_Activate runs, when the program shows it, when the
+/// active window closes and it is that window's opener, when the user clicks into it, and when the
+/// desktop gives it the keyboard and leaves it there. When the program gives the keyboard to a
+/// window, a desktop may pass through other windows on the way; these are not activated.
 class Forms final : public Windows {
  public:
   using Factory = std::function<Form*()>;
@@ -32,8 +32,8 @@ class Forms final : public Windows {
   explicit Forms(Boxes& boxes);
   ~Forms() override;
 
-  /// Makes `form` known by its name; `make` returns a new window, which then belongs to itself and
-  /// goes when it is closed. The first one added is the main window.
+  /// Registers the window `form`: `make` returns a new one, which owns itself and is deleted when
+  /// it is closed. The first one added is the main window.
   void add(std::string form, Factory make);
   /// The open window of that name, or null.
   Form* find(std::string_view form) const;
@@ -44,31 +44,31 @@ class Forms final : public Windows {
   void show(std::string_view form) override;
   void announce(std::string_view words) override;
   void end() override;
-  /// Shows the main window and serves the user until the program ends; its exit status, which is 1
-  /// after a fault, also one at the start.
+  /// Shows the main window and runs until the program ends. Returns its exit status: 1 after a
+  /// fault, also one at the start, else 0.
   int run();
   /// Whether the program is about to end.
   bool ending() const { return ending_; }
 
   /// The desktop gave `form` the keyboard, or brought it back from being minimised.
   void gotKeyboard(const Form& form);
-  /// Activates the window that has the keyboard, unless that is only on its way elsewhere.
+  /// Activates the window that has the keyboard, unless the keyboard is on its way to another one.
   void settle();
-  /// Whether the keyboard is taken to be where it is.
+  /// Whether the keyboard is no longer expected to move by itself.
   bool isSettled() const { return !settle_.isActive(); }
   /// An event procedure of some window begins, perhaps inside another one, and ends.
   void procedureBegins() { ++running_; }
   void procedureEnds();
   /// A box is about to open: brings every title on the screen up to date. Returns the window that
-  /// the box belongs to; null where there is none.
+  /// the box belongs to; null if there is none.
   QWidget* boxOpens();
   /// The box has closed: its window has the keyboard again, which is no activation.
   void boxClosed();
-  /// `form` has closed. Where it was the active one, the window that it was last shown from, else
-  /// the main window, takes its place.
+  /// `form` has closed. If it was the active window, the one that it was last shown from, else the
+  /// main window, becomes active.
   void closed(const Form& form);
-  /// Drops the keys and clicks that came while a long action kept the program busy, so that they do
-  /// not become commands after it.
+  /// Drops the keys and clicks that came while a long action kept the program busy: they must not
+  /// become commands after it.
   static void dropInput();
   /// Ends the program with one box that says what failed, status 1.
   void fault(const std::exception& error);
@@ -90,7 +90,7 @@ class Forms final : public Windows {
   std::string mainForm_;
   std::vector<QPointer<Form>> open_;
   QPointer<Form> active_;
-  QTimer settle_;             // runs until the keyboard is taken to be where it is
+  QTimer settle_;             // runs while the keyboard may still move by itself
   std::string announcement_;  // what is to be spoken
   int running_ = 0;           // event procedures that have not ended
   bool ending_ = false;

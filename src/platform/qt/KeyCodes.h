@@ -13,8 +13,8 @@ int shiftOf(const QKeyEvent& key);
 /// Whether the key is the desktop's own: Alt with a function key or with Esc.
 bool isOfDesktop(const QKeyEvent& key);
 
-/// Whether the key is one that a screen reader is worked with, and one listens: Ctrl, Insert and
-/// Caps Lock alone.
+/// Whether a screen reader is running and the key is one that operates it: Ctrl, Insert or Caps
+/// Lock alone.
 bool isOfScreenReader(const QKeyEvent& key);
 
 }  // namespace karvenis

@@ -10,9 +10,10 @@
 namespace karvenis {
 namespace {
 
-constexpr double drawnFor = 13;        // pixels
-constexpr QSize frame(12, 36);         // about what window managers put around a window
-constexpr double leastNoticed = 1.25;  // below it pictures stay as drawn, where they are sharpest
+constexpr double drawnFor = 13;  // pixels
+constexpr QSize frame(12, 36);   // about what window managers put around a window
+constexpr double leastNoticed =
+    1.25;  // below it pictures keep their own size, in which they are sharpest
 constexpr double step = 0.05;
 
 bool hasRoom(const QWidget& window) {

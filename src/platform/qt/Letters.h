@@ -14,9 +14,10 @@ double letterGrowth();
 /// The room that a window has on the screen inside its frame, in device independent pixels.
 QSize roomOnScreen();
 
-/// Calls `size` with the growth that the pictures and large numbers of `window` are to be shown
-/// with: that of the letters if the window then has room on the screen, else the largest with which
-/// it has; at least 1, the size that they are drawn for. The window has a layout.
+/// Calls `size` with the factor by which the pictures and large numbers of `window` grow: that of
+/// the letters if the window then fits on the screen, else the largest with which it fits, at
+/// least 1. `size` may be called several times; the last call counts. Precondition: the window has
+/// a layout.
 void growWithLetters(QWidget& window, const std::function<void(double)>& size);
 
 }  // namespace karvenis

@@ -20,20 +20,20 @@ namespace {
 
 constexpr int besideTitle = 110;  // what a frame shows beside its title
 
-/// `text` for showing: what is too long for a line, such as a list of many numbers or a folder's
-/// name, may be broken behind its commas and slashes, where it would be cut off otherwise.
+/// `text` with places to break lines: behind the commas and slashes of a long word, such as a list
+/// of many numbers or the name of a folder, which would be cut off otherwise.
 QString breakable(const QString& text) {
   static const QRegularExpression longWord(u"\\S{50,}"_s);
   static const QRegularExpression mark(u"([,/])"_s);
-  QString shown;
+  QString broken;
   qsizetype done = 0;
   for (auto words = longWord.globalMatch(text); words.hasNext();) {
     const QRegularExpressionMatch word = words.next();
-    shown += QStringView(text).sliced(done, word.capturedStart() - done);
-    shown += word.captured().replace(mark, u"\\1\u200B"_s);
+    broken += QStringView(text).sliced(done, word.capturedStart() - done);
+    broken += word.captured().replace(mark, u"\\1\u200B"_s);
     done = word.capturedEnd();
   }
-  return shown.append(QStringView(text).sliced(done));
+  return broken.append(QStringView(text).sliced(done));
 }
 
 }  // namespace
@@ -88,7 +88,7 @@ void MessageBox::sizeText(const QSize& room, int least) {
 
 int MessageBox::heightAt(int width) const { return textSize(*label_, text(), width).height(); }
 
-/// The toolkit would measure the box in its own way.
+/// Keeps the size that showEvent() gives the box: the toolkit would compute another one.
 bool MessageBox::event(QEvent* event) {
   return event->type() == QEvent::LayoutRequest ? QDialog::event(event) : QMessageBox::event(event);
 }

@@ -7,9 +7,9 @@ class QScrollArea;
 
 namespace karvenis {
 
-/// A box with a text of any length. A line has its full width up to what reads well; a text that is
-/// too high then takes the screen's width, and what is still too high is scrolled, so that the
-/// buttons are always to be seen.
+/// A box with a text of any length. Lines are broken at a width that reads well. If the text is
+/// then too high for the screen, it takes the screen's width; if it still is, it is scrolled. The
+/// buttons are always visible.
 class MessageBox final : public QMessageBox {
   Q_OBJECT
 

@@ -22,7 +22,8 @@ void NumberBox::focusInEvent(QFocusEvent* event) {
   if (event->reason() == Qt::OtherFocusReason) selectAll();
 }
 
-/// A box that has the focus when its window opens hears of it as if its window only came back.
+/// For a box that has the focus when its window opens, the focus event looks as if the window only
+/// came back, so the number is selected here.
 void NumberBox::showEvent(QShowEvent* event) {
   QLineEdit::showEvent(event);
   if (!event->spontaneous() && window()->focusWidget() == this) selectAll();

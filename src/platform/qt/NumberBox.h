@@ -19,7 +19,7 @@ class NumberBox final : public QLineEdit {
   void write(const QString& number);
   /// Takes the focus and selects the number, which was refused.
   void askAgain();
-  /// Whether the program puts its own number in just now.
+  /// Whether the program is putting its own number in at this moment.
   bool isBeingWritten() const { return written_; }
 
  protected:

@@ -11,7 +11,7 @@
 namespace karvenis {
 namespace {
 
-constexpr double titleWidth = 6500;  // twips; the frame shows the whole title then
+constexpr double titleWidth = 6500;  // twips; with it the frame shows the whole title
 constexpr int widestBand = 16;       // of the ground above and below the page
 
 }  // namespace

@@ -19,10 +19,12 @@ class PageForm : public Form {
   void Form_Click() override;
   void paintEvent(QPaintEvent* event) override;
 
-  /// Runs the command of a key that does not close the window; returns whether the page is to be
-  /// drawn anew.
+  /// Runs the command of a key that does not close the window. Returns whether the page must be
+  /// redrawn.
   virtual bool command(int KeyCode) = 0;
+  /// Goes a page on, without drawing it.
   virtual void nextPage() = 0;
+  /// Prints the current page.
   virtual void redraw() = 0;
 
   /// Gives the page its size and its place; the measures are those of Surface::fix().

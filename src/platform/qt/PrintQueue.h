@@ -8,7 +8,7 @@
 
 namespace karvenis {
 
-/// Throws the one error of this door; no caller tells its causes apart.
+/// Throws RunTimeError(printer), the one error of this door: no caller needs to know the cause.
 [[noreturn]] void failToPrint();
 
 /// The system's default print queue. A user's own choice of queue, paper and options (lpoptions)

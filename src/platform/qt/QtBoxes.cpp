@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 namespace {
 
-QMessageBox::Icon shown(Icon icon) {
+QMessageBox::Icon iconOf(Icon icon) {
   switch (icon) {
     case Icon::none:
       return QMessageBox::NoIcon;
@@ -46,9 +46,10 @@ QWidget* QtBoxes::owner() const { return opens ? opens() : QApplication::activeW
 
 QtBoxes::~QtBoxes() { delete last_; }
 
-/// Shows the box until it is answered. Returns its result. The box stays, hidden, until the next
-/// one has been answered: a screen reader still asks for what it read last, and does not read the
-/// next box if that is gone. As a popup it is not listed among the windows of the program.
+/// Shows the box until it is answered. Returns its result. The box is kept, hidden, until the next
+/// one has been answered: a screen reader still asks about the control that it read last, and does
+/// not read the next box if that control is gone. As a popup the hidden box is in no list of
+/// windows.
 int QtBoxes::serve(QDialog& box) {
   const int result = box.exec();
   box.windowHandle()->setFlags(Qt::Popup);
@@ -58,7 +59,7 @@ int QtBoxes::serve(QDialog& box) {
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  auto& box = *new MessageBox(toQtLines(text), toQt(title), shown(icon), owner());
+  auto& box = *new MessageBox(toQtLines(text), toQt(title), iconOf(icon), owner());
   box.setWindowFlags(boxFlags);
   box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
   serve(box);

@@ -18,7 +18,7 @@ namespace {
 /// Makes a device pixel of the document a twip.
 constexpr int resolution = static_cast<int>(twipsPerInch);
 
-/// What a page keeps clear above and below even if the printer could print there, in twips.
+/// The least margin above and below, in twips, even if the printer could print there.
 constexpr int leastMargin = 500;
 
 /// The part of the page that is printed on, in twips.

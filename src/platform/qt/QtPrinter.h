@@ -7,7 +7,7 @@
 namespace karvenis {
 
 /// Prints on the system's default queue, without a dialog. A document is painted in memory and sent
-/// as a whole, so that one that is given up leaves nothing in the queue, and a full disk cannot cut
+/// as a whole: a document that is dropped leaves nothing in the queue, and a full disk cannot cut
 /// one off.
 class QtPrinter final : public Printer {
  public:

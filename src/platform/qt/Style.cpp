@@ -59,18 +59,18 @@ struct ButtonColours {
   unsigned top, bottom, edge;
 };
 
-ButtonColours coloursOf(QStyle::State state, bool isMain) {
+ButtonColours coloursOf(QStyle::State state, bool isPrimary) {
   if ((state & QStyle::State_Enabled) == 0) return {look::faded, look::faded, look::brass};
   if ((state & (QStyle::State_Sunken | QStyle::State_On)) != 0) {
-    return isMain ? ButtonColours{look::deepPetrol, look::deepPetrol, look::deepPetrol}
-                  : ButtonColours{0xFFE2CFA5, 0xFFE2CFA5, look::brass};
+    return isPrimary ? ButtonColours{look::deepPetrol, look::deepPetrol, look::deepPetrol}
+                     : ButtonColours{0xFFE2CFA5, 0xFFE2CFA5, look::brass};
   }
   if ((state & QStyle::State_MouseOver) != 0) {
-    return isMain ? ButtonColours{0xFF3A8D93, look::petrol, look::deepPetrol}
-                  : ButtonColours{0xFFFFFDF8, 0xFFF4E8CD, look::brass};
+    return isPrimary ? ButtonColours{0xFF3A8D93, look::petrol, look::deepPetrol}
+                     : ButtonColours{0xFFFFFDF8, 0xFFF4E8CD, look::brass};
   }
-  return isMain ? ButtonColours{0xFF2F7D83, 0xFF174A50, look::deepPetrol}
-                : ButtonColours{0xFFFFFAF0, 0xFFECDCB9, look::brass};
+  return isPrimary ? ButtonColours{0xFF2F7D83, 0xFF174A50, look::deepPetrol}
+                   : ButtonColours{0xFFFFFAF0, 0xFFECDCB9, look::brass};
 }
 
 /// A rounded box whose edge lies wholly inside `area`.
@@ -85,16 +85,16 @@ void drawBox(QPainter& painter, const QRect& area, double radius, const QPen& ed
   painter.restore();
 }
 
-void drawButton(const QStyleOption& option, QPainter& painter, bool isMain) {
-  const ButtonColours colours = coloursOf(option.state, isMain);
+void drawButton(const QStyleOption& option, QPainter& painter, bool isPrimary) {
+  const ButtonColours colours = coloursOf(option.state, isPrimary);
   QLinearGradient ground(option.rect.topLeft(), option.rect.bottomLeft());
   ground.setColorAt(0, QColor(colours.top));
   ground.setColorAt(1, QColor(colours.bottom));
   QPen edge(QColor(colours.edge), 1);
   if ((option.state & QStyle::State_HasFocus) != 0) {
-    edge = isMain ? QPen(QColor(look::amber), 3) : QPen(QColor(look::petrol), 2);
+    edge = isPrimary ? QPen(QColor(look::amber), 3) : QPen(QColor(look::petrol), 2);
   }
-  drawBox(painter, option.rect, isMain ? panelRadius : buttonRadius, edge, ground);
+  drawBox(painter, option.rect, isPrimary ? panelRadius : buttonRadius, edge, ground);
 }
 
 void drawMenuHead(const QStyleOptionMenuItem& head, QPainter& painter, const QStyle& style) {
@@ -212,7 +212,7 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
   }
 }
 
-/// In the pixels that the screen of `widget` shows it with.
+/// Rendered for the device pixels of the screen that `widget` is on.
 QIcon Style::boxIcon(const QString& part, const QWidget* widget) const {
   const int size = pixelMetric(PM_MessageBoxIconSize, nullptr, widget);
   const qreal ratio = widget == nullptr ? qApp->devicePixelRatio() : widget->devicePixelRatioF();
@@ -224,7 +224,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
   switch (element) {
     case CE_PushButtonBevel:
       return drawButton(*option, *painter,
-                        widget != nullptr && widget->property(mainButton).toBool());
+                        widget != nullptr && widget->property(primaryButton).toBool());
     case CE_MenuBarItem:
       return drawMenuHead(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
     case CE_MenuItem:
@@ -236,7 +236,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
   }
 }
 
-/// The slider of a scroll bar has a colour of its own, so that what is scrolled is seen to be.
+/// The slider of a scroll bar has a colour of its own, so that the user sees that there is more.
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                QPainter* painter, const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);

@@ -6,16 +6,16 @@
 
 namespace karvenis {
 
-/// What the program's controls look like where the toolkit's plain style is not warm enough: raised
-/// buttons, panels, menus, the icons of boxes, a focus that shows, and the room around them all.
+/// How the program's controls look: raised buttons, panels, menus, the icons of boxes, a visible
+/// focus, and the room around them all. Everything else is the toolkit's plain style.
 class Style final : public QProxyStyle {
   Q_OBJECT
 
  public:
   Style();
 
-  /// The property that tells the one button of a window that everything is about.
-  static constexpr char mainButton[] = "mainButton";
+  /// The property that marks a window's primary button.
+  static constexpr char primaryButton[] = "primaryButton";
 
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;

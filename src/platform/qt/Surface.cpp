@@ -28,7 +28,7 @@ QFont fitted(QFont font, int designed, int lines) {
   return font;
 }
 
-QColor shown(QBColor colour) {
+QColor colourOf(QBColor colour) {
   switch (colour) {
     case QBColor::blue:
       return {0, 0, 128};
@@ -83,10 +83,10 @@ void Surface::cls() {
 }
 
 void Surface::print(const std::string& text) {
-  const QString shownText = toQt(text);
-  note(shownText);
-  runs_.push_back({x_, y_, colour_, shownText});
-  x_ += twips(QFontMetricsF(font()).horizontalAdvance(shownText));
+  const QString printed = toQt(text);
+  note(printed);
+  runs_.push_back({x_, y_, colour_, printed});
+  x_ += twips(QFontMetricsF(font()).horizontalAdvance(printed));
   update();
 }
 
@@ -97,7 +97,7 @@ void Surface::printLine(const std::string& text) {
   y_ += lineHeight();
 }
 
-/// Adds `text` to the line that is being printed, for those who have it read to them.
+/// Adds `text` to the line that is being printed, for assistive technology.
 void Surface::note(const QString& text) {
   if (!lineOpen_) lines_.push_back({QString(), y_});
   lineOpen_ = true;
@@ -105,8 +105,8 @@ void Surface::note(const QString& text) {
 }
 
 void Surface::setPage(int number) {
-  const bool told = number == page_ || page_ == 0;  // the title tells a new window's first page
-  heading_ = told ? QString() : u"Sayfa %1. "_s.arg(number);
+  const bool isKnown = number == page_ || page_ == 0;  // a new window's title says its first page
+  heading_ = isKnown ? QString() : u"Sayfa %1. "_s.arg(number);
   page_ = number;
 }
 
@@ -120,8 +120,8 @@ void Surface::focusInEvent(QFocusEvent* event) {
   tellFirstLine();
 }
 
-/// A screen reader speaks what the focus moves to, here the first line when the redraw has ended.
-/// It is another object than the one before it, so that it is spoken after every redraw.
+/// Reports that the focus is on the first line, which a screen reader then speaks, once the redraw
+/// has ended. After every redraw the line is a new object, so that it is spoken again.
 void Surface::tellFirstLine() {
   if (!QAccessible::isActive()) return;
   const auto tell = [this] {
@@ -142,7 +142,7 @@ void Surface::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const double ascent = QFontMetricsF(font()).ascent();
   for (const Run& run : runs_) {
-    painter.setPen(shown(run.colour));
+    painter.setPen(colourOf(run.colour));
     painter.drawText(QPointF(pixels(run.x), pixels(run.y) + ascent), run.text);
   }
 }

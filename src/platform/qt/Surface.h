@@ -13,9 +13,9 @@ class Surface final : public QWidget, public TextSurface {
   Q_OBJECT
 
  public:
-  /// A surface for letters of `textPixels` (device independent), which is 9.75 points unless told
-  /// otherwise. They grow with the desktop's own, and all twips with them, as far as the screen has
-  /// room for `lines` lines of text and their margins.
+  /// A surface for letters of `textPixels` (device independent; 13 of them are 9.75 points). The
+  /// letters grow with the desktop's own, and all lengths in twips with them, as far as the screen
+  /// has room for `lines` lines of text and their margins.
   Surface(QWidget* parent, int lines, int textPixels = 13);
 
   void cls() override;
@@ -32,7 +32,7 @@ class Surface final : public QWidget, public TextSurface {
     double top;  // twips
   };
   const std::vector<Line>& lines() const { return lines_; }
-  /// Tells which page of a list has been printed; another one than before is spoken.
+  /// Sets which page of a list has been printed; if it is another one, a screen reader hears it.
   void setPage(int number);
   /// Line `index` as it is spoken.
   QString spokenLine(std::size_t index) const;

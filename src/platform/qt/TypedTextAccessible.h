@@ -5,9 +5,9 @@ class QLineEdit;
 
 namespace karvenis {
 
-/// What a box to type into is to assistive technology. It stands in for the toolkit's own, which
-/// tells the attributes of no character: a screen reader that asks for them then leaves out the
-/// last character and speaks 3276 for 32767.
+/// How assistive technology sees the text box `box`. It replaces the toolkit's own interface, which
+/// reports no attributes for the last character: a screen reader that asks for them leaves that
+/// character out and says 3276 for 32767.
 QAccessibleInterface* makeTypedTextAccessible(QLineEdit* box);
 
 }  // namespace karvenis

@@ -1,11 +1,11 @@
-#include "platform/SystemWords.h"
+#include "platform/SystemErrorText.h"
 
 #include <cerrno>
 #include <system_error>
 
 namespace karvenis {
 
-std::string systemWords(int error) {
+std::string systemErrorText(int error) {
   switch (error) {
     case EACCES:
     case EPERM:
