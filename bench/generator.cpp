@@ -33,7 +33,7 @@ void sync(int descriptor) {
   ::close(descriptor);
 }
 
-/// A partial shuffle, a sort, one write; and, where asked, the bytes and the name on disk.
+/// A partial shuffle, a sort, one write; and, if asked, the bytes and the name on disk.
 void leastLoop(std::mt19937& random, bool synced) {
   std::vector<std::uint16_t> words(std::size_t{columns} * 8);
   std::array<std::uint16_t, 49> balls{};

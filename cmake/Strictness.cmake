@@ -1,4 +1,4 @@
-# Every target of this project compiles with the same warnings; errors only where asked for, since
+# Every target of this project compiles with the same warnings; errors only if asked for, since
 # the next compiler knows warnings that this one does not.
 add_library(karvenis_strict INTERFACE)
 target_compile_options(karvenis_strict INTERFACE

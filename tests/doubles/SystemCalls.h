@@ -20,7 +20,7 @@ struct SystemCall {
 
 /// What stands between the program and the system in the test program. `before` hears of every call
 /// that changes files and returns 0, or the error that it fails with; `room` tells how many bytes
-/// of a write the disk still takes, where that are fewer than it was asked to; `done` hears of
+/// of a write the disk still takes, if these are fewer than it was asked to take; `done` hears of
 /// every call that succeeded.
 struct SystemCallHooks {
   std::function<int(const SystemCall& call)> before{};

@@ -39,11 +39,11 @@ void perform(const Action& action, Files& files);
 /// What the folder holds after an undisturbed run from `start`.
 Folder resultOf(const Action& action, const Folder& start);
 
-/// Empty where every list in `now` holds its old or its new bytes, or the marks that the action may
+/// Empty if every list in `now` holds its old or its new bytes, or the marks that the action may
 /// leave while the backup is intact; else what is wrong. `died` asks, too, that nothing is gone
 /// whose successor is not there.
 std::string damage(const Action& action, const Folder& now, bool died);
-/// Empty where an undisturbed run from `now` does what it does without anything left over in the
+/// Empty if an undisturbed run from `now` does what it does without anything left over in the
 /// folder, and leaves nothing over itself; else what is wrong.
 std::string stumbles(const Action& action, const Folder& now);
 

@@ -58,7 +58,7 @@ class DiskFolder {
   }
 
  private:
-  /// Where TMPDIR tells, else in memory where the system offers that: syncs are many here and cost
+  /// Where TMPDIR says, else in memory if the system offers that: syncs are many here and cost
   /// nothing there.
   static std::filesystem::path place() {
     const std::filesystem::path memory = "/dev/shm";

@@ -11,7 +11,7 @@ namespace {
 
 class FailingSystem : public OnDisk {};
 
-/// Runs the action in a child process that dies as `atCall` orders; true where it died.
+/// Runs the action in a child process that dies as `atCall` orders; true if it died.
 bool diesInChild(const Action& action, const std::function<int(const SystemCall&)>& atCall) {
   const pid_t child = ::fork();
   if (child == 0) {
@@ -30,7 +30,7 @@ bool diesInChild(const Action& action, const std::function<int(const SystemCall&
   return WIFSIGNALED(status);
 }
 
-/// Nothing is to be told where a copy cannot delete what is not there before it begins.
+/// No fault is reported if a copy cannot delete what is not there before it begins.
 bool isCleaning(const SystemCall& call) {
   return call.kind == SystemCall::Kind::unlink && isCopyUnderWay(call.name);
 }

@@ -93,7 +93,7 @@ void put(const char* file, const std::string& text) {
 }
 
 /// Puts a small file system in memory in the place of `folder`, for this process only; ends the
-/// process where the kernel does not let it.
+/// process if the kernel does not let it.
 void mountSmallDisk(const std::string& folder) {
   const std::string me = std::to_string(::geteuid());
   const std::string mine = std::to_string(::getegid());

@@ -38,7 +38,7 @@ class HostilePlace : public testing::TestWithParam<Action> {
  protected:
   void SetUp() override { folder_.fill(*GetParam().start); }
 
-  /// Runs the action; where it ends in the fault, that tells why.
+  /// Runs the action; if it ends in a fault, returns why.
   void run() {
     try {
       perform(GetParam(), files_);

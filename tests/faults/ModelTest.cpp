@@ -40,7 +40,7 @@ class Walk {
     };
     (this->*moves[below(std::size(moves))])();
   }
-  /// What differs between the files and the model; empty where nothing does.
+  /// What differs between the files and the model; empty if nothing does.
   std::string difference() const {
     if (columnsIn(world_.files, randomColumns) != model_.kept) return "kept columns";
     if (columnsIn(world_.files, combinationList) != model_.list) return "list";

@@ -36,7 +36,7 @@ Timetable& sharedTimetable() {
   return *new (memory) Timetable{};
 }
 
-/// Runs the action in a child process; true where that was killed. `atCall` gets the number (from
+/// Runs the action in a child process; true if that was killed. `atCall` gets the number (from
 /// 0) of each call that changes files, just before it is made.
 bool killedInChild(const Action& action, const std::function<void(int call)>& atCall,
                    const std::function<void()>& atEnd) {

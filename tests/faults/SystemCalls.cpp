@@ -38,7 +38,7 @@ auto through(SystemCall call, Real real) -> decltype(real()) {
   return result;
 }
 
-/// The bytes of a write that the hook lets through; -1 where the disk is full.
+/// The bytes of a write that the hook lets through; -1 if the disk is full.
 ssize_t fitting(const SystemCall& call, std::size_t count) {
   const SystemCallHooks& hooks = systemCallHooks();
   const std::size_t room = hooks.room ? std::min(hooks.room(call), count) : count;

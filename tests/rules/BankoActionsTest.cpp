@@ -346,7 +346,7 @@ TEST_P(SaveBanko, WritesTheBankoPartOnly) {
 
 Bytes filled(std::size_t length) { return Bytes(length, std::byte{1}); }
 
-/// `old` up to byte 100, zeros up to there where it is shorter, then these words, then what was
+/// `old` up to byte 100, zeros up to there if it is shorter, then these words, then what was
 /// there in `old`.
 Bytes overwritten(Bytes old, const std::vector<int>& banko) {
   const Bytes part = words(banko);

@@ -194,7 +194,7 @@ TEST_F(Animation, ShowingTheNumbersChangesNoVisibility) {
   EXPECT_EQ(stage.log.size(), 12U);
 }
 
-TEST(BannerTest, SwaysBetweenItsTurns) {
+TEST(Banner, SwaysBetweenItsTurns) {
   Banner banner;
   const int start = banner.left();
   banner.tick();
@@ -214,7 +214,7 @@ TEST(BannerTest, SwaysBetweenItsTurns) {
   EXPECT_EQ(rightmostAfterTurn, 0);
 }
 
-TEST(IdleCoverTest, ReturnsInAnotherMinuteOnly) {
+TEST(IdleCover, ReturnsInAnotherMinuteOnly) {
   IdleCover cover;
   EXPECT_TRUE(cover.returns(34));
   cover.stamp(59);

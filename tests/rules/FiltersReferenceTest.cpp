@@ -113,7 +113,7 @@ int word16(const Bytes& bytes, std::size_t at) {
   return static_cast<std::int16_t>(low | (high << 8U));
 }
 
-/// What the list must be afterwards; nothing where it must be gone.
+/// What the list must be afterwards; nothing if it must be gone.
 std::optional<Bytes> filtered(Filter filter, const Wish& wish, Bytes list) {
   const std::size_t rest = list.size() % 16;
   const std::size_t whole = list.size() / 16;

@@ -62,7 +62,7 @@ TEST(SaveRndColumn, TwiceSavesTwice) {
 struct Length {
   const char* name;
   std::size_t bytes;
-  std::int32_t number;  // of the new record; 0 where there is only the beep
+  std::int32_t number;  // of the new record; 0 if there is only the beep
 };
 
 class SaveBehind : public testing::TestWithParam<Length> {};

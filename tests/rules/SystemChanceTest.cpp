@@ -11,7 +11,7 @@
 
 namespace {
 
-std::optional<std::time_t> setDate;  // what the system says of the date; its own where empty
+std::optional<std::time_t> setDate;  // what the system says of the date; its own if empty
 bool noEntropy = false;
 
 }  // namespace

@@ -50,7 +50,7 @@ class DamagedWindows : public testing::Test {
   YieldingBoxes boxes_;
   std::unique_ptr<WholeProgram> program_;
 
-  /// The window, in a program that is made anew where a fault has ended the last one; null where
+  /// The window, in a program that is made anew if a fault has ended the last one; null if
   /// it closes itself for want of a file.
   Form* window(const char* name) {
     if (program_ == nullptr || program_->forms.ending()) {

@@ -6,7 +6,7 @@
 
 namespace karvenis {
 
-/// What tells the two list windows apart where they do the same.
+/// What differs between the two list windows in what they both do.
 struct ListWindow {
   const char* form;
   const char* file;

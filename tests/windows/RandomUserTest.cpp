@@ -22,7 +22,7 @@ constexpr char scratch[] = "KARVENIS.TMP";
 
 using Lengths = std::map<std::string, std::uintmax_t>;
 
-/// Ends the process with what was done last where nothing comes back in time.
+/// Ends the process with what was done last if the program does not answer in time.
 class Watchdog {
  public:
   explicit Watchdog(std::chrono::seconds patience)
@@ -127,7 +127,7 @@ bool isOrdered(const std::string& fault) {
          fault.find("'KARVENIS.RND' dosyası kopyalanamadı.") != std::string::npos;
 }
 
-/// Brings lists where there are none, so that there is much to do.
+/// Makes lists if there are none, so that there is much to do.
 void fill(Files& files) {
   for (const char* name : {randomColumns, combinationList}) {
     if (files.exists(name)) continue;

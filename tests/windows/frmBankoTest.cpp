@@ -28,7 +28,7 @@ class FrmBanko : public WindowTest {
   QRadioButton* option(int count) const {
     return control<QRadioButton>(banko, QStringLiteral("Option%1").arg(count + 1));
   }
-  /// The chosen number of bankos; -1 where none is chosen. The boxes and their caption must go with
+  /// The chosen number of bankos; -1 if none is chosen. The boxes and their caption must go with
   /// it.
   int chosen() const {
     int found = -1;
