@@ -65,7 +65,10 @@ class SpeakingCase(DesktopCase):
                     self._heard += place + 1
                     return found
             return None
-        return self.program.until(matching, f"«{pattern}» to be spoken; heard: {self._coming()}")
+        try:
+            return self.program.until(matching, f"«{pattern}» to be spoken")
+        except TooLate as late:
+            raise TooLate(f"{late}; heard: {self._coming()}") from None
 
     def _coming(self):
         return self.screen.voice.lines[self._heard:]
