@@ -63,8 +63,8 @@ struct Kind {
   const char* questionSeveral;  // and if there are several
   bool (*keeps)(const FilterMarks& marks, const Column& column);
   std::optional<std::int32_t> firstWord;  // what phase 1 writes before the final word
-  Copies copies;
   const char* phase2;
+  Copies copies;
   EmptyList emptyList;
 };
 
@@ -76,8 +76,8 @@ constexpr Kind kinds[] = {
      .questionSeveral = "' numaralı topların yer aldığı kolonları silmek istiyormusunuz?",
      .keeps = noneIsMarked,
      .firstWord = keepWord,
-     .copies = Copies::allButDeleted,
      .phase2 = " Faz 2 - Kolon :",
+     .copies = Copies::allButDeleted,
      .emptyList = EmptyList::stays},
     {.prompt = "İstediğiniz sayıları (aralarına virgül koyarak) girin.\r"
                "(Herhangi biri olan kolonlar seçilecek.)",
@@ -88,8 +88,8 @@ constexpr Kind kinds[] = {
                         "istiyormusunuz?",
      .keeps = anyIsMarked,
      .firstWord = deleteWord,
-     .copies = Copies::allButDeleted,
      .phase2 = " FAZ 2 - Kolon :",
+     .copies = Copies::allButDeleted,
      .emptyList = EmptyList::stays},
     {.prompt = "İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.",
      .example = "örnek: 5-12",
@@ -100,8 +100,8 @@ constexpr Kind kinds[] = {
                         "istiyormusunuz?",
      .keeps = atMostOneIsMarked,
      .firstWord = keepWord,
-     .copies = Copies::allButDeleted,
      .phase2 = " Faz 2 - Kolon :",
+     .copies = Copies::allButDeleted,
      .emptyList = EmptyList::stays},
     {.prompt = "En az birinin her bir kombinasyon içinde yer almasını istediğiniz ikililerin "
                "sayılarının arasına tire/eksi koyarak ve ikililerin aralarına virgül koyarak "
@@ -112,8 +112,8 @@ constexpr Kind kinds[] = {
      .questionSeveral = "'  ikililerinin hiç bulunmadığı kolonları silmek istiyormusunuz?",
      .keeps = anyPairIsMarked,
      .firstWord = std::nullopt,
-     .copies = Copies::onlyKept,
      .phase2 = " Faz 2 - Kolon :",
+     .copies = Copies::onlyKept,
      .emptyList = EmptyList::isDeleted},
 };
 

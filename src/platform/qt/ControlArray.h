@@ -5,8 +5,8 @@
 
 namespace karvenis {
 
-/// Controls that share a name and have an index, which is 0..count-1. All are null at first. An index
-/// outside that range throws std::out_of_range.
+/// Controls that share a name and have an index, which is 0..count-1. All are null at first. An
+/// index outside that range throws std::out_of_range.
 template <typename Control, std::size_t count>
 class ControlArray {
  public:
