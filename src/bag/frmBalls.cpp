@@ -77,6 +77,7 @@ void frmBalls::buildCell(int index) {
   connect(cell, &BallCell::stepped, this,
           [this, index](int columns, int rows) { step(index, columns, rows); });
   connect(cell, &BallCell::entered, this, [this, index] { takeTabStop(index); });
+  guard(cell);
   on(cell, &QPushButton::clicked, [this, index] { cmdBall_Click(index); });
   setMarked(index, false);
 }

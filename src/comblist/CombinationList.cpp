@@ -65,7 +65,7 @@ bool copyToRandomColumns(Surroundings& around) {
   around.boxes.beep();
   if (!holdsColumns(around.files, combinationList)) return true;
   if (!mayReplaceRandomColumns(around)) return false;
-  around.files.copy(combinationList, randomColumns);
+  copyList(around, combinationList, randomColumns);
   around.boxes.message("Kombinasyon Listesi Yasak Kombinasyonlar Listesi'ne eklendi.");
   return true;
 }
@@ -80,9 +80,8 @@ void DeleteColumn(Surroundings& around, ListPage& page) {
   if (number < 1) return;
   const std::int32_t count = columnCount(files, combinationList);
   if (number > count) return;
-  backUpList(files);
-  removeColumn(around.state, files, {combinationList, ylsScratch, ScratchStart::leftOver}, number,
-               count);
+  backUpList(around);
+  removeColumn(around, {combinationList, ylsScratch, ScratchStart::leftOver}, number, count);
   page.PageStart = number - 1;
 }
 

@@ -175,7 +175,7 @@ void copyKept(const Kind& kind, std::int32_t KeepCount, ColumnFile& list, Column
 /// Runs both phases. Returns false if the list turned out to be empty and was not changed.
 bool runPhases(const Kind& kind, const FilterMarks& marks, Surroundings& around, TitleBar& title) {
   Files& files = around.files;
-  backUpList(files);
+  backUpList(around);
   ColumnFile list(around.state, files, combinationList);
   if (list.count() < 1 && kind.emptyList == EmptyList::stays) {
     list.close();
@@ -188,7 +188,7 @@ bool runPhases(const Kind& kind, const FilterMarks& marks, Surroundings& around,
     return true;
   }
   const ListAndScratch names{combinationList, tmpScratch, ScratchStart::empty};
-  replaceList(around.state, files, names, [&](ColumnFile& TmpFileNo) {
+  replaceList(around, names, [&](ColumnFile& TmpFileNo) {
     copyKept(kind, KeepCount, list, TmpFileNo, title);
     list.close();
   });

@@ -65,8 +65,8 @@ bool Generator::mayReplaceList() {
 
 /// Writes records 1..WantedCount. Records of a longer old list stay behind them.
 void Generator::GenerateNewList(GeneratorDraw& draw) {
-  backUpAnyList(around_.files);
-  replaceList(around_.state, around_.files, listAndScratch, [&](ColumnFile& list) {
+  backUpAnyList(around_);
+  replaceList(around_, listAndScratch, [&](ColumnFile& list) {
     RecordNo = 0;
     do {
       title_.setCaption("KOLON=" + withBlank(RecordNo + 1));
@@ -79,7 +79,7 @@ void Generator::GenerateNewList(GeneratorDraw& draw) {
 /// Writes WantedCount records behind those that the list has now.
 void Generator::AppendToList(GeneratorDraw& draw) {
   std::int16_t Start = 0;
-  replaceList(around_.state, around_.files, listAndScratch, [&](ColumnFile& list) {
+  replaceList(around_, listAndScratch, [&](ColumnFile& list) {
     RecordNo = Start = checked<std::int16_t>(list.count());
     do {
       title_.setCaption("KOLON=" + withBlank(RecordNo + 1) + "  [" +

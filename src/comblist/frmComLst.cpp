@@ -1,7 +1,7 @@
 #include "comblist/frmComLst.h"
 
 #include "comblist/CombinationList.h"
-#include "platform/qt/Forms.h"
+#include "comblist/Filters.h"
 
 namespace karvenis {
 
@@ -30,7 +30,6 @@ bool frmComLst::command(int KeyCode) {
       return copyToRandomColumns(around_);
     case keyF3:
       DeleteColumn(around_, page_);
-      Forms::dropInput();
       return true;
     case keyF4:
       deleteList(around_);
@@ -39,7 +38,7 @@ bool frmComLst::command(int KeyCode) {
     case keyF6:
     case keyF7:
     case keyF8:
-      runFilter(static_cast<Filter>(KeyCode - keyF5));
+      filterList(static_cast<Filter>(KeyCode - keyF5), around_, page_, *this);
       return true;
     case keyF10:
       showListKeys(around_.boxes);
@@ -52,10 +51,6 @@ bool frmComLst::command(int KeyCode) {
       page_.key(KeyCode);
       return true;
   }
-}
-
-void frmComLst::runFilter(Filter filter) {
-  if (filterList(filter, around_, page_, *this)) Forms::dropInput();
 }
 
 void frmComLst::redraw() {

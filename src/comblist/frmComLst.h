@@ -1,6 +1,5 @@
 #pragma once
 
-#include "comblist/Filters.h"
 #include "core/ListPage.h"
 #include "core/Surroundings.h"
 #include "platform/qt/PageForm.h"
@@ -22,8 +21,6 @@ class frmComLst final : public PageForm {
   void redraw() override;
 
  private:
-  void runFilter(Filter filter);
-
   Surroundings& around_;
   ListPage page_;
 };

@@ -7,7 +7,6 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "platform/qt/Forms.h"
 #include "platform/qt/NumberBox.h"
 #include "platform/qt/Text.h"
 
@@ -113,7 +112,6 @@ void frmRnd::Command1_Click() {
     case Generator::Outcome::kept:
       return;
     case Generator::Outcome::done:
-      Forms::dropInput();
       return unload();
   }
 }

@@ -42,15 +42,17 @@ class Scratch {
 
 }  // namespace
 
-void replaceList(SharedState& state, Files& files, const ListAndScratch& names,
+void replaceList(Surroundings& around, const ListAndScratch& names,
                  const std::function<void(ColumnFile& scratch)>& fill) {
+  Files& files = around.files;
+  around.windows.dropInput();
   files.refuseProtected(names.list);
   Scratch scratch(files, names);
   scratch.begin();
   // `created` makes the file, and `columns` writes it. The one that makes a file also waits for its
   // name to be on disk when it is synced; here the rename does that.
   const std::unique_ptr<File> created = files.open(names.scratch);
-  ColumnFile columns(state, files, names.scratch);
+  ColumnFile columns(around.state, files, names.scratch);
   if (files.exists(names.list)) created->takeRightsOf(names.list);
   created->close();
   fill(columns);
@@ -58,31 +60,37 @@ void replaceList(SharedState& state, Files& files, const ListAndScratch& names,
   scratch.takePlace();
 }
 
-void removeColumn(SharedState& state, Files& files, const ListAndScratch& names,
-                  std::int32_t number, std::int32_t count) {
+void removeColumn(Surroundings& around, const ListAndScratch& names, std::int32_t number,
+                  std::int32_t count) {
   if (count == 1) {
-    files.remove(names.list);
+    around.files.remove(names.list);
     return;
   }
-  replaceList(state, files, names, [&](ColumnFile& scratch) {
-    ColumnFile list(state, files, names.list);
+  // Named as for the random columns, KARVENIS.RND and its scratch file KARVENIS.YND.
+  replaceList(around, names, [&](ColumnFile& YndFileNo) {
+    ColumnFile RndFileNo(around.state, around.files, names.list);
     std::int64_t YndNo = 1;  // the next record of the scratch file
     for (std::int64_t read = 1; read <= count; ++read) {
       if (read == number) continue;
-      scratch.put(YndNo, list.at(read));
+      YndFileNo.put(YndNo, RndFileNo.at(read));
       ++YndNo;
     }
-    list.close();
+    RndFileNo.close();
   });
 }
 
-void backUpList(Files& files) {
-  files.refuseProtected(combinationList);
-  files.copy(combinationList, listBackup);
+void copyList(Surroundings& around, const char* from, const char* to) {
+  around.windows.dropInput();
+  around.files.copy(from, to);
 }
 
-void backUpAnyList(Files& files) {
-  if (files.exists(combinationList)) backUpList(files);
+void backUpList(Surroundings& around) {
+  around.files.refuseProtected(combinationList);
+  copyList(around, combinationList, listBackup);
+}
+
+void backUpAnyList(Surroundings& around) {
+  if (around.files.exists(combinationList)) backUpList(around);
 }
 
 std::string savedInList(std::int32_t columns) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/ColumnFile.h"
+#include "core/Surroundings.h"
 
 namespace karvenis {
 
@@ -26,23 +27,28 @@ struct ListAndScratch {
 /// refused before anything is written; the scratch file gets the rights of the list; `fill` writes
 /// it; and it takes the name of the list in one step on disk. The list holds its old or its new
 /// bytes at every moment, and after a fault no scratch file is left. `fill` gets the open scratch
-/// file and does not close it. Throws RunTimeError, and what `fill` throws.
-void replaceList(SharedState& state, Files& files, const ListAndScratch& names,
+/// file and does not close it. The keys and clicks that come meanwhile are dropped. Throws
+/// RunTimeError, and what `fill` throws.
+void replaceList(Surroundings& around, const ListAndScratch& names,
                  const std::function<void(ColumnFile& scratch)>& fill);
 
 /// Removes record `number` (1..`count`) from a list of `count` records; the others keep their words
 /// and their order. The file of a list of one record is removed. Throws RunTimeError; the list is
 /// then as it was.
-void removeColumn(SharedState& state, Files& files, const ListAndScratch& names,
-                  std::int32_t number, std::int32_t count);
+void removeColumn(Surroundings& around, const ListAndScratch& names, std::int32_t number,
+                  std::int32_t count);
+
+/// Copies the list `from` over `to`. Precondition: `from` exists. The keys and clicks that come
+/// meanwhile are dropped. Throws RunTimeError(copy).
+void copyList(Surroundings& around, const char* from, const char* to);
 
 /// Copies the combination list over its backup. Precondition: the list exists. Every change that
 /// keeps a backup begins with this, so a protected list is refused here, before anything is
 /// written. Throws RunTimeError(write, copy).
-void backUpList(Files& files);
+void backUpList(Surroundings& around);
 
 /// The same if there is a list, else nothing. Throws RunTimeError(write, copy).
-void backUpAnyList(Files& files);
+void backUpAnyList(Surroundings& around);
 
 /// The text of the box that says that a combination list of `columns` columns has been written.
 [[nodiscard]] std::string savedInList(std::int32_t columns);

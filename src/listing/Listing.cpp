@@ -50,6 +50,7 @@ void printTrapped(Surroundings& around, ColumnFile& list, const Listing& listing
 
 void listRange(Surroundings& around, TitleBar& title, const Listing& listing, Output output,
                ListRange range) {
+  around.windows.dropInput();
   ColumnFile list(around.state, around.files, listing.source);
   if (output == Output::text) {
     WriteListText(around, title, list, listing, range);

@@ -5,8 +5,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "platform/qt/Forms.h"
-
 using namespace Qt::StringLiterals;
 
 namespace karvenis {
@@ -17,7 +15,7 @@ frmListing::frmListing(Surroundings& around, const char* name, const Listing& li
       Label3(control<QLabel>(u"Label3"_s, u"Çıktı:"_s)),
       Option1(control<QRadioButton>(u"Option1"_s, u"Text Dosyası"_s)),
       Option2(control<QRadioButton>(u"Option2"_s, u"Printer"_s)),
-      Command1(command("Command1", u"Yaz", u"", [this] { list(); })),
+      Command1(command("Command1", u"Yaz", u"", [this] { Command1_Click(); })),
       Command2(command("Command2", u"Kapat", u"", [this] { Command2_Click(); })) {
   setCaption(listing.title);
   Option1->setChecked(true);
@@ -45,7 +43,7 @@ void frmListing::Form_KeyDown(int KeyCode, int) {
     case keyEscape:
       return unload();
     case keyF1:
-      return list();
+      return Command1_Click();
     case keyF10:
       around_.boxes.beep();
       around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", functionKeysTitle);
@@ -53,12 +51,6 @@ void frmListing::Form_KeyDown(int KeyCode, int) {
     default:
       return;
   }
-}
-
-/// Keys and clicks that come while the list is written must not list it again.
-void frmListing::list() {
-  Command1_Click();
-  Forms::dropInput();
 }
 
 Output frmListing::output() const { return Option1->isChecked() ? Output::text : Output::printer; }

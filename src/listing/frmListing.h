@@ -35,7 +35,6 @@ class frmListing : public Form {
   QPushButton* Command2;  // "Kapat": closes
 
  private:
-  void list();
   void Option1_Click();
   void Option2_Click();
   void Command2_Click();

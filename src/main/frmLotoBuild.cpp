@@ -173,6 +173,7 @@ void frmLoto::buildStage() {
   Picture0 = new PictureButton(artwork_, u"opening.svg"_s, stage_);
   Picture0->setObjectName(u"Picture0"_s);
   Picture0->setAccessibleName(u"Açılış resmi"_s);
+  guard(Picture0);
   on(Picture0, &PictureButton::clicked, [this] { Picture0_Click(); });
   auto* row = new QHBoxLayout;
   row->setContentsMargins(margin, 0, margin, 0);

@@ -15,6 +15,9 @@ class Windows {
   /// Has a screen reader speak `words` when the running procedure has ended; of several calls the
   /// last one counts. The focus stays where it is.
   virtual void announce(std::string_view words) = 0;
+  /// Work through a list begins: the keys and clicks that come until it has ended, or a box opens,
+  /// are dropped, so that they do not become commands after it.
+  virtual void dropInput() = 0;
   /// Closes every window and ends the program with status 0, without a question.
   virtual void end() = 0;
 };

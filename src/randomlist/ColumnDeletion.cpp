@@ -30,8 +30,7 @@ bool ColumnDeletion::remove(std::int32_t DelNo) {
         "! DİKKAT ! Geçersiz Kolon Numarası");
     return false;
   }
-  removeColumn(around_.state, around_.files, {randomColumns, yndScratch, ScratchStart::empty},
-               DelNo, RndCount);
+  removeColumn(around_, {randomColumns, yndScratch, ScratchStart::empty}, DelNo, RndCount);
   return true;
 }
 

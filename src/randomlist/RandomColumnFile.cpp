@@ -64,8 +64,8 @@ void changeRndFile(Surroundings& around, TitleBar& title) {
             "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?")) {
       return;
     }
-    ignoringFaults([&] { backUpAnyList(files); });
-    ignoringFaults([&] { files.copy(randomColumns, combinationList); });
+    ignoringFaults([&] { backUpAnyList(around); });
+    ignoringFaults([&] { copyList(around, randomColumns, combinationList); });
   }
   ignoringFaults([&] { files.remove(randomColumns); });
   title.setCaption(standardTitle);

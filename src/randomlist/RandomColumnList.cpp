@@ -40,11 +40,10 @@ void appendToCombinationList(Surroundings& around, ListPage& page) {
                         "istiyormusunuz ?")) {
     return;
   }
-  SharedState& state = around.state;
   const ListAndScratch names{combinationList, yndScratch, ScratchStart::copyOfList};
-  replaceList(state, around.files, names, [&](ColumnFile& list) {
+  replaceList(around, names, [&](ColumnFile& list) {
     page.PageStart = list.count();
-    ColumnFile AppendFileNo(state, around.files, randomColumns);
+    ColumnFile AppendFileNo(around.state, around.files, randomColumns);
     page.RecordCount = AppendFileNo.count();
     for (std::int64_t AppendIndex = 1; AppendIndex <= page.RecordCount; ++AppendIndex) {
       list.put(page.PageStart + AppendIndex, AppendFileNo.at(AppendIndex));
@@ -61,8 +60,8 @@ void saveAsCombinationList(Surroundings& around) {
                         "(KARVENIS.LST) olarak kayıtlamak istiyormusunuz?")) {
     return;
   }
-  backUpAnyList(around.files);
-  around.files.copy(randomColumns, combinationList);
+  backUpAnyList(around);
+  copyList(around, randomColumns, combinationList);
   reportNewList(around);
 }
 

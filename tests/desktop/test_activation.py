@@ -90,6 +90,20 @@ class Closing(ActivationCase):
         self.box_comes_and_goes()
         self.assertTrue(fresh.has("checked"))
 
+    def test_a_box_that_closes_leads_back_to_its_window_past_the_others(self):
+        program = self.start()
+        self.open_bag(5)
+        self.go_to_main()
+        bag = program.id_of(BAG)
+        program.keys("F10")
+        box = program.box()
+        program.screen.run("wmctrl", "-i", "-a", bag)
+        program.screen.run("wmctrl", "-i", "-a", program.id_of(box.title))
+        program.box().press("Return")
+        program.activated(STANDARD_TITLE)
+        self.box_comes_and_goes()
+        self.expect_marks(5)
+
     def test_a_window_closed_elsewhere_leaves_the_active_one_alone(self):
         program = self.start()
         self.open("F7", BANKO)
@@ -214,6 +228,12 @@ class FastKeys(ActivationCase):
         program.until(lambda: program.has_file("KARVENIS.RND", 16), "the second column to go")
         program.activated(KEPT)
 
+    def test_enter_behind_f10_closes_the_box(self):
+        program = self.start()
+        program.while_stopped(lambda: program.keys("F10", "Return", "F5"))
+        program.activated(BAG)
+        self.assertEqual(program.boxes(), [])
+
 
 class OpenBox(ActivationCase):
     """While a box is open nothing else can be pressed, also not by assistive technology."""
@@ -225,6 +245,27 @@ class OpenBox(ActivationCase):
         self.program.keys("F10")
         self.assertTrue(self.program.runs())
         return box
+
+    def test_the_window_behind_its_box_is_not_closed(self):
+        program = self.start()
+        bag = self.open("F5", BAG)
+        box = self.press_behind_the_box(bag.find("push button", "Kapat"))
+        box.press("Return")
+        self.box_comes_and_goes()
+        program.activated(BAG)
+        self.assertEqual(program.titles(), [STANDARD_TITLE, BAG])
+
+    def test_the_desktop_cannot_close_the_window_behind_its_box(self):
+        program = self.start()
+        self.open("F5", BAG)
+        windows = [program.id_of(title) for title in (BAG, STANDARD_TITLE)]
+        program.keys("F10")
+        box = program.box()
+        for window in windows:
+            program.screen.run("wmctrl", "-i", "-c", window)
+        box.press("Return")
+        self.box_comes_and_goes()
+        program.activated(BAG)
 
     def test_the_program_behind_its_box_is_not_ended(self):
         program = self.start()

@@ -85,6 +85,11 @@ class HeardKeys(DesktopCase):
         program.keys("alt", "Right", "Right", "Right", "Down", "Down", "Return")
         program.activated(GENERATOR)
 
+    def test_alt_opens_the_menus_also_where_its_copies_are_late(self):
+        program = self.start()
+        program.while_stopped(lambda: program.keys("alt", "Right", "Down", "Return"))
+        program.activated(BAG)
+
     def test_ctrl_insert_and_caps_lock_are_the_readers(self):
         program = self.start()
         coupon = self.open("F9", COUPON)

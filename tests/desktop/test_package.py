@@ -100,6 +100,8 @@ class Contents(PackageCase):
                  for name in re.findall(r"(?:^|, )([a-z0-9.+-]+)", depends)}
         self.assertLessEqual({"libc6", "libcups2", "libqt6core6", "libqt6gui6", "libqt6svg6",
                               "libqt6widgets6"}, names)
+        # The keys of boxes need a private part of the toolkit, which is that of one version.
+        names -= {"qt6-base-abi", "qt6-base-private-abi"}
         self.assertFalse([name for name in names if not name.startswith("lib")])
 
     def test_what_it_recommends_is_called_so_by_this_system(self):

@@ -78,7 +78,9 @@ class RecordingPrinter final : public Printer, public Journaling {
 class RecordingWindows final : public Windows, public Journaling {
  public:
   std::vector<std::string> announced;
+  int drops = 0;  // how often input was dropped
   bool ended = false;
+  void dropInput() override { ++drops; }
   void announce(std::string_view words) override {
     announced.emplace_back(words);
     if (shownTexts()) shownTexts()(words);

@@ -34,7 +34,7 @@ using Folder = std::map<std::string, Bytes>;
 TEST(ReplaceList, TheScratchFileTakesTheListsPlace) {
   World world;
   world.files.folder = {{combinationList, columnBytes(listOf(3))}, {tmpScratch, hex("AA BB")}};
-  replaceList(world.state, world.files, emptyAtFirst, [](ColumnFile& scratch) {
+  replaceList(world.around, emptyAtFirst, [](ColumnFile& scratch) {
     EXPECT_EQ(scratch.count(), 0) << "what was left over is gone";
     scratch.put(1, listOf(1)[0]);
   });
@@ -47,10 +47,10 @@ TEST(ReplaceList, TheScratchFileMayBeginAsACopyOfTheList) {
   Bytes ragged = columnBytes(listOf(3));
   ragged.resize(44);
   world.files.folder = {{combinationList, ragged}, {tmpScratch, columnBytes(listOf(9))}};
-  replaceList(world.state, world.files, copyAtFirst, [](ColumnFile&) {});
+  replaceList(world.around, copyAtFirst, [](ColumnFile&) {});
   EXPECT_EQ(world.files.folder, (Folder{{combinationList, ragged}}));
   world.files.folder = {{tmpScratch, columnBytes(listOf(9))}};
-  replaceList(world.state, world.files, copyAtFirst, [](ColumnFile&) {});
+  replaceList(world.around, copyAtFirst, [](ColumnFile&) {});
   EXPECT_EQ(world.files.folder, (Folder{{combinationList, {}}})) << "there was no list to copy";
 }
 
@@ -63,10 +63,11 @@ TEST(ReplaceList, AProtectedListIsRefusedBeforeAnythingIsDone) {
     return fault == Fault::write && name == combinationList;
   };
   bool filled = false;
-  EXPECT_THROW(replaceList(world.state, files, emptyAtFirst, [&](ColumnFile&) { filled = true; }),
+  Surroundings around = world.over(files);
+  EXPECT_THROW(replaceList(around, emptyAtFirst, [&](ColumnFile&) { filled = true; }),
                RunTimeError);
   EXPECT_FALSE(filled);
-  EXPECT_THROW(backUpList(files), RunTimeError);
+  EXPECT_THROW(backUpList(around), RunTimeError);
   EXPECT_EQ(world.files.folder, before);
   EXPECT_EQ(files.calls, 2);
 }
@@ -80,18 +81,18 @@ TEST(ReplaceList, WhatFailsInTheMiddleLeavesTheListAndNoScratchFile) {
       scratch.put(9000, listOf(1)[0]);
       throw RunTimeError(Fault::overflow, "32768", "too large");
     };
-    EXPECT_THROW(replaceList(world.state, world.files, names, fail), RunTimeError);
+    EXPECT_THROW(replaceList(world.around, names, fail), RunTimeError);
     EXPECT_EQ(world.files.folder, before) << names.scratch;
   }
 }
 
 TEST(BackUpList, NeedsAListUnlessToldOtherwise) {
   World world;
-  EXPECT_THROW(backUpList(world.files), RunTimeError);
-  backUpAnyList(world.files);
+  EXPECT_THROW(backUpList(world.around), RunTimeError);
+  backUpAnyList(world.around);
   EXPECT_TRUE(world.files.folder.empty());
   world.files.folder[combinationList] = hex("01 02 03");
-  backUpAnyList(world.files);
+  backUpAnyList(world.around);
   EXPECT_EQ(world.files.bytes(listBackup), hex("01 02 03"));
 }
 
@@ -110,7 +111,7 @@ TEST_P(RemoveColumn, LeavesTheOthersWithTheirWords) {
   World world;
   const Bytes before = columnBytes(listOf(count));
   world.files.folder[combinationList] = before;
-  removeColumn(world.state, world.files, leftOver, number, count);
+  removeColumn(world.around, leftOver, number, count);
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(without(listOf(count), number)));
   EXPECT_EQ(world.files.folder.size(), 1U) << "neither scratch file nor backup";
   EXPECT_EQ(world.state.FileNo, 0);
@@ -128,7 +129,7 @@ TEST(RemoveColumn, RemovesAListOfOneAndTouchesNoScratchFile) {
   World world;
   world.files.folder[combinationList] = columnBytes(listOf(1));
   world.files.folder[ylsScratch] = hex("AA");
-  removeColumn(world.state, world.files, leftOver, 1, 1);
+  removeColumn(world.around, leftOver, 1, 1);
   EXPECT_FALSE(world.files.exists(combinationList));
   EXPECT_EQ(world.files.bytes(ylsScratch), hex("AA"));
 }
@@ -137,7 +138,7 @@ TEST(RemoveColumn, KeepsTheTailOfALeftOverScratchFile) {
   World world;
   world.files.folder[combinationList] = columnBytes(listOf(3));
   world.files.folder[ylsScratch] = columnBytes(listOf(4));
-  removeColumn(world.state, world.files, leftOver, 2, 3);
+  removeColumn(world.around, leftOver, 2, 3);
   auto expected = without(listOf(3), 2);
   expected.push_back(listOf(4)[2]);
   expected.push_back(listOf(4)[3]);
@@ -149,7 +150,7 @@ TEST(RemoveColumn, FillsARaggedLastRecordWithZeros) {
   World world;
   world.files.folder[combinationList] = columnBytes(listOf(3));
   world.files.folder[combinationList].resize(44);
-  removeColumn(world.state, world.files, leftOver, 1, 3);
+  removeColumn(world.around, leftOver, 1, 3);
   auto expected = listOf(3);
   ballAt(expected[2].Balls, 5) = ballAt(expected[2].Balls, 6) = 0;
   EXPECT_EQ(world.files.bytes(combinationList), columnBytes(without(expected, 1)));
@@ -165,7 +166,8 @@ TEST(RemoveColumn, ARefusalAtAnyStepLeavesTheOldListOrTheNewOne) {
     RefusingFiles files(world.files);
     files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
     try {
-      removeColumn(world.state, files, leftOver, 2, 3);
+      Surroundings around = world.over(files);
+      removeColumn(around, leftOver, 2, 3);
       break;
     } catch (const RunTimeError&) {
       ++refusals;

@@ -149,6 +149,26 @@ TEST_F(FormsTest, AnOpenerThatWasOpenedAgainIsTheOpener) {
   EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmB Form_Activate"}));
 }
 
+// A procedure that has a box open is still at work in its window.
+TEST_F(FormsTest, AClosedWindowStaysUntilItsProcedureHasEnded) {
+  show("frmA");
+  const QPointer<Noting> b = show("frmB");
+  b->onKey = [&] {
+    QEventLoop box;
+    QTimer::singleShot(0, &box, [&] {
+      b->unload();
+      QTimer::singleShot(0, &box, &QEventLoop::quit);
+    });
+    box.exec();
+    settle();
+    ASSERT_FALSE(b.isNull());
+    EXPECT_TRUE(b->isClosing());
+  };
+  press(b, Qt::Key_F1);
+  settle();
+  EXPECT_TRUE(b.isNull());
+}
+
 TEST_F(FormsTest, AWindowLeadsBackToTheOneItWasLastShownFrom) {
   Noting* a = show("frmA");
   Noting* c = show("frmC");
@@ -453,7 +473,7 @@ TEST_F(FormsTest, TheScreenHearsOfTheLastCaptionWhenTheProcedureEnds) {
 
 TEST_F(FormsTest, KeysThatCameDuringALongActionAreDropped) {
   Noting* a = show("frmA");
-  Forms::dropInput();
+  forms.dropInput();
   taken();
   press(a, Qt::Key_F1);
   EXPECT_TRUE(taken().empty());

@@ -1,6 +1,7 @@
 #include "comblist/frmComLst.h"
 
 #include "listing/frmCLPrint.h"
+#include "windows/KeySoon.h"
 #include "windows/ListWindowTest.h"
 
 namespace karvenis {
@@ -278,10 +279,7 @@ TEST_F(FrmComLst, KeysThatCameDuringAFilterAreNoCommandsAfterIt) {
   expectUnwanted("49");
   world.boxes.expectQuestion("'49' numaralı topun yer aldığı kolonları silmek istiyormusunuz?",
                              true);
-  world.boxes.whileOpen = [&] {
-    QCoreApplication::postEvent(list->windowHandle(),
-                                new QKeyEvent(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier));
-  };
+  world.boxes.whileOpen = [&] { pressSoon(list, Qt::Key_F4); };
   press(list, Qt::Key_F5);
   EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
   EXPECT_TRUE(showsFrom(2, 25)) << "nothing asked whether to delete the list";

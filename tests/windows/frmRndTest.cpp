@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include "windows/KeySoon.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {
@@ -225,11 +226,7 @@ TEST_F(FrmRnd, AnOpenOneKeepsItsCountAndAFreshOneCountsAnew) {
 TEST_F(FrmRnd, KeysThatCameDuringTheRunAreNoCommandsAfterIt) {
   start();
   put("3");
-  world.boxes.whileOpen = [&] {
-    auto* opener = forms.find("opener");
-    QCoreApplication::postEvent(opener->windowHandle(),
-                                new QKeyEvent(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier));
-  };
+  world.boxes.whileOpen = [&] { pressSoon(forms.find("opener"), Qt::Key_F1); };
   world.boxes.expectBeep().expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   press(form, Qt::Key_F1);
   EXPECT_TRUE(Application::instance()->isDroppingInput());

@@ -1,8 +1,11 @@
 #include "platform/qt/Application.h"
 
+#include <qpa/qwindowsysteminterface_p.h>
+
 #include <QDialog>
 #include <QKeyEvent>
 #include <QTimer>
+#include <utility>
 
 namespace karvenis {
 namespace {
@@ -19,7 +22,33 @@ bool isOfClosedBox(const QObject* receiver) {
   return window->isHidden() && qobject_cast<const QDialog*>(window) != nullptr;
 }
 
+/// Whether this is Alt and no other key that changes the meaning of keys is held.
+bool isAltAlone(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Alt && (key.modifiers() & ~Qt::AltModifier) == 0;
+}
+
 }  // namespace
+
+/// Gives the keys to the open box from the start. The desktop sends them to the window behind it
+/// until it has moved the keyboard, and the toolkit drops what comes for such a window before
+/// anybody sees it; only its private interface comes earlier.
+class Application::KeysOfBoxes final : public QWindowSystemEventHandler {
+ public:
+  KeysOfBoxes() { QWindowSystemInterfacePrivate::installWindowSystemEventHandler(this); }
+
+  bool sendEvent(QWindowSystemInterfacePrivate::WindowSystemEvent* event) override {
+    const QWidget* box = activeModalWidget();
+    if (box != nullptr && event->type == QWindowSystemInterfacePrivate::Key) {
+      static_cast<QWindowSystemInterfacePrivate::KeyEvent*>(event)->window = box->windowHandle();
+    }
+    return QWindowSystemEventHandler::sendEvent(event);
+  }
+};
+
+Application::Application(int& count, char** words)
+    : QApplication(count, words), keysOfBoxes_(std::make_unique<KeysOfBoxes>()) {}
+
+Application::~Application() = default;
 
 /// Input comes from the desktop to the native windows.
 bool Application::notify(QObject* receiver, QEvent* event) {
@@ -29,22 +58,28 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   if (event->type() == QEvent::WindowDeactivate && isOfClosedBox(receiver)) {
     return receiver->event(event);
   }
-  if (!receiver->isWindowType()) return QApplication::notify(receiver, event);
+  if (!receiver->isWindowType() || !event->spontaneous()) {
+    return QApplication::notify(receiver, event);
+  }
   switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-      if (event->spontaneous()) return takeKey(*static_cast<QKeyEvent*>(event));
-      break;
+      return takeKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::ShortcutOverride:
+      // The menus hear of Alt when it is served, in its turn among the other keys.
+      return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt ||
+             QApplication::notify(receiver, event);
     case QEvent::MouseButtonPress:
-      if (!dropping_) Q_EMIT clicked(static_cast<QWindow*>(receiver));
-      break;
-    case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
-      break;
+      if (dropping_ || mustWait()) return true;
+      altAlone_ = false;
+      Q_EMIT clicked(static_cast<QWindow*>(receiver));
+      return QApplication::notify(receiver, event);
+    case QEvent::MouseButtonRelease:
+      return dropping_ || QApplication::notify(receiver, event);
     default:
       return QApplication::notify(receiver, event);
   }
-  return dropping_ || QApplication::notify(receiver, event);
 }
 
 /// Sends the key to the application itself and not to a window: assistive technology may stop a key
@@ -60,24 +95,70 @@ bool Application::takeKey(QKeyEvent& key) {
   return QApplication::notify(this, &repeat);
 }
 
+/// Every key comes by here in its turn, itself or the copy of it. The toolkit's own way to end
+/// would close window after window, a box before the one behind it, and stop at the first that
+/// refuses.
 bool Application::event(QEvent* event) {
-  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) {
-    return QApplication::event(event);
+  switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      if (dropping_) return true;
+      if (!mustWait() && waiting_.empty()) {
+        serve(*static_cast<QKeyEvent*>(event));
+      } else {
+        waiting_.emplace_back(static_cast<QKeyEvent*>(event->clone()));
+      }
+      return true;
+    case QEvent::Quit:
+      Q_EMIT ending();
+      exit(0);
+      return true;
+    default:
+      return QApplication::event(event);
   }
-  if (!dropping_) serve(*static_cast<QKeyEvent*>(event));
-  return true;
+}
+
+void Application::setBusy(bool busy) {
+  busy_ = busy;
+  if (waiting_.empty()) return;
+  QMetaObject::invokeMethod(
+      this, [this] { serveWaiting(); }, Qt::QueuedConnection);
+}
+
+void Application::serveWaiting() {
+  while (!waiting_.empty() && !mustWait()) {
+    const std::unique_ptr<QKeyEvent> key = std::move(waiting_.front());
+    waiting_.pop_front();
+    serve(*key);
+  }
 }
 
 void Application::serve(QKeyEvent& key) {
   QWindow* window = keyWindow();
   if (window == nullptr) return;
   if (key.type() == QEvent::KeyPress) {
-    if (!key.isAutoRepeat()) pressedIn_ = window;
-    if (window != pressedIn_) return;
-  } else if (key.key() == Qt::Key_Alt && !key.spontaneous()) {
-    return;  // a copy, which would close the menus that the release itself has opened
+    servePress(key, *window);
+  } else {
+    serveRelease(key, *window);
   }
-  sendEvent(window, &key);
+}
+
+void Application::servePress(QKeyEvent& press, QWindow& window) {
+  if (!press.isAutoRepeat()) {
+    pressedIn_ = &window;
+    altAlone_ = isAltAlone(press) && activePopupWidget() == nullptr;
+  }
+  if (&window == pressedIn_) sendEvent(&window, &press);
+}
+
+/// Alt alone opens and closes the menus, which want to be told of its press and its release
+/// without another key in between.
+void Application::serveRelease(QKeyEvent& release, QWindow& window) {
+  if (release.key() == Qt::Key_Alt && std::exchange(altAlone_, false)) {
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+    sendEvent(&window, &press);
+  }
+  sendEvent(&window, &release);
 }
 
 QWindow* Application::keyWindow() const {
@@ -101,6 +182,7 @@ bool Application::isRepeat(const QKeyEvent& key) {
 /// The first turn of the event loop brings what came meanwhile; idle timers fire after it.
 void Application::dropInput() {
   dropping_ = true;
+  waiting_.clear();
   QTimer::singleShot(0, this,
                      [this] { QTimer::singleShot(0, this, [this] { dropping_ = false; }); });
 }

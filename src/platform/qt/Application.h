@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QWidget>
 #include <QWindow>
-
-class QKeyEvent;
+#include <deque>
+#include <memory>
 
 namespace karvenis {
 
@@ -17,20 +18,27 @@ namespace karvenis {
 ///   in which the key was pressed: a key that is already held when a box or a list opens does not
 ///   answer the box and does not page the list.
 /// - A key goes to the window that the user works in when the key is handled, not to the one that
-/// had
-///   the keyboard when it was pressed: the open box, else the working window.
+///   had the keyboard when it was pressed: the open box, else the working window. No key is lost on
+///   the way.
+/// - A key waits if the box of a procedure has been answered and the procedure has not gone on yet:
+///   it is for the next box of the procedure, or for the window after the procedure.
 /// - What came while a long action ran is dropped, so that it does not become a command after it.
 class Application final : public QApplication {
   Q_OBJECT
 
  public:
-  using QApplication::QApplication;
+  Application(int& count, char** words);
+  ~Application() override;
 
   /// The running application; null if that is an application of another class.
   static Application* instance() { return qobject_cast<Application*>(qApp); }
 
   /// Sets the window that has the keys while no box is open; null: the one that has the keyboard.
   void setWorkingWindow(QWidget* window) { working_ = window; }
+
+  /// Tells whether an event procedure runs, each time when one begins, opens a box or ends. The
+  /// keys that have waited are served in the next turn of the event loop.
+  void setBusy(bool busy);
 
   /// Drops the keys and clicks that have come by now.
   void dropInput();
@@ -42,20 +50,32 @@ class Application final : public QApplication {
   /// The user has pressed a key, or a mouse button in `window`, and nobody has seen it yet.
   void keyPressed();
   void clicked(QWindow* window);
+  /// The session ends, and the program with it.
+  void ending();
 
  protected:
   bool event(QEvent* event) override;
 
  private:
+  class KeysOfBoxes;
+
   bool takeKey(QKeyEvent& key);
+  bool mustWait() const { return busy_ && activeModalWidget() == nullptr; }
+  void serveWaiting();
   void serve(QKeyEvent& key);
+  void servePress(QKeyEvent& press, QWindow& window);
+  void serveRelease(QKeyEvent& release, QWindow& window);
   bool isRepeat(const QKeyEvent& key);
   QWindow* keyWindow() const;
 
+  std::unique_ptr<KeysOfBoxes> keysOfBoxes_;
+  std::deque<std::unique_ptr<QKeyEvent>> waiting_;  // keys that have not been served yet
   QPointer<QWidget> working_;
   const QWindow* pressedIn_ = nullptr;  // only compared
   int releasedKey_ = 0;
   quint64 releasedAt_ = 0;
+  bool altAlone_ = false;  // Alt is held, and nothing else was pressed since
+  bool busy_ = false;
   bool dropping_ = false;
 };
 

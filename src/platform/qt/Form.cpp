@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QWindow>
+#include <algorithm>
 
 #include "platform/qt/Accessibles.h"
 #include "platform/qt/Forms.h"
@@ -20,7 +21,20 @@ namespace {
 /// How often the title on the screen changes at most while a procedure runs, in milliseconds.
 constexpr qint64 captionInterval = 15;
 
+/// The property of a button whose press began while a box was open.
+constexpr char pressedBehindBox[] = "pressedBehindBox";
+
 bool isBoxOpen() { return QApplication::activeModalWidget() != nullptr; }
+
+/// Whether a press of this button, or of another one of its group, began while a box was open.
+bool beganBehindBox(const QAbstractButton& button) {
+  const auto began = [](const QAbstractButton* one) {
+    return one->property(pressedBehindBox).toBool();
+  };
+  if (!button.autoExclusive()) return began(&button);
+  return std::ranges::any_of(button.parentWidget()->findChildren<QAbstractButton*>(), began);
+}
+
 bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != nullptr; }
 
 }  // namespace
@@ -48,7 +62,6 @@ void Form::unload() {
   closing_ = true;
   hide();
   forms_.closed(*this);
-  deleteLater();
 }
 
 void Form::run(const std::function<void()>& procedure) {
@@ -113,19 +126,26 @@ void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
 }
 
 /// Whether `sender` is a control behind an open box. The user's keys and clicks go to the box, but
-/// assistive technology can press any control, and a press that began before the box opened can end
-/// behind it.
+/// assistive technology can press any control. A press takes a moment, so that the box may open or
+/// close before the press ends.
 bool Form::isBehindBox(const QObject* sender) {
-  return isBoxOpen() && (qobject_cast<const QAbstractButton*>(sender) != nullptr ||
-                         qobject_cast<const QAction*>(sender) != nullptr);
+  const auto* button = qobject_cast<const QAbstractButton*>(sender);
+  if (button != nullptr) return isBoxOpen() || beganBehindBox(*button);
+  return isBoxOpen() && qobject_cast<const QAction*>(sender) != nullptr;
 }
 
-/// Undoes a change of `choice` that is made behind an open box.
-void Form::keepBehindBox(QAbstractButton* choice) {
-  connect(choice, &QAbstractButton::toggled, this, [this, choice](bool checked) {
-    if (!isBoxOpen() || puttingBack_ || choice->isChecked() != checked) return;
+/// Notes whether a press begins behind a box, and undoes a choice that is made behind one.
+void Form::guard(QAbstractButton* button) {
+  connect(button, &QAbstractButton::pressed, this,
+          [button] { button->setProperty(pressedBehindBox, isBoxOpen()); });
+  // Queued: the press has ended when all have heard of it.
+  connect(
+      button, &QAbstractButton::clicked, button,
+      [button] { button->setProperty(pressedBehindBox, false); }, Qt::QueuedConnection);
+  connect(button, &QAbstractButton::toggled, this, [this, button](bool checked) {
+    if (!isBehindBox(button) || puttingBack_ || button->isChecked() != checked) return;
     puttingBack_ = true;
-    choice->setChecked(!checked);
+    button->setChecked(!checked);
     puttingBack_ = false;
   });
 }

@@ -39,7 +39,7 @@ class Form : public QWidget, public TitleBar {
   /// Brings the title on the screen up to date.
   void showCaption();
 
-  /// Closes the window and deletes it when the running procedure has ended.
+  /// Closes the window; it is deleted when no procedure runs any more.
   void unload();
   bool isClosing() const { return closing_; }
 
@@ -84,12 +84,15 @@ class Form : public QWidget, public TitleBar {
   static void markAsBackground(QWidget* container);
   /// Enter in `box`, once however long it is held.
   void onEnter(QLineEdit* box, std::function<void()> procedure);
+  /// Lets no press of the button count that begins or ends behind an open box; what control()
+  /// makes is guarded.
+  void guard(QAbstractButton* button);
   /// A control of this window under its own name.
   template <typename Control, typename... Arguments>
   Control* control(const QString& controlName, Arguments&&... arguments) {
     auto* made = new Control(std::forward<Arguments>(arguments)..., this);
     made->setObjectName(controlName);
-    if constexpr (std::is_base_of_v<QAbstractButton, Control>) keepBehindBox(made);
+    if constexpr (std::is_base_of_v<QAbstractButton, Control>) guard(made);
     return made;
   }
   /// A command button of this window.
@@ -113,7 +116,6 @@ class Form : public QWidget, public TitleBar {
 
  private:
   static bool isBehindBox(const QObject* sender);
-  void keepBehindBox(QAbstractButton* choice);
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
   bool pressesFocused(int code) const;

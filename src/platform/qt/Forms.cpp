@@ -40,6 +40,7 @@ Forms::Forms(Boxes& boxes) : boxes_(boxes) {
   QObject::connect(application, &Application::clicked, &settle_, [this](const QWindow* window) {
     if (Form* form = owning(window)) clicked(*form);
   });
+  QObject::connect(application, &Application::ending, &settle_, [this] { end(); });
 }
 
 Forms::~Forms() {
@@ -149,6 +150,7 @@ void Forms::activate(Form& form) {
 }
 
 QWidget* Forms::boxOpens() {
+  tellBusy();
   for (const QPointer<Form>& form : open_) {
     if (form) form->showCaption();
   }
@@ -162,6 +164,14 @@ void Forms::boxClosed() {
 void Forms::closed(const Form& form) {
   if (ending_) return;
   if (Form* next = successorOf(form)) present(*next);
+  deleteClosed();
+}
+
+void Forms::deleteClosed() const {
+  if (running_ > 0) return;
+  for (const QPointer<Form>& form : open_) {
+    if (form && form->isClosing()) form->deleteLater();
+  }
 }
 
 /// The window that becomes active when `form` closes; null if the active one stays. The main window
@@ -183,8 +193,19 @@ void Forms::dropInput() {
   if (Application* application = Application::instance()) application->dropInput();
 }
 
+void Forms::tellBusy() const {
+  if (Application* application = Application::instance()) application->setBusy(running_ > 0);
+}
+
+void Forms::procedureBegins() {
+  ++running_;
+  tellBusy();
+}
+
 void Forms::procedureEnds() {
   --running_;
+  tellBusy();
+  deleteClosed();
   speak();
 }
 
@@ -216,6 +237,7 @@ int Forms::run() {
 void Forms::fault(const std::exception& error) {
   if (ending_) return;
   ending_ = true;
+  dropInput();
   boxes_.pointer(Pointer::normal);
   status_ = 1;
   boxes_.message(described(error) + "\r\rProgram kapanacak.", errorTitle, Icon::critical);

@@ -43,6 +43,7 @@ class Forms final : public Windows {
 
   void show(std::string_view form) override;
   void announce(std::string_view words) override;
+  void dropInput() override;
   void end() override;
   /// Shows the main window and runs until the program ends. Returns its exit status: 1 after a
   /// fault, also one at the start, else 0.
@@ -57,7 +58,7 @@ class Forms final : public Windows {
   /// Whether the keyboard is no longer expected to move by itself.
   bool isSettled() const { return !settle_.isActive(); }
   /// An event procedure of some window begins, perhaps inside another one, and ends.
-  void procedureBegins() { ++running_; }
+  void procedureBegins();
   void procedureEnds();
   /// A box is about to open: brings every title on the screen up to date. Returns the window that
   /// the box belongs to; null if there is none.
@@ -65,11 +66,9 @@ class Forms final : public Windows {
   /// The box has closed: its window has the keyboard again, which is no activation.
   void boxClosed();
   /// `form` has closed. If it was the active window, the one that it was last shown from, else the
-  /// main window, becomes active.
+  /// main window, becomes active. It is deleted when no procedure runs: one may still be at work in
+  /// it, or have a box open that belongs to it.
   void closed(const Form& form);
-  /// Drops the keys and clicks that came while a long action kept the program busy: they must not
-  /// become commands after it.
-  static void dropInput();
   /// Ends the program with one box that says what failed, status 1.
   void fault(const std::exception& error);
 
@@ -77,6 +76,8 @@ class Forms final : public Windows {
   Form* open(std::string_view form);
   void placeBeside(Form& window, const Form& opener) const;
   Form* successorOf(const Form& form) const;
+  void deleteClosed() const;
+  void tellBusy() const;
   Form* owning(const QWindow* window) const;
   void present(Form& form);
   void giveKeyboard(Form& form);

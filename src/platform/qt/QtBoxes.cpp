@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStyle>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -49,8 +50,10 @@ QtBoxes::~QtBoxes() { delete last_; }
 /// Shows the box until it is answered. Returns its result. The box is kept, hidden, until the next
 /// one has been answered: a screen reader still asks about the control that it read last, and does
 /// not read the next box if that control is gone. As a popup the hidden box is in no list of
-/// windows.
+/// windows. The box asks for the keyboard, since the desktop may still be giving it to the window
+/// behind, after the box before.
 int QtBoxes::serve(QDialog& box) {
+  QTimer::singleShot(0, &box, &QWidget::activateWindow);
   const int result = box.exec();
   box.windowHandle()->setFlags(Qt::Popup);
   delete std::exchange(last_, &box);
