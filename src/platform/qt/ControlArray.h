@@ -13,7 +13,7 @@ class ControlArray {
   Control*& operator[](int index) { return controls_.at(static_cast<std::size_t>(index)); }
   Control* operator[](int index) const { return controls_.at(static_cast<std::size_t>(index)); }
 
-  static constexpr int size() { return static_cast<int>(count); }
+  int size() const { return static_cast<int>(count); }
   auto begin() const { return controls_.begin(); }
   auto end() const { return controls_.end(); }
 

@@ -55,14 +55,15 @@ void Forms::add(std::string form, Factory make) {
 
 Form* Forms::find(std::string_view form) const {
   for (const QPointer<Form>& candidate : open_) {
-    if (candidate && !candidate->isClosing() && candidate->name() == form) return candidate;
+    if (candidate != nullptr && !candidate->isClosing() && candidate->name() == form)
+      return candidate;
   }
   return nullptr;
 }
 
 Form* Forms::owning(const QWindow* window) const {
   const auto found = std::ranges::find_if(open_, [window](const QPointer<Form>& form) {
-    return form && form->windowHandle() == window;
+    return form != nullptr && form->windowHandle() == window;
   });
   return found == open_.end() ? nullptr : *found;
 }
@@ -95,7 +96,7 @@ void Forms::placeBeside(Form& window, const Form& opener) const {
   constexpr QPoint step(36, 56);
   QPoint place = opener.pos();
   const auto isTaken = [&](const QPointer<Form>& other) {
-    return other && other != &window && other->isVisible() && other->pos() == place;
+    return other != nullptr && other != &window && other->isVisible() && other->pos() == place;
   };
   do {
     place += step;
@@ -183,7 +184,7 @@ Form* Forms::successorOf(const Form& form) const {
     return opener != nullptr ? opener : main;
   }
   const auto isOpen = [main](const QPointer<Form>& other) {
-    return other && other != main && !other->isClosing();
+    return other != nullptr && other != main && !other->isClosing();
   };
   const bool alone = std::ranges::none_of(open_, isOpen);
   return alone && main != nullptr && main->isMinimized() ? main : nullptr;
