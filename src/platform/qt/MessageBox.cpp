@@ -90,7 +90,8 @@ int MessageBox::heightAt(int width) const { return textSize(*label_, text(), wid
 
 /// Keeps the size that showEvent() gives the box: the toolkit would compute another one.
 bool MessageBox::event(QEvent* event) {
-  return event->type() == QEvent::LayoutRequest ? QDialog::event(event) : QMessageBox::event(event);
+  if (event->type() != QEvent::LayoutRequest) return QMessageBox::event(event);
+  return QDialog::event(event);  // NOLINT(bugprone-parent-virtual-call): not QMessageBox's
 }
 
 void MessageBox::showEvent(QShowEvent* event) {

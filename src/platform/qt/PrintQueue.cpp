@@ -1,6 +1,7 @@
 #include "platform/qt/PrintQueue.h"
 
 #include <QLibrary>
+#include <QSizeF>
 #include <QString>
 
 #include "platform/RunTimeError.h"
