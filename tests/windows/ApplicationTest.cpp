@@ -142,6 +142,7 @@ bool whileBoxIsOpen(Form* owner, const std::function<void(QMessageBox& box)>& du
   box.setEscapeButton(box.addButton(QStringLiteral("Hayır"), QMessageBox::NoRole));
   box.setDefaultButton(yes);
   QTimer::singleShot(0, &box, [&] { during(box); });
+  QTimer::singleShot(20000, &box, &QDialog::reject);  // so that a lost key fails the test
   box.exec();
   return box.clickedButton() == yes;
 }
