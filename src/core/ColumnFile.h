@@ -31,6 +31,7 @@ class ColumnFile {
   ColumnFile(const ColumnFile&) = delete;
   ColumnFile& operator=(const ColumnFile&) = delete;
 
+  [[nodiscard]] const std::string& name() const { return file_.name(); }
   /// How many records the file has: its length / 16, rounded to the nearest, halves to even. Throws
   /// RunTimeError(overflow) if that is beyond 32 bits.
   [[nodiscard]] std::int32_t count() const { return file_.count(); }

@@ -31,14 +31,14 @@ ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes) 
   return record;
 }
 
-std::int16_t columnSum(const Column& column, std::int64_t number) {
+std::int16_t columnSum(const Column& column, const std::string& file, std::int64_t number) {
   std::int16_t ColumnSum = 0;
   for (const std::int16_t ball : column) {
     const int sum = ColumnSum + ball;
     ColumnSum = static_cast<std::int16_t>(sum);
     if (ColumnSum != sum) {
-      throw RunTimeError(Fault::overflow, std::to_string(sum),
-                         std::to_string(number) + ". kolon bozuk, sayılarının toplamı sığmıyor");
+      throw RunTimeError(Fault::damaged, file,
+                         std::to_string(number) + ". kolonun sayılarının toplamı sığmıyor.");
     }
   }
   return ColumnSum;

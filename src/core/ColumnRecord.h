@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "core/Column.h"
 
@@ -29,8 +30,10 @@ void encode(const ColumnRecord& record, std::span<std::byte, ColumnRecord::size>
 /// Returns the record that `bytes` hold in that form. Any bytes are a record.
 [[nodiscard]] ColumnRecord decodeColumn(std::span<const std::byte, ColumnRecord::size> bytes);
 
-/// Returns the sum of the six balls of `column`. Throws RunTimeError(overflow) if it leaves 16 bits
-/// at any step, as it can in a damaged record; the error names the record by its `number`.
-[[nodiscard]] std::int16_t columnSum(const Column& column, std::int64_t number);
+/// Returns the sum of the six balls of `column`. Throws RunTimeError(damaged) if it leaves 16 bits
+/// at any step, as it can in a damaged record; the error names the `file` and the record's
+/// `number`.
+[[nodiscard]] std::int16_t columnSum(const Column& column, const std::string& file,
+                                     std::int64_t number);
 
 }  // namespace karvenis

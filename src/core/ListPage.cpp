@@ -35,8 +35,9 @@ std::string bracketed(std::int16_t sum) {
   return "[" + withBlank(sum) + " ]";
 }
 
-void drawRow(TextSurface& surface, std::int64_t number, const Column& balls) {
-  const std::int16_t ColumnSum = columnSum(balls, number);
+void drawRow(TextSurface& surface, ColumnFile& file, std::int64_t number) {
+  const Column balls = file.at(number).Balls;
+  const std::int16_t ColumnSum = columnSum(balls, file.name(), number);
   const double firstBall = printLabel(surface, number);
   surface.foreColor(QBColor::lightBlue);
   double x = firstBall;
@@ -98,7 +99,7 @@ void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface) {
   surface.currentY(pageMargin);
   for (std::int32_t RowNo = 1; RowNo <= page.PageRows; ++RowNo) {
     const std::int64_t number = std::int64_t{page.PageStart} + RowNo;
-    drawRow(surface, number, file.at(number).Balls);
+    drawRow(surface, file, number);
   }
 }
 

@@ -29,6 +29,7 @@ class RecordFile {
   RecordFile(const RecordFile&) = delete;
   RecordFile& operator=(const RecordFile&) = delete;
 
+  [[nodiscard]] const std::string& name() const { return name_; }
   /// Length in bytes, what has been written and is still in memory included.
   [[nodiscard]] std::uint64_t length() const { return length_; }
   /// How many records the file has, as recordCount() counts them.

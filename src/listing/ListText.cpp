@@ -11,8 +11,9 @@ constexpr std::size_t lineRoom = 64;
 
 }  // namespace
 
-std::string columnLine(std::int64_t number, std::size_t digits, const Column& balls) {
-  const std::string sum = std::to_string(columnSum(balls, number));
+std::string columnLine(const std::string& file, std::int64_t number, std::size_t digits,
+                       const Column& balls) {
+  const std::string sum = std::to_string(columnSum(balls, file, number));
   std::string line;
   line.reserve(lineRoom);
   line += "Kolon ";
@@ -32,7 +33,7 @@ void eachColumnLine(ColumnFile& list, ListRange range,
                     const std::function<void(const std::string& line)>& take) {
   const std::size_t digits = std::to_string(range.last).size();
   for (std::int64_t number = range.first; number <= range.last; ++number) {
-    take(columnLine(number, digits, list.at(number).Balls));
+    take(columnLine(list.name(), number, digits, list.at(number).Balls));
   }
 }
 

@@ -23,12 +23,13 @@ struct ListRange {
 };
 
 /// The line of record `number`, which is padded with zeros to `digits` digits:
-/// "Kolon 07 - 03, 11, 17, 25, 38, 45  [139]". Throws RunTimeError(overflow) if the sum of a
-/// damaged record outgrows 16 bits.
-[[nodiscard]] std::string columnLine(std::int64_t number, std::size_t digits, const Column& balls);
+/// "Kolon 07 - 03, 11, 17, 25, 38, 45  [139]". Throws RunTimeError(damaged), which names the
+/// `file`, if the sum outgrows 16 bits.
+[[nodiscard]] std::string columnLine(const std::string& file, std::int64_t number,
+                                     std::size_t digits, const Column& balls);
 
 /// Reads the range of `list` and calls `take` with the line of each record in turn; all numbers
-/// have as many digits as the last. Throws RunTimeError(read, overflow), and what `take` throws.
+/// have as many digits as the last. Throws RunTimeError(read, damaged), and what `take` throws.
 void eachColumnLine(ColumnFile& list, ListRange range,
                     const std::function<void(const std::string& line)>& take);
 

@@ -18,6 +18,8 @@ std::string describe(const RunTimeError& error) {
       return quoted + " dosyası silinemedi." + why;
     case Fault::rename:
       return quoted + " dosyasının adı değiştirilemedi." + why;
+    case Fault::damaged:
+      return quoted + " dosyasında bozuk bir kolon var." + why;
     case Fault::overflow:
       return quoted + " sayısı taştı." + why;
     case Fault::printer:

@@ -13,6 +13,7 @@ enum class Fault {
   copy,      ///< a file could not be copied over another
   remove,    ///< a file could not be deleted
   rename,    ///< a file could not take another name
+  damaged,   ///< a file holds a column that cannot be one
   overflow,  ///< a number outgrew its 16 or 32 bits
   printer,   ///< the printer refused
 };

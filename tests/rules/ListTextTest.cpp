@@ -18,7 +18,8 @@ struct Line {
 class ColumnLine : public testing::TestWithParam<Line> {};
 
 TEST_P(ColumnLine, IsLaidOutAs) {
-  EXPECT_EQ(columnLine(GetParam().number, GetParam().digits, GetParam().balls), GetParam().line);
+  EXPECT_EQ(columnLine("F", GetParam().number, GetParam().digits, GetParam().balls),
+            GetParam().line);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -46,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& line) { return line.param.name; });
 
 TEST(ColumnLineFault, ASumBeyond16Bits) {
-  EXPECT_THROW(std::ignore = columnLine(1, 1, column(32767, 1, 0, 0, 0, 0)), RunTimeError);
+  EXPECT_THROW(std::ignore = columnLine("F", 1, 1, column(32767, 1, 0, 0, 0, 0)), RunTimeError);
 }
 
 TEST(TotalLine, TellsTheColumns) { EXPECT_EQ(totalLine(32767), "< Toplam 32767 kolon. >"); }

@@ -107,16 +107,17 @@ TEST(ColumnRecord, HasItsGoldenBytes) {
   EXPECT_EQ(decodeColumn(bytes), (ColumnRecord{417, column(1, 2, 300, -1, 32767, -32768)}));
 }
 
-TEST(ColumnSum, OverflowsAsAFault) {
-  EXPECT_EQ(columnSum(column(1, 2, 3, 4, 5, 6), 1), 21);
-  EXPECT_EQ(columnSum(column(32767, -1, 1, 0, 0, 0), 1), 32767);
-  EXPECT_THROW(std::ignore = columnSum(column(32767, 1, -1, 0, 0, 0), 1), RunTimeError);
+TEST(ColumnSum, ThatDoesNotFitIsADamagedColumn) {
+  EXPECT_EQ(columnSum(column(1, 2, 3, 4, 5, 6), "F", 1), 21);
+  EXPECT_EQ(columnSum(column(32767, -1, 1, 0, 0, 0), "F", 1), 32767);
+  EXPECT_THROW(std::ignore = columnSum(column(32767, 1, -1, 0, 0, 0), "F", 1), RunTimeError);
   try {
-    std::ignore = columnSum(column(-32768, -1, 0, 0, 0, 0), 7);
+    std::ignore = columnSum(column(-32768, -1, 0, 0, 0, 0), "KARVENIS.LST", 7);
     ADD_FAILURE() << "no fault";
   } catch (const RunTimeError& error) {
     EXPECT_EQ(describe(error),
-              "'-32769' sayısı taştı.\rNeden: 7. kolon bozuk, sayılarının toplamı sığmıyor");
+              "'KARVENIS.LST' dosyasında bozuk bir kolon var.\rNeden: 7. kolonun sayılarının "
+              "toplamı sığmıyor.");
   }
 }
 

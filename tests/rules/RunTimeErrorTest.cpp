@@ -20,16 +20,17 @@ TEST_P(ClosingBox, TellsWhichFileWhatFailedAndWhy) {
   EXPECT_EQ(describe(RunTimeError(GetParam().fault, "X", "y")), GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Faults, ClosingBox,
-                         testing::Values(Told{Fault::open, "'X' dosyası açılamadı.\rNeden: y"},
-                                         Told{Fault::read, "'X' dosyası okunamadı.\rNeden: y"},
-                                         Told{Fault::write, "'X' dosyasına yazılamadı.\rNeden: y"},
-                                         Told{Fault::copy, "'X' dosyası kopyalanamadı.\rNeden: y"},
-                                         Told{Fault::remove, "'X' dosyası silinemedi.\rNeden: y"},
-                                         Told{Fault::rename,
-                                              "'X' dosyasının adı değiştirilemedi.\rNeden: y"},
-                                         Told{Fault::overflow, "'X' sayısı taştı.\rNeden: y"},
-                                         Told{Fault::printer, "Printer hatası: 'X'\rNeden: y"}));
+INSTANTIATE_TEST_SUITE_P(
+    Faults, ClosingBox,
+    testing::Values(Told{Fault::open, "'X' dosyası açılamadı.\rNeden: y"},
+                    Told{Fault::read, "'X' dosyası okunamadı.\rNeden: y"},
+                    Told{Fault::write, "'X' dosyasına yazılamadı.\rNeden: y"},
+                    Told{Fault::copy, "'X' dosyası kopyalanamadı.\rNeden: y"},
+                    Told{Fault::remove, "'X' dosyası silinemedi.\rNeden: y"},
+                    Told{Fault::rename, "'X' dosyasının adı değiştirilemedi.\rNeden: y"},
+                    Told{Fault::damaged, "'X' dosyasında bozuk bir kolon var.\rNeden: y"},
+                    Told{Fault::overflow, "'X' sayısı taştı.\rNeden: y"},
+                    Told{Fault::printer, "Printer hatası: 'X'\rNeden: y"}));
 
 TEST(SystemErrorText, IsTurkishForTheErrorsThatAUserCanMeet) {
   const std::pair<int, const char*> rows[] = {

@@ -25,7 +25,7 @@ void expectBox(const RunTimeError& error) {
 
 TEST(ClosingBox, ShowsEveryFaultWithEveryReason) {
   for (const Fault fault : {Fault::open, Fault::read, Fault::write, Fault::copy, Fault::remove,
-                            Fault::rename, Fault::overflow, Fault::printer}) {
+                            Fault::rename, Fault::damaged, Fault::overflow, Fault::printer}) {
     for (const int error :
          {EACCES, EROFS, ENOSPC, EFBIG, EIO, EISDIR, EINVAL, ENOENT, EBADF, EAGAIN, ELOOP}) {
       expectBox(RunTimeError(fault, "KARVENIS.RND", systemErrorText(error)));
@@ -38,7 +38,7 @@ TEST(ClosingBox, ShowsWhatOutgrewItsNumberAndWhichRecordIsNone) {
   const std::vector<std::function<void()>> faults = {
       [] { std::ignore = checked<std::int16_t>(32768); },
       [] {
-        std::ignore = columnSum({32767, 1, 0, 0, 0, 0}, 7);
+        std::ignore = columnSum({32767, 1, 0, 0, 0, 0}, "KARVENIS.RND", 7);
       },
       [&] { std::ignore = ColumnFile(world.state, world.files, randomColumns).at(0); }};
   for (const auto& fault : faults) {
