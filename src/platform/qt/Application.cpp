@@ -72,7 +72,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       if (dropping_ || mustWait()) return true;
-      altAlone_ = false;
+      altAlone_.reset();
       Q_EMIT clicked(static_cast<QWindow*>(receiver));
       return QApplication::notify(receiver, event);
     case QEvent::MouseButtonRelease:
@@ -146,7 +146,10 @@ void Application::serve(QKeyEvent& key) {
 void Application::servePress(QKeyEvent& press, QWindow& window) {
   if (!press.isAutoRepeat()) {
     pressedIn_ = &window;
-    altAlone_ = isAltAlone(press) && activePopupWidget() == nullptr;
+    altAlone_.reset();
+    if (isAltAlone(press) && activePopupWidget() == nullptr) {
+      altAlone_ = press.QInputEvent::modifiers();
+    }
   }
   if (&window == pressedIn_) sendEvent(&window, &press);
 }
@@ -154,8 +157,8 @@ void Application::servePress(QKeyEvent& press, QWindow& window) {
 /// Alt alone opens and closes the menus, which want to be told of its press and its release
 /// without another key in between.
 void Application::serveRelease(QKeyEvent& release, QWindow& window) {
-  if (release.key() == Qt::Key_Alt && std::exchange(altAlone_, false)) {
-    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+  if (release.key() == Qt::Key_Alt && altAlone_) {
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, *std::exchange(altAlone_, std::nullopt));
     sendEvent(&window, &press);
   }
   sendEvent(&window, &release);

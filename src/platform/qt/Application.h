@@ -7,6 +7,7 @@
 #include <QWindow>
 #include <deque>
 #include <memory>
+#include <optional>
 
 namespace karvenis {
 
@@ -74,7 +75,9 @@ class Application final : public QApplication {
   const QWindow* pressedIn_ = nullptr;  // only compared
   int releasedKey_ = 0;
   quint64 releasedAt_ = 0;
-  bool altAlone_ = false;  // Alt is held, and nothing else was pressed since
+  // While Alt is held and nothing else was pressed since: what its press told of the modifiers,
+  // which differs between a key of the desktop and its copy.
+  std::optional<Qt::KeyboardModifiers> altAlone_;
   bool busy_ = false;
   bool dropping_ = false;
 };
