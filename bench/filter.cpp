@@ -59,7 +59,8 @@ int main(int argc, char** argv) {
       std::vector<double> seconds;
       for (int round = 0; round < rounds; ++round) {
         makeList(world, count);
-        seconds.push_back(secondsOf([&] { filterList(filter, world.around, page, world.title); }));
+        seconds.push_back(secondsOf(
+            [&, filter = filter] { filterList(filter, world.around, page, world.title); }));
       }
       const double perRecord = median(seconds) / count;
       if (smallest == 0) smallest = perRecord;

@@ -29,7 +29,8 @@ class SpeakingCase(DesktopCase):
         self.hear(*lines)
 
     def hear(self, *lines):
-        """Exactly these lines come next, and none of them is cut off by the one behind it."""
+        """Exactly these lines come next, and none of them is cut off by the one behind it. Only the
+        first of several, the title of a window, is left out by a screen reader that is busy."""
         if self.screen.is_newer:
             for line in self.awaited(lines):
                 self.listen(re.escape(line))
@@ -46,7 +47,8 @@ class SpeakingCase(DesktopCase):
         try:
             self.program.until(lambda: len(spoken()) == len(lines), "words")
         except TooLate:
-            pass
+            if spoken() == list(lines[1:]) != []:
+                lines = lines[1:]
         self.assertEqual(spoken(), list(lines), self._coming())
         self._heard += end
 

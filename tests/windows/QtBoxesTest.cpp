@@ -149,8 +149,8 @@ TEST_P(BoxFit, EveryBoxToTypeIntoHasRoom) {
 
 /// A question stands on one line as far as the screen has room; a broken one has no lonely word.
 TEST_P(BoxFit, NoQuestionEndsInALonelyWord) {
-  const auto& [family, growth] = GetParam();
-  const BigLetters letters(family, growth);
+  const double growth = std::get<1>(GetParam());
+  const BigLetters letters(std::get<0>(GetParam()), growth);
   for (const QString& text : textsOfTheProgram()) {
     if (text.contains('\r') || !text.contains("istiyormusunuz")) continue;
     question(text, [&](const QMessageBox& box) {
