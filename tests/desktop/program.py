@@ -1,11 +1,13 @@
 """The built program at work on a screen: real keys, real clicks, its windows and its boxes."""
 
+import contextlib
 import os
 import re
 import shutil
 import signal
 import subprocess
 import tempfile
+import time
 
 from gi.repository import GLib
 
@@ -167,11 +169,19 @@ class Program:
     def keys(self, *keys):
         self.screen.run("xdotool", "key", "--clearmodifiers", *keys)
 
-    def hold(self, key):
+    @contextlib.contextmanager
+    def held(self, key):
+        """A key that is down as long as the context lasts."""
         self.screen.run("xdotool", "keydown", key)
+        try:
+            yield
+        finally:
+            self.screen.run("xdotool", "keyup", key)
 
-    def release(self, key):
-        self.screen.run("xdotool", "keyup", key)
+    def let_repeat(self):
+        """Leaves a held key the time to come some twenty times. That these do nothing gives no
+        sign that could be waited for."""
+        time.sleep(1.5)
 
     def type(self, text):
         self.screen.run("xdotool", "type", "--delay", "5", text)

@@ -1,7 +1,6 @@
 """The bag, the bankos and the coupon of eight columns."""
 
 import re
-import time
 import unittest
 
 from columns import bag_file
@@ -168,13 +167,10 @@ class Closing(DesktopCase):
         for key, title in self.WINDOWS:
             with self.subTest(title):
                 self.open(key, title)
-                program.hold("Escape")
-                try:
+                with program.held("Escape"):
                     program.gone(title)
                     program.activated(STANDARD_TITLE)
-                    time.sleep(1.5)  # in which a key that is held comes again and again
-                finally:
-                    program.release("Escape")
+                    program.let_repeat()
                 program.keys("F10")
                 program.box().press("Return")
         program.keys("Escape")

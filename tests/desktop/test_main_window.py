@@ -2,7 +2,6 @@
 
 import os
 import struct
-import time
 import unittest
 
 from columns import columns, record
@@ -185,12 +184,9 @@ class Draws(DesktopCase):
     def test_f1_held_keeps_one_column(self):
         program = self.start()
         self.draw()
-        program.hold("F1")
-        try:
+        with program.held("F1"):
             program.titled(" KARVENIS.RND Kayıt No= 1")
-            time.sleep(1.5)  # in which a key that is held comes again and again
-        finally:
-            program.release("F1")
+            program.let_repeat()
         program.keys("F10")
         program.box().press("Return")
         self.assertEqual(len(program.bytes("KARVENIS.RND")), 16)

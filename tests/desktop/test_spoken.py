@@ -1,7 +1,6 @@
 """What Orca says, word by word, to somebody who hears the program and does not see it."""
 
 import re
-import time
 import unittest
 
 from columns import bag_file, record
@@ -113,12 +112,9 @@ class Spoken(SpeakingCase):
         self.listen(r"bildirim Kolon: [\d, ]+")
         program.keys("F1", "F1", "F1", "F1")
         self.listen(r"bildirim KARVENIS\.RND Kayıt No= 4")
-        program.hold("F1")
-        try:
+        with program.held("F1"):
             self.listen(r"bildirim KARVENIS\.RND Kayıt No= 5")
-            time.sleep(1)  # in which a key that is held comes again and again
-        finally:
-            program.release("F1")
+            program.let_repeat()
         self.press("Tab", "Çıkış düğme", "Kapat")
         self.assertEqual(len(program.bytes("KARVENIS.RND")), 5 * 16)
 

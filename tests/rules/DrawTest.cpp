@@ -104,25 +104,25 @@ TEST(DrawColumn, ABagBallThatIsABankoIsDrawnAgain) {
   EXPECT_EQ(world.state.Drawn, column(7, 5, 1, 2, 3, 4));
 }
 
-TEST(DrawColumn, OnlyTheLaterBallOfAPairIsDrawnAgain) {
+/// Expects that these numbers, all of them, draw 1 to 6 from a bag of just these.
+void expectOneToSix(std::deque<float> numbers) {
   World world;
   setBag(world.state, {1, 2, 3, 4, 5, 6});
-  // 1 2 3 3 5 5: position 4 repeats 3 and becomes 4; position 6 repeats 5, becomes 1, then 6.
-  world.chance.script = {0.0F, 0.17F, 0.34F, 0.34F, 0.67F, 0.67F, 0.51F, 0.0F, 0.84F};
+  world.chance.script = std::move(numbers);
   DrawColumn(world.state, world.chance, world.clock, false);
   EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 4, 5, 6));
   EXPECT_TRUE(world.chance.script.empty());
 }
 
+TEST(DrawColumn, OnlyTheLaterBallOfAPairIsDrawnAgain) {
+  // 1 2 3 3 5 5: position 4 repeats 3 and becomes 4; position 6 repeats 5, becomes 1, then 6.
+  expectOneToSix({0.0F, 0.17F, 0.34F, 0.34F, 0.67F, 0.67F, 0.51F, 0.0F, 0.84F});
+}
+
 /// A repeat sends the rest of the inner comparisons to position 1, so that the 1 that takes the
 /// place of the second 3 is drawn again at once.
 TEST(DrawColumn, AfterARepeatTheRestIsComparedWithTheFirst) {
-  World world;
-  setBag(world.state, {1, 2, 3, 4, 5, 6});
-  world.chance.script = {0.0F, 0.17F, 0.34F, 0.34F, 0.34F, 0.84F, 0.0F, 0.51F, 0.67F};
-  DrawColumn(world.state, world.chance, world.clock, false);
-  EXPECT_EQ(world.state.Drawn, column(1, 2, 3, 4, 5, 6));
-  EXPECT_TRUE(world.chance.script.empty());
+  expectOneToSix({0.0F, 0.17F, 0.34F, 0.34F, 0.34F, 0.84F, 0.0F, 0.51F, 0.67F});
 }
 
 TEST(DrawColumn, SeedsOnceAndFirst) {
