@@ -44,13 +44,6 @@ class Modifiers : public testing::TestWithParam<WindowKeys> {
   MemoryFiles files;
   WholeProgram program{boxes, files};
 
-  Form* shown(const char* name) {
-    program.forms.show(name);
-    Form* form = program.forms.find(name);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
-    return form;
-  }
-
   /// The window as it is when it has just been opened, with something for every key to change.
   Form* fresh(int number) {
     files.folder = {{randomColumns, countedColumns(30)}, {combinationList, countedColumns(30)}};
@@ -61,8 +54,8 @@ class Modifiers : public testing::TestWithParam<WindowKeys> {
       if (form != nullptr && form->name() != "frmLoto") form->unload();
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    shown("frmLoto")->setCaption("");
-    Form* form = shown(name.c_str());
+    program.open("frmLoto")->setCaption("");
+    Form* form = program.open(name.c_str());
     if (name == "frmBanko")
       form->findChild<QRadioButton*>(number == 5 ? "Option3" : "Option2")->click();
     if (name == "frmBalls" && number == 5) form->findChild<QPushButton*>("cmdBall_7")->click();

@@ -18,12 +18,7 @@ class Together : public testing::Test {
   YieldingBoxes boxes;
   WholeProgram program{boxes, files};
 
-  Form* open(const char* name) {
-    program.forms.show(name);
-    Form* form = program.forms.find(name);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
-    return form;
-  }
+  Form* open(const char* name) { return program.open(name); }
   static void press(Form* form, Qt::Key key) { QTest::keyClick(form->windowHandle(), key); }
   static bool marked(Form* balls, int ball) {
     return balls->findChild<QAbstractButton*>(QStringLiteral("cmdBall_%1").arg(ball))
@@ -108,12 +103,7 @@ class RealBoxes : public testing::Test {
     boxes.closed = [this] { program.forms.boxClosed(); };
     program.forms.show("frmLoto");
   }
-  Form* open(const char* name) {
-    program.forms.show(name);
-    Form* form = program.forms.find(name);
-    EXPECT_TRUE(form != nullptr && QTest::qWaitForWindowActive(form));
-    return form;
-  }
+  Form* open(const char* name) { return program.open(name); }
   /// Presses a key that opens a box, does something behind it, and answers it.
   void pressAndAnswer(
       Form* form, Qt::Key key, const std::function<void()>& behind = [] {}) {

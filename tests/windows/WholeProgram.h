@@ -1,5 +1,9 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <QTest>
+
 #include "AllWindows.h"
 #include "doubles/Doubles.h"
 #include "platform/SystemChance.h"
@@ -17,6 +21,14 @@ struct WholeProgram {
   }
   WholeProgram(const WholeProgram&) = delete;
   WholeProgram& operator=(const WholeProgram&) = delete;
+
+  /// Shows the window and waits until it has the focus.
+  Form* open(const char* name) {
+    forms.show(name);
+    Form* form = forms.find(name);
+    EXPECT_TRUE(form != nullptr && QTest::qWaitForWindowActive(form));
+    return form;
+  }
 
   SharedState state;
   SetClock clock;
