@@ -17,7 +17,7 @@ void Picture::paintEvent(QPaintEvent*) {
 
 PictureButton::PictureButton(Artwork& artwork, QString file, QWidget* parent)
     : QAbstractButton(parent), artwork_(artwork), file_(std::move(file)) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
+  setAutoFillBackground(true);  // so that nothing is painted behind it
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
 }
