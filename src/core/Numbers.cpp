@@ -21,14 +21,9 @@ Int roundedInto(double number) {
 
 }  // namespace
 
-void appendPadded(std::string& text, std::int64_t number, std::size_t digits) {
-  const std::string plain = std::to_string(number);
-  text.append(digits - std::min(digits, plain.size()), '0').append(plain);
-}
-
 std::string padded(std::int64_t number, std::size_t digits) {
-  std::string text;
-  appendPadded(text, number, digits);
+  std::string text = std::to_string(number);
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
   return text;
 }
 

@@ -17,11 +17,7 @@ template <std::integral Number>
   return text;
 }
 
-/// Adds `number` to the end of `text`: without blanks, padded on the left with "0" to at least
-/// `digits` characters.
-void appendPadded(std::string& text, std::int64_t number, std::size_t digits);
-
-/// `number` alone in that form.
+/// `number` without blanks, padded on the left with "0" to at least `digits` characters.
 [[nodiscard]] std::string padded(std::int64_t number, std::size_t digits);
 
 /// `numbers` with commas between them, as a sentence lists them: "4, 8, 15".

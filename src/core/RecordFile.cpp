@@ -29,12 +29,12 @@ RecordFile::~RecordFile() {
 
 void RecordFile::read(std::int64_t number, std::span<std::byte> record) {
   const std::size_t place = placeInBlock(number);
-  std::ranges::copy(std::span(block_).subspan(place, recordLength_), record.begin());
+  std::copy_n(block_.data() + place, recordLength_, record.data());
 }
 
 void RecordFile::write(std::int64_t number, std::span<const std::byte> record) {
   const std::size_t place = placeInBlock(number);
-  std::ranges::copy(record, std::span(block_).subspan(place, recordLength_).begin());
+  std::copy_n(record.data(), recordLength_, block_.data() + place);
   dirtyFrom_ = dirtyTo_ == 0 ? place : std::min(dirtyFrom_, place);
   dirtyTo_ = std::max(dirtyTo_, place + recordLength_);
   length_ = std::max(length_, blockStart_ + place + recordLength_);
@@ -43,27 +43,27 @@ void RecordFile::write(std::int64_t number, std::span<const std::byte> record) {
 void RecordFile::close() {
   if (!file_) return;
   const std::unique_ptr<File> closing = std::move(file_);
-  file_.reset();
   flush(*closing);
   if (written_) closing->sync();
   closing->close();
 }
 
-/// The place of record `number` in the block; the block is moved there if it lies elsewhere.
+/// The place of record `number` in the block, which is moved there if it lies elsewhere.
 std::size_t RecordFile::placeInBlock(std::int64_t number) {
   if (number < 1) throw RunTimeError(Fault::read, name_, "kayıt no " + std::to_string(number));
   const std::uint64_t offset = static_cast<std::uint64_t>(number - 1) * recordLength_;
-  const std::size_t blockLength = blockSize - blockSize % recordLength_;
-  const std::uint64_t start = offset - offset % blockLength;
-  if (block_.empty() || start != blockStart_) {
-    flush(*file_);
-    blockStart_ = start;
-    std::vector<std::byte> block(blockLength);
-    block_.clear();                           // a read that fails leaves no block
-    std::ignore = file_->read(start, block);  // what lies past the end stays 0
-    block_ = std::move(block);
-  }
-  return offset - start;
+  if (offset < blockStart_ || offset - blockStart_ >= block_.size()) moveBlock(offset);
+  return offset - blockStart_;
+}
+
+/// Moves the block to the one that holds byte `offset`.
+void RecordFile::moveBlock(std::uint64_t offset) {
+  flush(*file_);
+  std::vector<std::byte> block(blockSize - blockSize % recordLength_);
+  blockStart_ = offset - offset % block.size();
+  block_.clear();                                 // a read that fails leaves no block
+  std::ignore = file_->read(blockStart_, block);  // what lies past the end stays 0
+  block_ = std::move(block);
 }
 
 void RecordFile::flush(File& file) {

@@ -54,6 +54,7 @@ class RecordFile {
   static constexpr std::size_t blockSize = std::size_t{1} << 16;
 
   std::size_t placeInBlock(std::int64_t number);
+  void moveBlock(std::uint64_t offset);
   void flush(File& file);
 
   std::string name_;

@@ -4,24 +4,15 @@
 #include "core/Numbers.h"
 
 namespace karvenis {
-namespace {
-
-/// No line of a sound record is longer.
-constexpr std::size_t lineRoom = 64;
-
-}  // namespace
 
 std::string columnLine(const std::string& file, std::int64_t number, std::size_t digits,
                        const Column& balls) {
   const std::string sum = std::to_string(columnSum(balls, file, number));
-  std::string line;
-  line.reserve(lineRoom);
-  line += "Kolon ";
-  appendPadded(line, number, digits);
+  std::string line = "Kolon " + padded(number, digits);
   const char* between = " - ";
   for (const std::int16_t ball : balls) {
     line += between;
-    appendPadded(line, ball, 2);
+    line += padded(ball, 2);
     between = ", ";
   }
   line += sum.size() < 3 ? "  [0" : "  [";
