@@ -42,10 +42,10 @@ class DiskFolder {
                static_cast<std::streamsize>(bytes.size()));
   }
   Bytes bytes(const std::string& name) const {
-    std::ifstream file(folder_ / name, std::ios::binary);
-    const std::string all{std::istreambuf_iterator<char>(file), {}};
-    const auto* first = reinterpret_cast<const std::byte*>(all.data());
-    return {first, first + all.size()};
+    Bytes all(std::filesystem::file_size(folder_ / name));
+    std::ifstream(folder_ / name, std::ios::binary)
+        .read(reinterpret_cast<char*>(all.data()), static_cast<std::streamsize>(all.size()));
+    return all;
   }
   /// Every regular file in it.
   Folder content() const {

@@ -204,7 +204,12 @@ class Walk {
   void writeText() {
     move("write a text");
     says(true);
-    listRandomColumns(world_.around, world_.title, Output::text);
+    const auto write = [&] { listRandomColumns(world_.around, world_.title, Output::text); };
+    if (Lists::count(model_.kept) > recordLimit) {  // listings count in 16 bits
+      EXPECT_THROW(write(), RunTimeError);
+      return;
+    }
+    write();
     const std::string text = world_.files.text("KARVENIS.TXT");
     if (Lists::any(model_.kept)) {
       EXPECT_NE(text.find("< Toplam " + std::to_string(model_.kept->size()) + " kolon. >"),
