@@ -1,4 +1,4 @@
-// Plays the desktop's sound "bell" once for each byte of its standard input, which is a pipe from
+// Plays the desktop's sound "bell" once for each byte of its standard input, which is a socket from
 // karvenis, and ends with it. If it cannot play, it ends at once, and karvenis beeps by itself.
 
 #include <canberra.h>

@@ -15,7 +15,7 @@ namespace {
 class BellTest : public testing::Test {
  protected:
   QTemporaryDir folder;
-  int otherwise = 0;  // rings of the other bell
+  int fallbacks = 0;  // calls of the fallback
 
   QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
   QString player(const QByteArray& script) {
@@ -26,7 +26,7 @@ class BellTest : public testing::Test {
     return file.fileName();
   }
   std::function<void()> counted() {
-    return [this] { ++otherwise; };
+    return [this] { ++fallbacks; };
   }
   QByteArray content(const char* name) const {
     QFile file(path(name));
@@ -49,7 +49,7 @@ TEST_F(BellTest, StartsItsPlayerAtTheFirstRingAndGivesItEachRing) {
   for (int ring = 0; ring < 6; ++ring) bell.ring();
   EXPECT_TRUE(waitFor([&] { return content("rings").size() == 6; }));
   EXPECT_EQ(content("starts"), "started\n");
-  EXPECT_EQ(otherwise, 0);
+  EXPECT_EQ(fallbacks, 0);
 }
 
 TEST_F(BellTest, EndsItsPlayerWhenItGoes) {
@@ -66,17 +66,17 @@ TEST_F(BellTest, RingsOtherwiseOnceItsPlayerHasEndedAndLeavesNoZombie) {
   Bell bell(player("head -c 1 >rings; exit 1"), counted());
   bell.ring();
   EXPECT_TRUE(waitFor([&] { return !hasChild(); }));
-  EXPECT_EQ(otherwise, 0) << "what the player has taken is not rung again";
+  EXPECT_EQ(fallbacks, 0) << "what the player has taken is not rung again";
   bell.ring();
   bell.ring();
-  EXPECT_EQ(otherwise, 2);
+  EXPECT_EQ(fallbacks, 2);
 }
 
 // The ring comes before the event loop can tell that the player has ended.
 TEST_F(BellTest, ABrokenPipeDoesNotEndTheProgram) {
   Bell bell(player(": >ended"), counted());
   bell.ring();
-  for (int ring = 0; otherwise == 0; ++ring) {
+  for (int ring = 0; fallbacks == 0; ++ring) {
     ASSERT_LT(ring, 100000);
     bell.ring();
     QThread::yieldCurrentThread();
@@ -87,16 +87,16 @@ TEST_F(BellTest, ABrokenPipeDoesNotEndTheProgram) {
 TEST_F(BellTest, RingsOtherwiseWhereThereIsNoPlayer) {
   Bell bell(path("nothing"), counted());
   bell.ring();
-  EXPECT_EQ(otherwise, 1);
+  EXPECT_EQ(fallbacks, 1);
   bell.ring();
-  EXPECT_EQ(otherwise, 2);
+  EXPECT_EQ(fallbacks, 2);
   EXPECT_FALSE(hasChild());
 }
 
 TEST_F(BellTest, DropsWhatAPlayerThatHangsHasNoRoomFor) {
   Bell bell(player("echo $$ >process; exec sleep 1000"), counted());
   for (int ring = 0; ring < 100000; ++ring) bell.ring();
-  EXPECT_EQ(otherwise, 0);
+  EXPECT_EQ(fallbacks, 0);
   EXPECT_TRUE(waitFor([&] { return content("process").endsWith('\n'); }));
   ::kill(content("process").toInt(), SIGKILL);
   EXPECT_TRUE(waitFor([&] { return !hasChild(); }));

@@ -17,7 +17,7 @@ namespace karvenis {
 namespace {
 
 /// Starts `program` with `input` as its standard input and without an output; 0 if it cannot.
-pid_t started(const QString& program, int input) {
+pid_t spawn(const QString& program, int input) {
   QByteArray path = QFile::encodeName(program);
   char* const arguments[] = {path.data(), nullptr};
   posix_spawn_file_actions_t files;
@@ -34,11 +34,11 @@ pid_t started(const QString& program, int input) {
 
 }  // namespace
 
-Bell::Bell(QString player, std::function<void()> otherwise)
-    : player_(std::move(player)), otherwise_(std::move(otherwise)) {}
+Bell::Bell(QString player, std::function<void()> fallback)
+    : player_(std::move(player)), fallback_(std::move(fallback)) {}
 
 Bell::~Bell() {
-  if (pipe_ >= 0) ::close(pipe_);
+  if (socket_ >= 0) ::close(socket_);
 }
 
 /// The player beside this program, as in a build folder, else the installed one.
@@ -52,30 +52,31 @@ void Bell::ring() {
   if (!started_) start();
   if (passOn()) return;
   giveUp();
-  otherwise_();
+  fallback_();
 }
 
 void Bell::start() {
   started_ = true;
-  int ends[2];  // a socket, since a write to a broken pipe would end the program
+  int ends[2];  // sockets, since a write to a broken pipe would end the program
   if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return;
-  process_ = started(player_, ends[1]);
+  process_ = spawn(player_, ends[1]);
   ::close(ends[1]);
-  pipe_ = ends[0];
-  ended_ = std::make_unique<QSocketNotifier>(pipe_, QSocketNotifier::Read);
+  socket_ = ends[0];
+  ended_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
   QObject::connect(ended_.get(), &QSocketNotifier::activated, [this] { giveUp(); });
 }
 
-/// Whether the player has the ring, or is too busy for it.
+/// Sends the ring. Returns false if the player has ended; a ring that it is too busy for counts as
+/// sent.
 bool Bell::passOn() const {
-  return ::send(pipe_, "", 1, MSG_DONTWAIT | MSG_NOSIGNAL) == 1 || errno == EAGAIN;
+  return ::send(socket_, "", 1, MSG_DONTWAIT | MSG_NOSIGNAL) == 1 || errno == EAGAIN;
 }
 
-/// The player has ended, or never began.
+/// Closes the socket and ends the player; from then on the fallback rings.
 void Bell::giveUp() {
-  if (pipe_ < 0) return;
+  if (socket_ < 0) return;
   ended_->setEnabled(false);
-  ::close(std::exchange(pipe_, -1));
+  ::close(std::exchange(socket_, -1));
   if (process_ == 0) return;
   ::kill(process_, SIGKILL);  // so that the next line never waits
   ::waitpid(process_, nullptr, 0);

@@ -15,10 +15,10 @@ namespace karvenis {
 /// the window system's own bell rings.
 class Bell {
  public:
-  /// `player` plays one sound for each byte of its standard input and ends with it; `otherwise`
-  /// rings once it is gone.
+  /// `player` plays one sound for each byte of its standard input and ends with it; `fallback` is
+  /// called for every ring after the player has ended.
   explicit Bell(QString player = installedPlayer(),
-                std::function<void()> otherwise = QApplication::beep);
+                std::function<void()> fallback = QApplication::beep);
   /// Ends the player.
   ~Bell();
   Bell(const Bell&) = delete;
@@ -34,9 +34,9 @@ class Bell {
   void giveUp();
 
   QString player_;
-  std::function<void()> otherwise_;
+  std::function<void()> fallback_;
   bool started_ = false;
-  int pipe_ = -1;                           // to the player; -1 while there is none
+  int socket_ = -1;                         // to the player; -1 while there is none
   pid_t process_ = 0;                       // the player
   std::unique_ptr<QSocketNotifier> ended_;  // tells that the player has ended
 };

@@ -87,7 +87,7 @@ void QtPrinter::printLine(const std::string& text) {
 }
 
 void QtPrinter::endDocument() {
-  document();
+  document();  // begins an empty one if nothing was printed
   const std::unique_ptr<Document> whole = std::move(document_);
   if (!whole->painter.end()) failToPrint();
   whole->queue.send(whole->pdf.data());

@@ -18,8 +18,11 @@ int narrowest(const QWidget& widget, const QString& text, int width) {
   while (width - tooNarrow > 1) {
     const int middle = (width + tooNarrow) / 2;
     const QSize size = textSize(widget, text, middle);
-    const bool fits = size.height() == height && size.width() <= middle;
-    (fits ? width : tooNarrow) = middle;
+    if (size.height() == height && size.width() <= middle) {
+      width = middle;
+    } else {
+      tooNarrow = middle;
+    }
   }
   return width;
 }

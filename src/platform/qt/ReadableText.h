@@ -8,11 +8,11 @@ class QWidget;
 namespace karvenis {
 
 /// The size that `text` takes in the letters of `widget` when its lines are broken at `width`.
-QSize textSize(const QWidget& widget, const QString& text, int width);
+[[nodiscard]] QSize textSize(const QWidget& widget, const QString& text, int width);
 
 /// The width in which `text` reads best in the letters of `widget`: that of its longest line, but
 /// at most `room` and about a hundred letters. If lines must be broken, they become about equally
 /// long, so that no word is left alone on the last one.
-int readableWidth(const QWidget& widget, const QString& text, int room);
+[[nodiscard]] int readableWidth(const QWidget& widget, const QString& text, int room);
 
 }  // namespace karvenis

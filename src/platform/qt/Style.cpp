@@ -19,16 +19,15 @@ namespace {
 constexpr QSize buttonPadding(34, 12);
 constexpr int leastTextHeight = 18;
 constexpr int leastTextLetters = 7;
-constexpr QSize menuHeadPadding(20, 10);
+constexpr QSize menuBarItemPadding(20, 10);
 constexpr QSize menuEntryPadding(28, 10);
 constexpr int menuShortcutGap = 24;
-constexpr int menuLineHeight = 9;
+constexpr int separatorHeight = 9;
 constexpr int boxIconSize = 44;
 constexpr int scrollBarWidth = 14;
 constexpr double buttonRadius = 5;
 constexpr double panelRadius = 7;
 
-/// What does not grow with the letters, in pixels.
 struct Metric {
   QStyle::PixelMetric metric;
   int pixels;
@@ -36,6 +35,7 @@ struct Metric {
 
 constexpr int padding = 16;  // of every window
 constexpr int gap = 12;      // between controls
+/// What does not grow with the letters, in pixels.
 constexpr Metric fixedMetrics[] = {
     {QStyle::PM_MenuBarItemSpacing, 0},
     {QStyle::PM_MenuBarHMargin, 0},
@@ -97,15 +97,15 @@ void drawButton(const QStyleOption& option, QPainter& painter, bool isPrimary) {
   drawBox(painter, option.rect, isPrimary ? panelRadius : buttonRadius, edge, ground);
 }
 
-void drawMenuHead(const QStyleOptionMenuItem& head, QPainter& painter, const QStyle& style) {
-  painter.fillRect(head.rect, QColor(look::sand));
-  const bool chosen = (head.state & QStyle::State_Selected) != 0;
-  if (chosen) drawBox(painter, head.rect, 3, QPen(Qt::NoPen), QColor(look::petrol));
-  style.drawItemText(&painter, head.rect, Qt::AlignCenter | Qt::TextShowMnemonic, head.palette,
-                     true, head.text, chosen ? QPalette::HighlightedText : QPalette::WindowText);
+void drawMenuBarItem(const QStyleOptionMenuItem& item, QPainter& painter, const QStyle& style) {
+  painter.fillRect(item.rect, QColor(look::sand));
+  const bool chosen = (item.state & QStyle::State_Selected) != 0;
+  if (chosen) drawBox(painter, item.rect, 3, QPen(Qt::NoPen), QColor(look::petrol));
+  style.drawItemText(&painter, item.rect, Qt::AlignCenter | Qt::TextShowMnemonic, item.palette,
+                     true, item.text, chosen ? QPalette::HighlightedText : QPalette::WindowText);
 }
 
-/// A line between entries, or an entry with its words and, at the right, its shortcut.
+/// A separator, or an entry with its words and, at the right, its shortcut.
 void drawMenuEntry(const QStyleOptionMenuItem& entry, QPainter& painter, const QStyle& style) {
   const QRect inside =
       entry.rect.adjusted(menuEntryPadding.width() / 2, 0, -menuEntryPadding.width() / 2, 0);
@@ -128,7 +128,7 @@ void drawMenuEntry(const QStyleOptionMenuItem& entry, QPainter& painter, const Q
 }
 
 QSize menuEntrySize(const QStyleOptionMenuItem& entry, QSize words) {
-  if (entry.menuItemType == QStyleOptionMenuItem::Separator) return {1, menuLineHeight};
+  if (entry.menuItemType == QStyleOptionMenuItem::Separator) return {1, separatorHeight};
   if (entry.text.contains(u'\t')) {
     words.rwidth() += menuShortcutGap + entry.reservedShortcutWidth;
   }
@@ -159,7 +159,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
                  {leastTextLetters * option->fontMetrics.averageCharWidth(), leastTextHeight}) +
              buttonPadding;
     case CT_MenuBarItem:
-      return contents + menuHeadPadding;
+      return contents + menuBarItemPadding;
     case CT_MenuItem:
       return menuEntrySize(*static_cast<const QStyleOptionMenuItem*>(option), contents);
     default:
@@ -226,7 +226,7 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       return drawButton(*option, *painter,
                         widget != nullptr && widget->property(primaryButton).toBool());
     case CE_MenuBarItem:
-      return drawMenuHead(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
+      return drawMenuBarItem(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
     case CE_MenuItem:
       return drawMenuEntry(*static_cast<const QStyleOptionMenuItem*>(option), *painter, *this);
     case CE_MenuBarEmptyArea:

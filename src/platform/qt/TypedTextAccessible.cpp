@@ -11,8 +11,8 @@ class TypedTextAccessible final : public QAccessibleWidget,
                                   public QAccessibleTextInterface,
                                   public QAccessibleEditableTextInterface {
  public:
-  explicit TypedTextAccessible(QLineEdit* box)
-      : QAccessibleWidget(box, QAccessible::EditableText), box_(box) {}
+  explicit TypedTextAccessible(QLineEdit* field)
+      : QAccessibleWidget(field, QAccessible::EditableText), field_(field) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
@@ -28,33 +28,33 @@ class TypedTextAccessible final : public QAccessibleWidget,
     return state;
   }
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Value) return box_->text();
+    if (kind == QAccessible::Value) return field_->text();
     const QString told = QAccessibleWidget::text(kind);
-    return kind == QAccessible::Description && told.isEmpty() ? box_->placeholderText() : told;
+    return kind == QAccessible::Description && told.isEmpty() ? field_->placeholderText() : told;
   }
   void setText(QAccessible::Text kind, const QString& text) override {
     if (kind != QAccessible::Value) return QAccessibleWidget::setText(kind, text);
-    box_->setText(text);
+    field_->setText(text);
   }
 
-  // What is selected, of which there is one piece at most
+  // The selection: one range at most
 
-  int selectionCount() const override { return box_->hasSelectedText() ? 1 : 0; }
+  int selectionCount() const override { return field_->hasSelectedText() ? 1 : 0; }
   void selection(int, int* start, int* end) const override {
-    *start = box_->hasSelectedText() ? box_->selectionStart() : 0;
-    *end = *start + box_->selectionLength();
+    *start = field_->hasSelectedText() ? field_->selectionStart() : 0;
+    *end = *start + field_->selectionLength();
   }
   void addSelection(int start, int end) override { setSelection(0, start, end); }
-  void removeSelection(int) override { box_->deselect(); }
-  void setSelection(int, int start, int end) override { box_->setSelection(start, end - start); }
+  void removeSelection(int) override { field_->deselect(); }
+  void setSelection(int, int start, int end) override { field_->setSelection(start, end - start); }
 
-  int cursorPosition() const override { return box_->cursorPosition(); }
-  void setCursorPosition(int position) override { box_->setCursorPosition(position); }
+  int cursorPosition() const override { return field_->cursorPosition(); }
+  void setCursorPosition(int position) override { field_->setCursorPosition(position); }
 
   // The text
 
-  QString text(int start, int end) const override { return box_->text().mid(start, end - start); }
-  int characterCount() const override { return static_cast<int>(box_->text().size()); }
+  QString text(int start, int end) const override { return field_->text().mid(start, end - start); }
+  int characterCount() const override { return static_cast<int>(field_->text().size()); }
   QString attributes(int, int* start, int* end) const override {
     *start = 0;
     *end = characterCount();
@@ -63,37 +63,37 @@ class TypedTextAccessible final : public QAccessibleWidget,
   void deleteText(int start, int end) override { replaceText(start, end, {}); }
   void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
   void replaceText(int start, int end, const QString& text) override {
-    box_->setText(box_->text().replace(start, end - start, text));
+    field_->setText(field_->text().replace(start, end - start, text));
   }
 
-  // Where it stands
+  // Positions on the screen
 
   QRect characterRect(int offset) const override {
-    const QFontMetrics metrics = box_->fontMetrics();
+    const QFontMetrics metrics = field_->fontMetrics();
     const auto left = [&](int place) {
-      return metrics.horizontalAdvance(box_->text().left(place));
+      return metrics.horizontalAdvance(field_->text().left(place));
     };
-    QRect place = box_->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-    place.setLeft(place.center().x() + left(offset) - left(box_->cursorPosition()));
+    QRect place = field_->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    place.setLeft(place.center().x() + left(offset) - left(field_->cursorPosition()));
     place.setWidth(left(offset + 1) - left(offset));
-    return {box_->mapToGlobal(place.topLeft()), place.size()};
+    return {field_->mapToGlobal(place.topLeft()), place.size()};
   }
   int offsetAtPoint(const QPoint& point) const override {
-    return box_->cursorPositionAt(box_->mapFromGlobal(point));
+    return field_->cursorPositionAt(field_->mapFromGlobal(point));
   }
   void scrollToSubstring(int start, int end) override {
-    box_->setCursorPosition(end);
-    box_->setCursorPosition(start);
+    field_->setCursorPosition(end);
+    field_->setCursorPosition(start);
   }
 
  private:
-  QLineEdit* box_;
+  QLineEdit* field_;
 };
 
 }  // namespace
 
-QAccessibleInterface* makeTypedTextAccessible(QLineEdit* box) {
-  return new TypedTextAccessible(box);
+QAccessibleInterface* makeTypedTextAccessible(QLineEdit* field) {
+  return new TypedTextAccessible(field);
 }
 
 }  // namespace karvenis

@@ -5,9 +5,9 @@ class QLineEdit;
 
 namespace karvenis {
 
-/// How assistive technology sees the text box `box`. It replaces the toolkit's own interface, which
-/// reports no attributes for the last character: a screen reader that asks for them leaves that
-/// character out and says 3276 for 32767.
-QAccessibleInterface* makeTypedTextAccessible(QLineEdit* box);
+/// How assistive technology sees the text field `field`. It replaces the toolkit's own interface,
+/// which reports no attributes for the last character: a screen reader that asks for them leaves
+/// that character out and says 3276 for 32767.
+[[nodiscard]] QAccessibleInterface* makeTypedTextAccessible(QLineEdit* field);
 
 }  // namespace karvenis

@@ -53,8 +53,8 @@ void moveFrame(QWidget& window, QPointF place) {
   const QPoint wanted = QPointF(std::clamp(place.x(), -farthest, farthest),
                                 std::clamp(place.y(), -farthest, farthest))
                             .toPoint();
-  // Sized first: a resize after the move would make the toolkit take the place for the client
-  // area's.
+  // Sized first: a resize after the move would make the toolkit take `wanted` for the corner of the
+  // client area.
   window.adjustSize();
   const QRect frame(wanted, window.size());
   const QRect title(frame.topLeft(), QSize(frame.width(), titleHeight));
