@@ -47,8 +47,8 @@ int main(int, char** argv) {
   QtPrinter printer;
   Forms forms(boxes);
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
-  boxes.opens = [&forms] { return forms.boxOpens(); };
-  boxes.closed = [&forms] { forms.boxClosed(); };
+  boxes.beforeOpening = [&forms] { return forms.boxOpens(); };
+  boxes.afterClosing = [&forms] { forms.boxClosed(); };
   chance.seedFrom(clock);
 
   addWindows(forms, around);

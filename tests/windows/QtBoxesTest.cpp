@@ -319,7 +319,7 @@ TEST(QtBoxes, ABoxIsReadEvenIfTheReaderIsStillBusyWithTheOneBeforeIt) {
   QWidget owner;
   owner.show();
   QtBoxes boxes;
-  boxes.opens = [&] { return &owner; };
+  boxes.beforeOpening = [&] { return &owner; };
   Listener listener;
   QPointer<QMessageBox> shown;
   const auto open = [&] {

@@ -149,8 +149,8 @@ void serve(Files& files, const std::function<Lengths()>& lengths) {
     fill(files);
     QtBoxes boxes;
     WholeProgram program(boxes, files);
-    boxes.opens = [&] { return program.forms.boxOpens(); };
-    boxes.closed = [&] { program.forms.boxClosed(); };
+    boxes.beforeOpening = [&] { return program.forms.boxOpens(); };
+    boxes.afterClosing = [&] { program.forms.boxClosed(); };
     Sound sound(program, files, lengths, seen);
     RandomUser* busy = nullptr;
     RandomUser user(program, random, [&] {

@@ -99,8 +99,8 @@ class RealBoxes : public testing::Test {
   int answered = 0;
 
   void SetUp() override {
-    boxes.opens = [this] { return program.forms.boxOpens(); };
-    boxes.closed = [this] { program.forms.boxClosed(); };
+    boxes.beforeOpening = [this] { return program.forms.boxOpens(); };
+    boxes.afterClosing = [this] { program.forms.boxClosed(); };
     program.forms.show("frmLoto");
   }
   Form* open(const char* name) { return program.open(name); }

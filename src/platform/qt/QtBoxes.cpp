@@ -43,61 +43,64 @@ constexpr Qt::WindowFlags boxFlags =
 
 }  // namespace
 
-QWidget* QtBoxes::owner() const { return opens ? opens() : QApplication::activeWindow(); }
-
 QtBoxes::~QtBoxes() { delete last_; }
 
-/// Shows the box until it is answered. Returns its result. The box is kept, hidden, until the next
-/// one has been answered: a screen reader still asks about the control that it read last, and does
-/// not read the next box if that control is gone. As a popup the hidden box is in no list of
-/// windows. The box asks for the keyboard, since the desktop may still be giving it to the window
-/// behind, after the box before.
-int QtBoxes::serve(QDialog& box) {
-  QTimer::singleShot(0, &box, &QWidget::activateWindow);
-  const int result = box.exec();
-  box.windowHandle()->setFlags(Qt::Popup);
-  delete std::exchange(last_, &box);
-  if (closed) closed();
+/// Tells that a box is about to open. Returns the window that it belongs to.
+QWidget* QtBoxes::announceOpening() {
+  return beforeOpening ? beforeOpening() : QApplication::activeWindow();
+}
+
+/// Shows `box` until it is answered, takes ownership of it and returns its result. The answered box
+/// stays, hidden, until the next one is answered: a screen reader still asks about the control that
+/// it read last, and would not read the next box if that control were gone.
+int QtBoxes::serve(QDialog* box) {
+  box->setWindowFlags(boxFlags);
+  // The desktop may still be giving the keyboard to the window behind.
+  QTimer::singleShot(0, box, &QWidget::activateWindow);
+  const int result = box->exec();
+  // A hidden popup is in no list of windows.
+  box->windowHandle()->setFlags(Qt::Popup);
+  delete std::exchange(last_, box);
+  if (afterClosing) afterClosing();
   return result;
 }
 
 void QtBoxes::message(const std::string& text, const std::string& title, Icon icon) {
-  auto& box = *new MessageBox(toQtLines(text), toQt(title), iconOf(icon), owner());
-  box.setWindowFlags(boxFlags);
-  box.setDefaultButton(box.addButton(u"Tamam"_s, QMessageBox::AcceptRole));
+  QWidget* owner = announceOpening();
+  auto* box = new MessageBox(toQtLines(text), toQt(title), iconOf(icon), owner);
+  box->setDefaultButton(box->addButton(u"Tamam"_s, QMessageBox::AcceptRole));
   serve(box);
 }
 
 bool QtBoxes::ask(const std::string& text, const std::string& title) {
-  auto& box = *new MessageBox(toQtLines(text), toQt(title), QMessageBox::Question, owner());
-  box.setWindowFlags(boxFlags);
-  QPushButton* yes = box.addButton(u"Evet"_s, QMessageBox::YesRole);
-  QPushButton* no = box.addButton(u"Hayır"_s, QMessageBox::NoRole);
-  box.setDefaultButton(yes);
-  box.setEscapeButton(no);
+  QWidget* owner = announceOpening();
+  auto* box = new MessageBox(toQtLines(text), toQt(title), QMessageBox::Question, owner);
+  QPushButton* yes = box->addButton(u"Evet"_s, QMessageBox::YesRole);
+  QPushButton* no = box->addButton(u"Hayır"_s, QMessageBox::NoRole);
+  box->setDefaultButton(yes);
+  box->setEscapeButton(no);
   serve(box);
-  return box.clickedButton() == yes;
+  return box->clickedButton() == yes;
 }
 
 std::string QtBoxes::input(const std::string& prompt, const std::string& title,
                            const std::string& preset, const std::string& example) {
-  auto& box = *new QInputDialog(owner());
-  box.setWindowTitle(toQt(title));
-  box.setLabelText(toQtLines(prompt));
-  box.setTextValue(toQt(preset));
-  box.findChild<QLineEdit*>()->setPlaceholderText(toQt(example));
-  box.setOkButtonText(u"Tamam"_s);
-  box.setCancelButtonText(u"İptal"_s);
-  box.setWindowModality(Qt::ApplicationModal);
-  auto* label = box.findChild<QLabel*>();
+  auto* box = new QInputDialog(announceOpening());
+  box->setWindowTitle(toQt(title));
+  box->setLabelText(toQtLines(prompt));
+  box->setTextValue(toQt(preset));
+  box->findChild<QLineEdit*>()->setPlaceholderText(toQt(example));
+  box->setOkButtonText(u"Tamam"_s);
+  box->setCancelButtonText(u"İptal"_s);
+  box->setWindowModality(Qt::ApplicationModal);
+  auto* label = box->findChild<QLabel*>();
   const int room =
-      roomOnScreen().width() - 2 * box.style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
+      roomOnScreen().width() - 2 * box->style()->pixelMetric(QStyle::PM_LayoutLeftMargin);
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   label->setFixedWidth(std::max(readableWidth(*label, label->text(), room),
                                 std::min(qRound(leastInput * letterGrowth()), room)));
-  box.setWindowFlags(boxFlags);
-  return serve(box) == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
+  return serve(box) == QDialog::Accepted ? fromQt(box->textValue()) : std::string();
 }
 
 void QtBoxes::beep() { bell_.ring(); }

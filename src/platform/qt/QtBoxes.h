@@ -20,10 +20,10 @@ class QtBoxes final : public Boxes {
   QtBoxes(const QtBoxes&) = delete;
   QtBoxes& operator=(const QtBoxes&) = delete;
 
-  /// Runs before a box opens; returns the window that the box belongs to, or null.
-  std::function<QWidget*()> opens;
+  /// Runs before a box opens. Returns the window that the box belongs to, or null.
+  std::function<QWidget*()> beforeOpening;
   /// Runs when a box has closed.
-  std::function<void()> closed;
+  std::function<void()> afterClosing;
 
   void message(const std::string& text, const std::string& title, Icon icon) override;
   bool ask(const std::string& text, const std::string& title) override;
@@ -33,8 +33,8 @@ class QtBoxes final : public Boxes {
   void pointer(Pointer shape) override;
 
  private:
-  QWidget* owner() const;
-  int serve(QDialog& box);
+  QWidget* announceOpening();
+  int serve(QDialog* box);
 
   Bell bell_;
   QPointer<QDialog> last_;  // the box that was answered last; its owner may delete it
