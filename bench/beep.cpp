@@ -12,6 +12,7 @@
 
 #include "BenchWorld.h"
 #include "main/frmLoto.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Bell.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
@@ -31,7 +32,7 @@ int main(int argc, char** argv) {
   using namespace karvenis;
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 100;
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  Application application(argc, argv);
   applyLook();
   BenchWorld world;
   Forms forms(world.boxes);

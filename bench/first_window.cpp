@@ -6,6 +6,7 @@
 #include "main/frmLoto.h"
 #include "platform/SystemChance.h"
 #include "platform/SystemFiles.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/QtBoxes.h"
@@ -14,7 +15,7 @@
 
 int main(int argc, char** argv) {
   using namespace karvenis;
-  QApplication application(argc, argv);
+  Application application(argc, argv);
   EndAtFirstPaint end;
   applyLook();
   SharedState state;

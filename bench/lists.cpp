@@ -15,6 +15,7 @@
 
 #include "BenchWorld.h"
 #include "listing/frmRLPrint.h"
+#include "platform/qt/Application.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "randomlist/ColumnDeletion.h"
@@ -180,7 +181,7 @@ double windowText(BenchWorld& world, int rounds) {
 int main(int argc, char** argv) {
   const int rounds = argc > 1 ? std::atoi(argv[1]) : 41;
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   applyLook();
   BenchWorld world;

@@ -6,7 +6,6 @@
 #include "platform/SystemChance.h"
 #include "platform/SystemFiles.h"
 #include "platform/qt/Application.h"
-#include "platform/qt/Form.h"
 #include "platform/qt/Forms.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/QtBoxes.h"
@@ -19,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The toolkit's own words (the menus of text boxes) in Turkish too, whatever the system's
+/// The toolkit's own words (the menus of text fields) in Turkish too, whatever the system's
 /// language.
 void speakTurkish(QTranslator& translator) {
   if (translator.load(u"qtbase_tr"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

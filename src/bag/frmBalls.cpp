@@ -2,7 +2,6 @@
 
 #include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -23,7 +22,7 @@ constexpr char tag[] = "Tag";
 
 }  // namespace
 
-frmBalls::frmBalls(Surroundings& around) : frmSelection(around, "frmBalls") {
+frmBalls::frmBalls(Surroundings& around) : frmSelection(around) {
   auto* whole = new QVBoxLayout(this);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   setCaption("6/49 Top Seçme Tablosu");
@@ -31,7 +30,9 @@ frmBalls::frmBalls(Surroundings& around) : frmSelection(around, "frmBalls") {
   Label1 = control<QLabel>(u"Label1"_s);
   buildCells();
   whole->addWidget(Frame1);
-  whole->addWidget(buildFoot());
+  Label2 = control<QLabel>(u"Label2"_s, u"F10= Yardım"_s);
+  Label2->setToolTip(u"KARVENIS 2005"_s);
+  whole->addWidget(buildFoot(Label1, Label2));
   growWithLetters(*this, [this](double growth) {
     for (BallCell* cell : cmdBall) cell->grow(growth);
   });
@@ -42,10 +43,11 @@ frmBalls::frmBalls(Surroundings& around) : frmSelection(around, "frmBalls") {
 void frmBalls::buildMenus() {
   QMenu* choice = buildChoiceMenu();
   choice->addSeparator()->setObjectName(u"mnuL1"_s);
-  menuEntry(choice, "mnuHepsi", u"Hepsini Seç"_s, [this] { mnuHepsi_Click(); });
-  menuEntry(choice, "mnuHicbiri", u"Hiçbirini Seçme"_s, [this] { mnuHicbiri_Click(); });
+  addMenuEntry(choice, "mnuHepsi", u"Hepsini Seç"_s, [this] { mnuHepsi_Click(); });
+  addMenuEntry(choice, "mnuHicbiri", u"Hiçbirini Seçme"_s, [this] { mnuHicbiri_Click(); });
   QMenu* help = buildOtherMenus(choice, "mnuL2");
-  menuEntry(help, "mnuNasil", u"Bu Seçim Niçin ve Nasıl Uygulanır"_s, [this] { mnuNasil_Click(); });
+  addMenuEntry(help, "mnuNasil", u"Bu Seçim Niçin ve Nasıl Uygulanır"_s,
+               [this] { mnuNasil_Click(); });
 }
 
 void frmBalls::buildCells() {
@@ -82,21 +84,6 @@ void frmBalls::buildCell(int index) {
   setMarked(index, false);
 }
 
-QWidget* frmBalls::buildFoot() {
-  auto* holder = new QWidget(this);
-  auto* column = new QVBoxLayout(holder);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addLayout(buildCommands());
-  Label2 = control<QLabel>(u"Label2"_s, u"F10= Yardım"_s);
-  Label2->setToolTip(u"KARVENIS 2005"_s);
-  auto* foot = new QHBoxLayout;
-  foot->addWidget(Label1);
-  foot->addStretch();
-  foot->addWidget(Label2);
-  column->addLayout(foot);
-  return holder;
-}
-
 void frmBalls::Form_Activate() { showBag(around_.state, *this); }
 
 void frmBalls::ownKey(int KeyCode) {
@@ -113,7 +100,7 @@ void frmBalls::ownKey(int KeyCode) {
 }
 
 /// Whether a click marks or unmarks depends on the font, not on the tag.
-void frmBalls::cmdBall_Click(int Index) { setMarked(Index, !cmdBall[Index]->font().bold()); }
+void frmBalls::cmdBall_Click(int Index) { setMarked(Index, !cmdBall[Index]->looksMarked()); }
 
 void frmBalls::Command1_Click() { applyBag(around_, *this); }
 void frmBalls::Command3_Click() { loadBagInBagWindow(around_, *this); }

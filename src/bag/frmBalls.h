@@ -28,7 +28,6 @@ class frmBalls final : public frmSelection, private BallButtons {
   void buildMenus();
   void buildCells();
   void buildCell(int index);
-  QWidget* buildFoot();
   void step(int from, int columns, int rows);
   void takeTabStop(int index);
 

@@ -10,7 +10,7 @@
 
 #include "bag/Texts.h"
 #include "platform/qt/Letters.h"
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -18,28 +18,30 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 namespace {
 
-constexpr int boxHeight = 40;  // as designed
-constexpr int boxPixels = 20;
-constexpr int boxGap = 10;
+constexpr int fieldHeight = 40;  // as designed
+constexpr int fieldLetters = 20;
+constexpr int fieldGap = 10;
 
 }  // namespace
 
-frmBanko::frmBanko(Surroundings& around) : frmSelection(around, "frmBanko") {
+frmBanko::frmBanko(Surroundings& around) : frmSelection(around) {
   auto* whole = new QVBoxLayout(this);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   setCaption("Banko");
   buildMenus();
   whole->addWidget(buildOptions());
-  whole->addWidget(buildBoxes());
-  whole->addWidget(buildFoot());
+  whole->addWidget(buildFields());
+  Label3 = control<QLabel>(u"Label3"_s, u"KARVENIS 2005 Randomizer"_s);
+  Label4 = control<QLabel>(u"Label4"_s, u"F10= Yardım"_s);
+  whole->addWidget(buildFoot(Label3, Label4));
 }
 
 void frmBanko::buildMenus() {
   QMenu* choice = buildChoiceMenu();
-  menuEntry(choice, "mnuSil", u"Seçimi Sil"_s, [this] { mnuSil_Click(); });
+  addMenuEntry(choice, "mnuSil", u"Seçimi Sil"_s, [this] { mnuSil_Click(); });
   QMenu* help = buildOtherMenus(choice, "mnuL1");
-  menuEntry(help, "mnuBankoNedir", u"Banko Nedir ve Niçin Kullanılır"_s,
-            [this] { mnuBankoNedir_Click(); });
+  addMenuEntry(help, "mnuBankoNedir", u"Banko Nedir ve Niçin Kullanılır"_s,
+               [this] { mnuBankoNedir_Click(); });
 }
 
 QWidget* frmBanko::buildOptions() {
@@ -54,9 +56,7 @@ QWidget* frmBanko::buildOptions() {
   for (int count = 0; const auto click : clicks) {
     auto* option = control<QRadioButton>(u"Option%1"_s.arg(count + 1), QString::number(count));
     option->setAccessibleName(u"%1 banko top"_s.arg(count));
-    on(option, &QRadioButton::toggled, [this, option, click] {
-      if (option->isChecked()) (this->*click)();
-    });
+    onChosen(option, [this, click] { (this->*click)(); });
     Option[count] = option;
     row->addWidget(option);
     ++count;
@@ -65,7 +65,7 @@ QWidget* frmBanko::buildOptions() {
   return holder;
 }
 
-QWidget* frmBanko::buildBoxes() {
+QWidget* frmBanko::buildFields() {
   auto* holder = new QWidget(this);
   auto* column = new QVBoxLayout(holder);
   column->setContentsMargins(0, 0, 0, 0);
@@ -73,44 +73,27 @@ QWidget* frmBanko::buildBoxes() {
   Label2 = control<QLabel>(u"Label2"_s);
   column->addWidget(Label2);
   auto* row = new QHBoxLayout;
-  row->setSpacing(boxGap);
-  for (int index = 0; index < mostBankos; ++index) row->addWidget(buildBox(index));
+  row->setSpacing(fieldGap);
+  for (int index = 0; index < mostBankos; ++index) row->addWidget(buildField(index));
   column->addLayout(row);
   return holder;
 }
 
-/// A hidden box keeps its room, so that the window does not change its size.
-QWidget* frmBanko::buildBox(int index) {
-  auto* box = Text1[index] = control<NumberBox>(u"Text1_%1"_s.arg(index));
-  box->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
-  box->setAlignment(Qt::AlignCenter);
-  box->setFixedHeight(qRound(boxHeight * letterGrowth()));
-  box->setMinimumWidth(box->height());
-  QFont large = box->font();
-  large.setPixelSize(qRound(boxPixels * letterGrowth()));
-  box->setFont(large);
+/// A hidden field keeps its room, so that the window does not change its size.
+QWidget* frmBanko::buildField(int index) {
+  auto* field = Text1[index] = control<NumberField>(u"Text1_%1"_s.arg(index));
+  field->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
+  field->setAlignment(Qt::AlignCenter);
+  field->setFixedHeight(qRound(fieldHeight * letterGrowth()));
+  field->setMinimumWidth(field->height());
+  setLetters(*field, fieldLetters * letterGrowth());
   QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
   kept.setRetainSizeWhenHidden(true);
-  box->setSizePolicy(kept);
-  box->hide();
-  on(box, &NumberBox::textChanged, [this, index] { Text1_Change(index); });
-  onEnter(box, [this, index] { Text1_KeyPress(index); });
-  return box;
-}
-
-QWidget* frmBanko::buildFoot() {
-  auto* holder = new QWidget(this);
-  auto* column = new QVBoxLayout(holder);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addLayout(buildCommands());
-  auto* foot = new QHBoxLayout;
-  Label3 = control<QLabel>(u"Label3"_s, u"KARVENIS 2005 Randomizer"_s);
-  Label4 = control<QLabel>(u"Label4"_s, u"F10= Yardım"_s);
-  foot->addWidget(Label3);
-  foot->addStretch();
-  foot->addWidget(Label4);
-  column->addLayout(foot);
-  return holder;
+  field->setSizePolicy(kept);
+  field->hide();
+  on(field, &NumberField::textChanged, [this, index] { Text1_Change(index); });
+  onEnter(field, [this, index] { Text1_KeyPress(index); });
+  return field;
 }
 
 void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
@@ -118,16 +101,17 @@ void frmBanko::Form_Activate() { ShowBankoSelection(around_.state, *this); }
 void frmBanko::ownKey(int KeyCode) {
   if (KeyCode >= keyF4 && KeyCode <= keyF9) {
     chooseCount(KeyCode - keyF4);
-    focusFirstEmptyBox();
+    focusFirstEmptyField();
     return tellCount();
   }
   if (KeyCode == keyF11) mnuBankoNedir_Click();
 }
 
-/// Moves the focus to where the next digit belongs; if every box is filled, it stays.
-void frmBanko::focusFirstEmptyBox() {
-  const auto empty = std::ranges::find_if(
-      Text1, [](const NumberBox* box) { return box->isVisible() && box->text().isEmpty(); });
+/// Moves the focus to where the next digit belongs; if every field is filled, it stays.
+void frmBanko::focusFirstEmptyField() {
+  const auto empty = std::ranges::find_if(Text1, [](const NumberField* field) {
+    return field->isVisible() && field->text().isEmpty();
+  });
   if (empty != Text1.end()) (*empty)->setFocus();
 }
 
@@ -137,7 +121,7 @@ void frmBanko::tellCount() {
   if (!chosen->hasFocus()) around_.windows.announce(fromQt(chosen->accessibleName()));
 }
 
-void frmBanko::showBoxes(int count) {
+void frmBanko::showFields(int count) {
   Label2->setText(toQt(bankoCaption(count)));
   for (int index = 0; index < mostBankos; ++index) {
     Text1[index]->setVisible(index < count);
@@ -149,11 +133,11 @@ void frmBanko::showBoxes(int count) {
   }
 }
 
-/// Rewrites the box only if that changes it, so that the caret does not jump.
+/// Rewrites the field only if that changes it, so that the caret does not jump.
 void frmBanko::Text1_Change(int Index) {
-  NumberBox* box = Text1[Index];
-  const QString kept = toQt(bankoText(fromQt(box->text())));
-  if (kept != box->text()) box->setText(kept);
+  NumberField* field = Text1[Index];
+  const QString kept = toQt(bankoText(fromQt(field->text())));
+  if (kept != field->text()) field->setText(kept);
 }
 
 void frmBanko::Text1_KeyPress(int Index) {
@@ -188,11 +172,11 @@ void frmBanko::chooseCount(int count) { Option[count]->setChecked(true); }
 std::string frmBanko::text(int index) const { return fromQt(Text1[index]->text()); }
 
 void frmBanko::setText(int index, const std::string& text) {
-  NumberBox* box = Text1[index];
-  if (box == focusWidget()) {
-    box->write(toQt(text));
+  NumberField* field = Text1[index];
+  if (field == focusWidget()) {
+    field->write(toQt(text));
   } else {
-    box->setText(toQt(text));
+    field->setText(toQt(text));
   }
 }
 

@@ -9,7 +9,7 @@ class QRadioButton;
 
 namespace karvenis {
 
-class NumberBox;
+class NumberField;
 
 /// The banko window: how many bankos there are, and which. What is typed counts when it is applied
 /// or saved.
@@ -27,18 +27,17 @@ class frmBanko final : public frmSelection, private BankoBoxes {
  private:
   void buildMenus();
   QWidget* buildOptions();
-  QWidget* buildBoxes();
-  QWidget* buildBox(int index);
-  QWidget* buildFoot();
+  QWidget* buildFields();
+  QWidget* buildField(int index);
 
-  void Option1_Click() { showBoxes(0); }
-  void Option2_Click() { showBoxes(1); }
-  void Option3_Click() { showBoxes(2); }
-  void Option4_Click() { showBoxes(3); }
-  void Option5_Click() { showBoxes(4); }
-  void Option6_Click() { showBoxes(5); }
-  void showBoxes(int count);
-  void focusFirstEmptyBox();
+  void Option1_Click() { showFields(0); }
+  void Option2_Click() { showFields(1); }
+  void Option3_Click() { showFields(2); }
+  void Option4_Click() { showFields(3); }
+  void Option5_Click() { showFields(4); }
+  void Option6_Click() { showFields(5); }
+  void showFields(int count);
+  void focusFirstEmptyField();
   void tellCount();
   void Text1_Change(int Index);
   void Text1_KeyPress(int Index);  // Enter; no other character has a meaning
@@ -56,8 +55,8 @@ class frmBanko final : public frmSelection, private BankoBoxes {
 
   QLabel* Label1 = nullptr;                           // "Banko Top Sayısı:"
   ControlArray<QRadioButton, mostBankos + 1> Option;  // Option1..Option6: 0..5 bankos
-  QLabel* Label2 = nullptr;                           // the caption over the boxes
-  ControlArray<NumberBox, mostBankos> Text1;          // the banko numbers
+  QLabel* Label2 = nullptr;                           // the caption over the fields
+  ControlArray<NumberField, mostBankos> Text1;        // the banko numbers
   QLabel* Label3 = nullptr;                           // the credit line
   QLabel* Label4 = nullptr;                           // "F10= Yardım"
 };

@@ -20,7 +20,7 @@ constexpr int margin = 12;
 }  // namespace
 
 frmList::frmList(Surroundings& around)
-    : Form(around.windows, "frmList"), page_(makePage(this)), coupon_(around, *page_, *this) {
+    : Form(around.windows), page_(makePage(this)), coupon_(around, *page_, *this) {
   setCaption("Sekiz Rastgele Kolon");
   setPalette(page_->palette());
   auto* whole = new QVBoxLayout(this);
@@ -70,7 +70,7 @@ void frmList::Timer1_Timer() {
 }
 
 void frmList::enableTimer1(bool enabled) {
-  // To restart a running timer puts off its tick: while a key is held, it would never come.
+  // Restarting a running timer would put off its tick, for ever while a key is held.
   if (!enabled) Timer1->stop();
   if (enabled && !Timer1->isActive()) Timer1->start();
 }

@@ -1,32 +1,47 @@
 #include "bag/frmSelection.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmSelection::frmSelection(Surroundings& around, const char* name)
-    : Form(around.windows, name), around_(around) {}
+frmSelection::frmSelection(Surroundings& around) : Form(around.windows), around_(around) {}
 
 QMenu* frmSelection::buildChoiceMenu() {
-  QMenu* choice = menuHead("mnuSecim", u"Seçim"_s);
-  menuEntry(choice, "mnuUygula", u"Seçimi Uygula"_s, [this] { mnuUygula_Click(); });
+  QMenu* choice = addMenu("mnuSecim", u"Seçim"_s);
+  addMenuEntry(choice, "mnuUygula", u"Seçimi Uygula"_s, [this] { mnuUygula_Click(); });
   return choice;
 }
 
-QMenu* frmSelection::buildOtherMenus(QMenu* choice, const char* line) {
-  choice->addSeparator()->setObjectName(QLatin1String(line));
-  menuEntry(choice, "mnuKapat", u"Kapat"_s, [this] { mnuKapat_Click(); });
+QMenu* frmSelection::buildOtherMenus(QMenu* choice, const char* separator) {
+  choice->addSeparator()->setObjectName(QLatin1String(separator));
+  addMenuEntry(choice, "mnuKapat", u"Kapat"_s, [this] { mnuKapat_Click(); });
 
-  QMenu* file = menuHead("mnuDosya", u"Dosya"_s);
-  menuEntry(file, "mnuYukle", u"Dosyadan Yükle"_s, [this] { mnuYukle_Click(); });
-  menuEntry(file, "mnuKayitla", u"Dosyaya Kayıtla"_s, [this] { mnuKayitla_Click(); });
+  QMenu* file = addMenu("mnuDosya", u"Dosya"_s);
+  addMenuEntry(file, "mnuYukle", u"Dosyadan Yükle"_s, [this] { mnuYukle_Click(); });
+  addMenuEntry(file, "mnuKayitla", u"Dosyaya Kayıtla"_s, [this] { mnuKayitla_Click(); });
 
-  QMenu* help = menuHead("mnuYardim", u"Yardım"_s);
-  menuEntry(help, "mnuFunctionKeys", u"Fonksiyon Tuşları"_s, [this] { mnuFunctionKeys_Click(); });
+  QMenu* help = addMenu("mnuYardim", u"Yardım"_s);
+  addMenuEntry(help, "mnuFunctionKeys", u"Fonksiyon Tuşları"_s,
+               [this] { mnuFunctionKeys_Click(); });
   return help;
+}
+
+QWidget* frmSelection::buildFoot(QLabel* left, QLabel* right) {
+  auto* holder = new QWidget(this);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(buildCommands());
+  auto* foot = new QHBoxLayout;
+  foot->addWidget(left);
+  foot->addStretch();
+  foot->addWidget(right);
+  column->addLayout(foot);
+  return holder;
 }
 
 QLayout* frmSelection::buildCommands() {

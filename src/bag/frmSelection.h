@@ -3,6 +3,7 @@
 #include "core/Surroundings.h"
 #include "platform/qt/Form.h"
 
+class QLabel;
 class QLayout;
 class QPushButton;
 
@@ -13,7 +14,7 @@ class frmSelection : public Form {
   Q_OBJECT
 
  protected:
-  frmSelection(Surroundings& around, const char* name);
+  explicit frmSelection(Surroundings& around);
 
   void Form_KeyDown(int KeyCode, int Shift) override;
   /// A key that has a meaning of its own in this window.
@@ -21,9 +22,11 @@ class frmSelection : public Form {
 
   /// Begins the menu "Seçim".
   QMenu* buildChoiceMenu();
-  /// Ends `choice` behind a line and adds the menus "Dosya" and "Yardım"; returns the latter.
-  QMenu* buildOtherMenus(QMenu* choice, const char* line);
-  QLayout* buildCommands();
+  /// Adds a separator with the object name `separator` and "Kapat" to the menu `choice`, then makes
+  /// the menus "Dosya" and "Yardım". Returns "Yardım".
+  QMenu* buildOtherMenus(QMenu* choice, const char* separator);
+  /// Makes the window's lower part: the buttons, and below them `left` and `right`.
+  QWidget* buildFoot(QLabel* left, QLabel* right);
 
   virtual void Command1_Click() = 0;
   void Command2_Click();
@@ -41,6 +44,9 @@ class frmSelection : public Form {
   QPushButton* Command2 = nullptr;  // "Kapat": closes the window
   QPushButton* Command3 = nullptr;  // "Yükle": loads the selection from its file
   QPushButton* Command4 = nullptr;  // "Kayıtla": saves the selection
+
+ private:
+  QLayout* buildCommands();
 };
 
 }  // namespace karvenis

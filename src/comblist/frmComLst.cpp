@@ -5,10 +5,8 @@
 
 namespace karvenis {
 
-frmComLst::frmComLst(Surroundings& around)
-    : PageForm(around.windows, "frmComLst", rowsOnPage), around_(around) {
+frmComLst::frmComLst(Surroundings& around) : PageForm(around.windows), around_(around) {
   setCaption(listTitle);
-  fix(pageMargin, fitRows(surface()));
 }
 
 void frmComLst::Form_Activate() {
@@ -20,8 +18,7 @@ void frmComLst::Form_Activate() {
   redraw();
 }
 
-/// Returns whether the page is to be drawn anew.
-bool frmComLst::command(int KeyCode) {
+bool frmComLst::answerKey(int KeyCode) {
   switch (KeyCode) {
     case keyF1:
       openListing(around_);
@@ -53,9 +50,6 @@ bool frmComLst::command(int KeyCode) {
   }
 }
 
-void frmComLst::redraw() {
-  ShowPage(around_, page_, surface(), *this);
-  surface().setPage(page_.PageNo);
-}
+void frmComLst::printPage(TextSurface& surface) { ShowPage(around_, page_, surface, *this); }
 
 }  // namespace karvenis

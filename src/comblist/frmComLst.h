@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/ListPage.h"
 #include "core/Surroundings.h"
-#include "platform/qt/PageForm.h"
+#include "core/widgets/PageForm.h"
 
 namespace karvenis {
 
@@ -16,13 +15,11 @@ class frmComLst final : public PageForm {
   void Form_Activate() override;
 
  protected:
-  bool command(int KeyCode) override;
-  void nextPage() override { page_.click(); }
-  void redraw() override;
+  bool answerKey(int KeyCode) override;
+  void printPage(TextSurface& surface) override;
 
  private:
   Surroundings& around_;
-  ListPage page_;
 };
 
 }  // namespace karvenis

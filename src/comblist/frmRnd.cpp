@@ -7,7 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -20,7 +20,7 @@ constexpr int titleWidth = 350;  // with it the frame shows the whole title
 }  // namespace
 
 frmRnd::frmRnd(Surroundings& around)
-    : Form(around.windows, "frmRnd"), boxes_(around.boxes), generator_(around, *this) {
+    : Form(around.windows), boxes_(around.boxes), generator_(around, *this) {
   setCaption(generatorTitle);
   auto* whole = new QVBoxLayout(this);
   whole->setSizeConstraint(QLayout::SetFixedSize);
@@ -39,7 +39,7 @@ frmRnd::frmRnd(Surroundings& around)
 
 QLayout* frmRnd::buildCount() {
   Label1 = control<QLabel>(u"Label1"_s, u"Kolon Sayısı:"_s);
-  Text1 = control<NumberBox>(u"Text1"_s, u"32767"_s);
+  Text1 = control<NumberField>(u"Text1"_s, u"32767"_s);
   Text1->setToolTip(u"Rastgele küme oluşturmak için en çok deneme sayısı."_s);
   Label1->setBuddy(Text1);
   auto* row = new QHBoxLayout;
@@ -63,9 +63,7 @@ QLayout* frmRnd::buildOptions() {
 /// Runs `procedure` whenever the option is chosen, and also if a click chooses it again.
 void frmRnd::onOption(QRadioButton* option, void (frmRnd::*procedure)()) {
   on(option, &QRadioButton::clicked, [this, procedure] { (this->*procedure)(); });
-  on(option, &QRadioButton::toggled, [this, option, procedure] {
-    if (option->isChecked()) (this->*procedure)();
-  });
+  onChosen(option, [this, procedure] { (this->*procedure)(); });
 }
 
 QLayout* frmRnd::buildCommands() {

@@ -12,7 +12,7 @@ class QRadioButton;
 
 namespace karvenis {
 
-class NumberBox;
+class NumberField;
 
 /// The generator: writes a new combination list of random columns, or columns behind the existing
 /// ones.
@@ -38,7 +38,7 @@ class frmRnd final : public Form {
   void Command2_Click();
 
   QLabel* Label1 = nullptr;         // "Kolon Sayısı:"
-  NumberBox* Text1 = nullptr;       // how many columns to write
+  NumberField* Text1 = nullptr;     // how many columns to write
   QRadioButton* Option1 = nullptr;  // "Yeni Liste": makes a new list
   QRadioButton* Option2 = nullptr;  // "Mevcut Listeye Ekle": appends to the existing list
   QPushButton* Command1 = nullptr;  // "Oluştur": writes the columns

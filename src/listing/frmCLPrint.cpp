@@ -5,7 +5,7 @@
 #include <QPushButton>
 
 #include "core/Numbers.h"
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -13,11 +13,11 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 
 frmCLPrint::frmCLPrint(Surroundings& around)
-    : frmListing(around, "frmCLPrint", combinationListing),
+    : frmListing(around, combinationListing),
       Label1(control<QLabel>(u"Label1"_s, u"Başlangıç :"_s)),
-      Text1(control<NumberBox>(u"Text1"_s, u"1"_s)),
+      Text1(control<NumberField>(u"Text1"_s, u"1"_s)),
       Label2(control<QLabel>(u"Label2"_s, u"Bitiş :"_s)),
-      Text2(control<NumberBox>(u"Text2"_s)) {
+      Text2(control<NumberField>(u"Text2"_s)) {
   Label1->setBuddy(Text1);
   Label2->setBuddy(Text2);
   auto* grid = new QGridLayout(this);

@@ -4,7 +4,7 @@
 
 namespace karvenis {
 
-class NumberBox;
+class NumberField;
 
 /// Lists a range of the combination list.
 class frmCLPrint final : public frmListing {
@@ -21,9 +21,9 @@ class frmCLPrint final : public frmListing {
   void Command1_Click() override;
 
   QLabel* Label1;    // "Başlangıç :"
-  NumberBox* Text1;  // the first record's number
+  NumberField* Text1;  // the first record's number
   QLabel* Label2;    // "Bitiş :"
-  NumberBox* Text2;  // the last record's number
+  NumberField* Text2;  // the last record's number
 };
 
 }  // namespace karvenis

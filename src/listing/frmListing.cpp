@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-frmListing::frmListing(Surroundings& around, const char* name, const Listing& listing)
-    : Form(around.windows, name),
+frmListing::frmListing(Surroundings& around, const Listing& listing)
+    : Form(around.windows),
       around_(around),
       Label3(control<QLabel>(u"Label3"_s, u"Çıktı:"_s)),
       Option1(control<QRadioButton>(u"Option1"_s, u"Text Dosyası"_s)),
@@ -19,13 +19,8 @@ frmListing::frmListing(Surroundings& around, const char* name, const Listing& li
       Command2(command("Command2", u"Kapat", u"", [this] { Command2_Click(); })) {
   setCaption(listing.title);
   Option1->setChecked(true);
-  // Also the arrow keys choose an option.
-  on(Option1, &QRadioButton::toggled, [this] {
-    if (Option1->isChecked()) Option1_Click();
-  });
-  on(Option2, &QRadioButton::toggled, [this] {
-    if (Option2->isChecked()) Option2_Click();
-  });
+  onChosen(Option1, [this] { Option1_Click(); });
+  onChosen(Option2, [this] { Option2_Click(); });
 }
 
 void frmListing::layOut(QGridLayout* grid) {

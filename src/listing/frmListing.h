@@ -16,7 +16,7 @@ class frmListing : public Form {
   Q_OBJECT
 
  protected:
-  frmListing(Surroundings& around, const char* name, const Listing& listing);
+  frmListing(Surroundings& around, const Listing& listing);
 
   void Form_KeyDown(int KeyCode, int Shift) override;
   /// Lists what the dialog is set to.

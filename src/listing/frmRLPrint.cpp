@@ -5,8 +5,7 @@
 
 namespace karvenis {
 
-frmRLPrint::frmRLPrint(Surroundings& around)
-    : frmListing(around, "frmRLPrint", randomColumnListing) {
+frmRLPrint::frmRLPrint(Surroundings& around) : frmListing(around, randomColumnListing) {
   layOut(new QGridLayout(this));
   Command1->setFocus();
 }

@@ -14,7 +14,6 @@
 #include "main/Texts.h"
 #include "main/widgets/Picture.h"
 #include "platform/Twips.h"
-#include "platform/qt/Forms.h"
 #include "platform/qt/Text.h"
 #include "platform/qt/WindowPlace.h"
 #include "randomlist/RandomColumnFile.h"
@@ -33,7 +32,7 @@ void frmLoto::Form_Load() {
 void frmLoto::Form_Activate() { around_.chance.seedFrom(around_.clock); }
 
 void frmLoto::Form_KeyDown(int KeyCode, int Shift) {
-  if (Shift != 0 || KeyCode < keyF1 || KeyCode > keyF12) return;
+  if (Shift != 0 || !isFunctionKey(KeyCode)) return;
   entries_[KeyCode - keyF1]->trigger();
 }
 

@@ -42,13 +42,13 @@ class frmLoto final : public Form, private BallStage {
 
  private:
   void buildMenus();
-  void keyEntry(int number, QMenu* head, const char* entry, QStringView text,
+  void keyEntry(int number, QMenu* menu, const char* entry, QStringView text,
                 std::function<void()> procedure);
-  void buildBanner();
-  void buildStage();
+  QWidget* buildBanner();
+  QLayout* buildStage();
   void buildBall(int k);
   QLabel* buildLabel(int index, unsigned colour);
-  void buildPanel();
+  QLayout* buildPanel();
   QWidget* buildChoices();
   QWidget* buildClock();
   void buildTimers();

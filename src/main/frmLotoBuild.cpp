@@ -11,11 +11,10 @@
 #include "main/frmLoto.h"
 #include "main/widgets/Picture.h"
 #include "platform/Twips.h"
-#include "platform/qt/Forms.h"
 #include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Style.h"
-#include "ready/Sizes.h"
+#include "prerendered/Sizes.h"
 
 // How the main window is built and painted. Lengths are device independent pixels.
 
@@ -25,7 +24,7 @@ namespace karvenis {
 namespace {
 
 constexpr QSize windowArt(760, 560);
-constexpr QSize stageSize = ready::opening;
+constexpr QSize stageSize = prerendered::opening;
 constexpr QSize ballSize(112, 112);
 constexpr QSize plateSize(76, 36);
 constexpr int margin = 16;
@@ -34,9 +33,10 @@ constexpr int restTop = 84;
 constexpr int plateTop = 210;
 constexpr int ballNumber = 30;    // letters on the balls
 constexpr int plateNumber = 20;   // and on the plates below them
-constexpr double ballRoom = 1.1;  // the factor by which they may grow and still fit
-constexpr double plateRoom = 1.2;
-constexpr double wordRoom = 1.5;
+// Letters may grow by this factor more than their pictures and still fit:
+constexpr double ballRoom = 1.1;   // on a ball
+constexpr double plateRoom = 1.2;  // on a plate
+constexpr double wordRoom = 1.5;   // in the panel
 constexpr int tickOfBalls = 20;   // milliseconds
 constexpr int tickOfClock = 100;  // milliseconds
 
@@ -53,12 +53,6 @@ QRect restOf(int k) {
 /// Where the number below ball `k` stands.
 QRect plateOf(int k) {
   return {QPoint(restOf(k).center().x() - plateSize.width() / 2, plateTop), plateSize};
-}
-
-void setLetters(QWidget* widget, double pixels) {
-  QFont letters = widget->font();
-  letters.setPixelSize(qRound(pixels));
-  widget->setFont(letters);
 }
 
 /// A picture of a ball, and how far from the ball's rest it is drawn.
@@ -92,15 +86,15 @@ QLabel* boldened(QLabel* label, unsigned colour) {
 }  // namespace
 
 frmLoto::frmLoto(Surroundings& around)
-    : Form(around.windows, "frmLoto"), around_(around), animation_(*this, around.state.Drawn) {
+    : Form(around.windows), around_(around), animation_(*this, around.state.Drawn) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, margin);
   whole->setSpacing(margin - 4);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   buildMenus();
-  buildBanner();
-  buildStage();
-  buildPanel();
+  whole->addWidget(buildBanner());
+  whole->addLayout(buildStage());
+  whole->addLayout(buildPanel());
   buildTimers();
   Picture2 = new Picture(artwork_, u"window.svg"_s, {}, this);
   Picture2->setObjectName(u"Picture2"_s);
@@ -111,7 +105,7 @@ frmLoto::frmLoto(Surroundings& around)
 }
 
 void frmLoto::buildMenus() {
-  QMenu* file = menuHead("mnuDosya", u"Dosya"_s);
+  QMenu* file = addMenu("mnuDosya", u"Dosya"_s);
   keyEntry(1, file, "mnuSaveRndColumn", u"Kolunu KARVENIS.RND dosyasına kayıtla (F1)",
            [this] { mnuSaveRndColumn_Click(); });
   keyEntry(2, file, "mnuShowRndList", u"KARVENIS.RND dosyasını göster (F2)",
@@ -121,17 +115,17 @@ void frmLoto::buildMenus() {
   keyEntry(4, file, "mnuDeleteRndFile", u"KARVENIS.RND dosyasını sil (F4)",
            [this] { mnuDeleteRndFile_Click(); });
 
-  QMenu* bag = menuHead("mnuBag", u"Torba"_s);
+  QMenu* bag = addMenu("mnuBag", u"Torba"_s);
   keyEntry(5, bag, "mnuShowBag", u"Torbayı Göster (F5)", [this] { mnuShowBag_Click(); });
   keyEntry(6, bag, "mnuLoadBag", u"Torbayı KARVENIS.DAT dosyasından yükle (F6)",
            [this] { mnuLoadBag_Click(); });
 
-  QMenu* banko = menuHead("mnuBanko", u"Banko"_s);
+  QMenu* banko = addMenu("mnuBanko", u"Banko"_s);
   keyEntry(7, banko, "mnuShowBanko", u"Bankoyu Göster (F7)", [this] { mnuShowBanko_Click(); });
   keyEntry(8, banko, "mnuLoadBanko", u"Bankoyu KARVENIS.DAT dosyasından yükle (F8)",
            [this] { mnuLoadBanko_Click(); });
 
-  QMenu* list = menuHead("mnuListe", u"Liste"_s);
+  QMenu* list = addMenu("mnuListe", u"Liste"_s);
   keyEntry(9, list, "mnuShow8Columns", u"8 rastgele kolon listele (F9)",
            [this] { mnuShow8Columns_Click(); });
   keyEntry(11, list, "mnuCreateRndCList", u"Yeni kombinasyon listesi oluştur (F11)",
@@ -139,25 +133,25 @@ void frmLoto::buildMenus() {
   keyEntry(12, list, "mnuShowClist", u"Kombinasyon listesini göster (F12)",
            [this] { mnuShowClist_Click(); });
 
-  QMenu* help = menuHead("mnuHelp", u"Yardım"_s);
+  QMenu* help = addMenu("mnuHelp", u"Yardım"_s);
   keyEntry(10, help, "mnuFKeys", u"Fonksiyon tuşları (F10)", [this] { mnuFKeys_Click(); });
-  menuEntry(help, "mnuAbout", u"Program hakkında"_s, [this] { mnuAbout_Click(); });
+  addMenuEntry(help, "mnuAbout", u"Program hakkında"_s, [this] { mnuAbout_Click(); });
 }
 
 /// Adds a menu entry that the function key `number` triggers too.
-void frmLoto::keyEntry(int number, QMenu* head, const char* entry, QStringView text,
+void frmLoto::keyEntry(int number, QMenu* menu, const char* entry, QStringView text,
                        std::function<void()> procedure) {
-  entries_[number - 1] = menuEntry(head, entry, text.toString(), std::move(procedure));
+  entries_[number - 1] = addMenuEntry(menu, entry, text.toString(), std::move(procedure));
 }
 
-void frmLoto::buildBanner() {
+QWidget* frmLoto::buildBanner() {
   strip_ = new QWidget(this);
   markAsBackground(strip_);
   Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, strip_);
   Picture3->setObjectName(u"Picture3"_s);
   Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, strip_);
   Picture4->setObjectName(u"Picture4"_s);
-  layout()->addWidget(strip_);
+  return strip_;
 }
 
 void frmLoto::placeBanner() {
@@ -166,7 +160,7 @@ void frmLoto::placeBanner() {
   Picture4->move(left, Picture3->height());
 }
 
-void frmLoto::buildStage() {
+QLayout* frmLoto::buildStage() {
   stage_ = new QWidget(this);
   markAsBackground(stage_);
   for (int k = 1; k <= ballsInColumn; ++k) buildBall(k);
@@ -178,7 +172,7 @@ void frmLoto::buildStage() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(margin, 0, margin, 0);
   row->addWidget(stage_);
-  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+  return row;
 }
 
 void frmLoto::buildBall(int k) {
@@ -212,7 +206,7 @@ void frmLoto::nameLabel(int index) {
   number->setAccessibleName(kind.arg(index / 2 + 1).arg(value));
 }
 
-void frmLoto::buildPanel() {
+QLayout* frmLoto::buildPanel() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(margin, 0, margin, 0);
   row->setSpacing(margin);
@@ -224,7 +218,7 @@ void frmLoto::buildPanel() {
   row->addWidget(buildClock());
   Command2 = command("Command2", u"Çıkış", u"Kapat", [this] { Command2_Click(); });
   row->addWidget(Command2, 0, Qt::AlignBottom);
-  static_cast<QVBoxLayout*>(layout())->addLayout(row);
+  return row;
 }
 
 QWidget* frmLoto::buildChoices() {
@@ -288,18 +282,18 @@ void frmLoto::buildTimers() {
 /// Sizes and places the pictures and what stands on them, and the words that grow with the letters.
 void frmLoto::grow(double growth) {
   growth_ = growth;
-  Picture3->resize(ready::banner * growth);
-  Picture4->resize(ready::companion * growth);
+  Picture3->resize(prerendered::banner * growth);
+  Picture4->resize(prerendered::companion * growth);
   strip_->setFixedHeight(Picture3->height() + Picture4->height());
   placeBanner();
   stage_->setFixedSize(stageSize * growth);
   Picture0->resize(stage_->size());
   for (int k = 1; k <= ballsInColumn; ++k) placeBall(k);
-  Picture1->setFixedSize(ready::emblem * growth);
+  Picture1->setFixedSize(prerendered::emblem * growth);
   const double words = std::min(letterGrowth(), wordRoom * growth);
-  setLetters(Command1, 24 * words);
-  setLetters(Label2, 14 * words);
-  setLetters(Label3, 20 * words);
+  setLetters(*Command1, 24 * words);
+  setLetters(*Label2, 14 * words);
+  setLetters(*Label3, 20 * words);
   Label3->setMinimumWidth(qRound(100 * words));
 }
 
@@ -309,10 +303,10 @@ void frmLoto::placeBall(int k) {
   }
   QLabel* number = Label1[mainLabel(k)];
   number->setGeometry(scaled(restOf(k).adjusted(0, 0, 0, -7), growth_));
-  setLetters(number, ballNumber * std::min(letterGrowth(), ballRoom * growth_));
+  setLetters(*number, ballNumber * std::min(letterGrowth(), ballRoom * growth_));
   QLabel* copy = Label1[copyLabel(k)];
   copy->setGeometry(scaled(plateOf(k), growth_));
-  setLetters(copy, plateNumber * std::min(letterGrowth(), plateRoom * growth_));
+  setLetters(*copy, plateNumber * std::min(letterGrowth(), plateRoom * growth_));
 }
 
 /// Makes the picture of Picture2 the background of the window.

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 
 #include "core/Numbers.h"
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 namespace karvenis {
 
 frmRndDel::frmRndDel(Surroundings& around)
-    : Form(around.windows, "frmRndDel"),
+    : Form(around.windows),
       deletion_(around),
       Label1(control<QLabel>(u"Label1"_s, u"Silmek istediğiniz kolon numarasını girin."_s)),
-      Text1(control<NumberBox>(u"Text1"_s)),
+      Text1(control<NumberField>(u"Text1"_s)),
       Command1(command("Command1", u"Tamam", u"", [this] { Command1_Click(); })),
       Command2(command("Command2", u"İptal", u"", [this] { Command2_Click(); })) {
   setCaption(" Kolon Silme");

@@ -9,7 +9,7 @@ class QPushButton;
 
 namespace karvenis {
 
-class NumberBox;
+class NumberField;
 
 /// The dialog that deletes one random column by its number. The list behind it stays usable, so
 /// that the user can look the number up.
@@ -33,7 +33,7 @@ class frmRndDel final : public Form {
   ColumnDeletion deletion_;
 
   QLabel* Label1;         // "Silmek istediğiniz kolon numarasını girin."
-  NumberBox* Text1;       // the column's number
+  NumberField* Text1;     // the column's number
   QPushButton* Command1;  // "Tamam": deletes the column and closes
   QPushButton* Command2;  // "İptal": closes
 };

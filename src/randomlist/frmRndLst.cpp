@@ -5,16 +5,14 @@
 
 namespace karvenis {
 
-frmRndLst::frmRndLst(Surroundings& around)
-    : PageForm(around.windows, "frmRndLst", rowsOnPage), around_(around) {
+frmRndLst::frmRndLst(Surroundings& around) : PageForm(around.windows), around_(around) {
   setCaption(" RASTGELE KOLON LİSTESİ   [ F10= YARDIM ]");
-  fix(pageMargin, fitRows(surface()));
 }
 
 void frmRndLst::Form_Activate() { showFirstPage(); }
 void frmRndLst::Form_Resize() { showFirstPage(); }
 
-bool frmRndLst::command(int KeyCode) {
+bool frmRndLst::answerKey(int KeyCode) {
   runCommand(KeyCode);
   return true;
 }
@@ -44,9 +42,6 @@ void frmRndLst::showFirstPage() {
   redraw();
 }
 
-void frmRndLst::redraw() {
-  ShowRndPage(around_, page_, surface(), *this);
-  surface().setPage(page_.PageNo);
-}
+void frmRndLst::printPage(TextSurface& surface) { ShowRndPage(around_, page_, surface, *this); }
 
 }  // namespace karvenis

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/ListPage.h"
 #include "core/Surroundings.h"
-#include "platform/qt/PageForm.h"
+#include "core/widgets/PageForm.h"
 
 namespace karvenis {
 
@@ -17,16 +16,14 @@ class frmRndLst final : public PageForm {
 
  protected:
   void Form_Resize() override;
-  bool command(int KeyCode) override;
-  void nextPage() override { page_.click(); }
-  void redraw() override;
+  bool answerKey(int KeyCode) override;
+  void printPage(TextSurface& surface) override;
 
  private:
   void runCommand(int KeyCode);
   void showFirstPage();
 
   Surroundings& around_;
-  ListPage page_;
 };
 
 }  // namespace karvenis

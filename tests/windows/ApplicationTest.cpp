@@ -174,14 +174,14 @@ TEST_F(ApplicationTest, AKeyRightBehindOneThatOpensABoxIsTheBoxs) {
 // before the procedure that had asked went on.
 TEST_F(ApplicationTest, KeysBehindAnAnswerWaitForTheProcedureThatAsked) {
   main->run([&] {
-    forms.boxOpens();
+    EXPECT_EQ(forms.boxOpens(), main);
     EXPECT_TRUE(whileBoxIsOpen(main, [&](QMessageBox&) {
       pressSoon(main, Qt::Key_Return);
       pressSoon(main, Qt::Key_Return);
       pressSoon(main, Qt::Key_F7);
     }));
     EXPECT_EQ(forms.find("frmBanko"), nullptr);
-    forms.boxOpens();
+    EXPECT_EQ(forms.boxOpens(), main);
     EXPECT_TRUE(whileBoxIsOpen(main, [](QMessageBox&) {})) << "the next box has the next key";
     EXPECT_EQ(forms.find("frmBanko"), nullptr);
   });

@@ -66,8 +66,7 @@ class DamagedWindows : public testing::Test {
   }
   void press(Form* form, Qt::Key key) {
     QTest::keyClick(form->windowHandle(), key);
-    EXPECT_TRUE(
-        QTest::qWaitFor([] { return !Application::instance()->isDroppingInput(); }, 60'000));
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Application::instance().isDroppingInput(); }, 60'000));
   }
   /// Looks at the files through every window that is there for it.
   void look() {
@@ -93,7 +92,7 @@ class DamagedWindows : public testing::Test {
       ASSERT_NE(control, nullptr) << name;
       control->click();
       EXPECT_TRUE(
-          QTest::qWaitFor([] { return !Application::instance()->isDroppingInput(); }, 60'000));
+          QTest::qWaitFor([] { return !Application::instance().isDroppingInput(); }, 60'000));
     }
   }
   void surviveLooking(const Folder& content) {

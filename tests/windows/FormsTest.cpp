@@ -13,7 +13,7 @@ namespace {
 /// A window that notes what happens to it.
 class Noting : public Form {
  public:
-  Noting(Forms& all, const char* name, std::vector<std::string>& log) : Form(all, name), log_(log) {
+  Noting(Forms& all, std::vector<std::string>& log) : Form(all), log_(log) {
     resize(200, 120);
     Text1 = control<QLineEdit>(QStringLiteral("Text1"));
     Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Tamam"));
@@ -56,7 +56,7 @@ class FormsTest : public WindowTest {
   Log log;
   void SetUp() override {
     for (const char* name : {"frmA", "frmB", "frmC"}) {
-      forms.add(name, [this, name] { return new Noting(forms, name, log); });
+      forms.add(name, [this] { return new Noting(forms, log); });
     }
   }
   Noting* show(const char* name) { return static_cast<Noting*>(open(name)); }
@@ -388,7 +388,7 @@ TEST_F(FormsTest, AHeldEscIsOneEsc) {
 
 TEST_F(FormsTest, AFaultWhileAWindowLoadsShowsNoWindowAndIsTheStatus) {
   struct Broken : Form {
-    explicit Broken(Forms& all) : Form(all, "frmBroken") {}
+    explicit Broken(Forms& all) : Form(all) {}
     void Form_Load() override { throw RunTimeError(Fault::open, "KV2005.CFG", "Erişim izni yok."); }
   };
   Forms own{world.boxes};
@@ -477,7 +477,7 @@ TEST_F(FormsTest, KeysThatCameDuringALongActionAreDropped) {
   taken();
   press(a, Qt::Key_F1);
   EXPECT_TRUE(taken().empty());
-  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
+  EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
   press(a, Qt::Key_F1);
   EXPECT_EQ(taken().size(), 1U);
 }

@@ -40,7 +40,7 @@ class MainWindow : public WindowTest {
   /// Another window of the program.
   class Another final : public Form {
    public:
-    explicit Another(Surroundings& around) : Form(around.windows, "another") {}
+    explicit Another(Surroundings& around) : Form(around.windows) {}
   };
 
   Form* loto = nullptr;

@@ -22,31 +22,31 @@ class FrmBanko : public WindowTest {
   }
   void start() { banko = open("frmBanko"); }
 
-  QLineEdit* box(int index) const {
+  QLineEdit* field(int index) const {
     return control<QLineEdit>(banko, QStringLiteral("Text1_%1").arg(index));
   }
   QRadioButton* option(int count) const {
     return control<QRadioButton>(banko, QStringLiteral("Option%1").arg(count + 1));
   }
-  /// The chosen number of bankos; -1 if none is chosen. The boxes and their caption must go with
+  /// The chosen number of bankos; -1 if none is chosen. The fields and their caption must go with
   /// it.
   int chosen() const {
     int found = -1;
     for (int count = 0; count <= 5; ++count) {
       if (option(count)->isChecked()) found = count;
     }
-    for (int index = 0; index < 5; ++index) EXPECT_EQ(box(index)->isVisible(), index < found);
+    for (int index = 0; index < 5; ++index) EXPECT_EQ(field(index)->isVisible(), index < found);
     const char* const captions[] = {"", "", "Banko Top:", "Banko Toplar:"};
     EXPECT_EQ(control<QLabel>(banko, "Label2")->text(), captions[std::min(found, 2) + 1]);
     return found;
   }
   QStringList texts() const {
     QStringList all;
-    for (int index = 0; index < 5; ++index) all.append(box(index)->text());
+    for (int index = 0; index < 5; ++index) all.append(field(index)->text());
     return all;
   }
   void typeInto(int index, const QString& text) {
-    click(box(index));
+    click(field(index));
     type(banko, text);
   }
   QString focused() const { return banko->focusWidget()->objectName(); }
@@ -114,12 +114,12 @@ TEST_F(FrmBanko, TheFocusGoesWithTheChoiceUnlessItIsElsewhere) {
   EXPECT_EQ(focused(), "Option3");
   option(4)->setChecked(true);
   EXPECT_EQ(focused(), "Option5");
-  click(box(1));
+  click(field(1));
   option(2)->setChecked(true);
   EXPECT_EQ(focused(), "Text1_1");
 }
 
-TEST_F(FrmBanko, AKeyThatChoosesTheCountLeadsToTheFirstEmptyBox) {
+TEST_F(FrmBanko, AKeyThatChoosesTheCountLeadsToTheFirstEmptyField) {
   setBanko(world.state, {30, 7});
   start();
   press(banko, Qt::Key_F8);
@@ -136,9 +136,9 @@ TEST_F(FrmBanko, AKeyThatChoosesTheCountLeavesTheFocusWhereNoBoxIsEmpty) {
   press(banko, Qt::Key_F5);
   EXPECT_EQ(focused(), "Option2");
   press(banko, Qt::Key_F4);
-  EXPECT_EQ(focused(), "Option1") << "no box is to be seen";
+  EXPECT_EQ(focused(), "Option1") << "no field is to be seen";
   press(banko, Qt::Key_F6);
-  click(box(1));
+  click(field(1));
   press(banko, Qt::Key_F6);
   EXPECT_EQ(focused(), "Text1_1");
 }
@@ -170,9 +170,9 @@ TEST_F(FrmBanko, TypingIsFiltered) {
       {"49", "49"}, {"50", ""},  {"0", ""},    {"07", "7"}, {"7x", "7"},  {"abc", ""},
       {"-5", "5"},  {" 7", "7"}, {"12.7", ""}, {"123", ""}, {"1234", "4"}};
   for (const auto& [typed, left] : rows) {
-    box(0)->clear();
+    field(0)->clear();
     typeInto(0, typed);
-    EXPECT_EQ(box(0)->text(), left) << typed;
+    EXPECT_EQ(field(0)->text(), left) << typed;
   }
 }
 
@@ -182,10 +182,10 @@ TEST_F(FrmBanko, PastedTextIsFiltered) {
   const std::vector<std::pair<const char*, const char*>> rows = {
       {"12.7", "12"}, {" 7", ""}, {"-5", ""}, {"99999999999", ""}, {"٧", ""}, {"9 10", "9"}};
   for (const auto& [pasted, left] : rows) {
-    box(0)->clear();
-    click(box(0));
-    box(0)->insert(pasted);
-    EXPECT_EQ(box(0)->text(), left) << pasted;
+    field(0)->clear();
+    click(field(0));
+    field(0)->insert(pasted);
+    EXPECT_EQ(field(0)->text(), left) << pasted;
   }
 }
 
@@ -195,8 +195,8 @@ TEST_F(FrmBanko, TheCaretStaysWhereTheTextStays) {
   typeInto(0, "9");
   press(banko, Qt::Key_Home);
   type(banko, "4");
-  EXPECT_EQ(box(0)->text(), "49");
-  EXPECT_EQ(box(0)->cursorPosition(), 1);
+  EXPECT_EQ(field(0)->text(), "49");
+  EXPECT_EQ(field(0)->cursorPosition(), 1);
 }
 
 TEST_F(FrmBanko, EnterWalksTheVisibleBoxesThenTheButton) {
@@ -305,7 +305,7 @@ TEST_F(FrmBanko, AppliesByMenu) {
   EXPECT_EQ(bankoOf(world.state), Set{7});
 }
 
-TEST_F(FrmBanko, ABankoThatIsNoBallShowsAnEmptyBox) {
+TEST_F(FrmBanko, ABankoThatIsNoBallShowsAnEmptyField) {
   setBanko(world.state, {77, 7});
   start();
   EXPECT_EQ(chosen(), 2);
@@ -329,7 +329,7 @@ TEST_F(FrmBanko, AnotherWindowOfTheProgramRedrawsTheBankos) {
   setBanko(world.state, {7});
   start();
   press(banko, Qt::Key_F6);
-  box(0)->clear();
+  field(0)->clear();
   typeInto(0, "9");
   typeInto(1, "8");
   open("frmBalls");

@@ -40,7 +40,7 @@ constexpr FilterKey filterKeys[] = {
 /// The window that the list is opened from.
 class Opener final : public Form {
  public:
-  explicit Opener(Surroundings& around) : Form(around.windows, "opener") {}
+  explicit Opener(Surroundings& around) : Form(around.windows) {}
   void Form_Activate() override { ++activations; }
   int activations = 0;
 };
@@ -238,7 +238,7 @@ TEST_F(FrmComLst, EachFilterKeyRunsItsFilterAndShowsTheSecondColumn) {
     expectFilter(filterKeys[i].prompt, filterKeys[i].example, filterKeys[i].typed);
     world.boxes.expectQuestion(filterKeys[i].question, true);
     press(list, filterKeys[i].key);
-    EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
+    EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
     EXPECT_EQ(records(), left[i]);
     EXPECT_TRUE(showsFrom(2, std::min<std::size_t>(left[i] - 1, 25)));
     EXPECT_TRUE(list->caption().starts_with(" Kombinasyon Listesi - Sayfa "));
@@ -281,7 +281,7 @@ TEST_F(FrmComLst, KeysThatCameDuringAFilterAreNoCommandsAfterIt) {
                              true);
   world.boxes.whileOpen = [&] { pressSoon(list, Qt::Key_F4); };
   press(list, Qt::Key_F5);
-  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
+  EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
   EXPECT_TRUE(showsFrom(2, 25)) << "nothing asked whether to delete the list";
 }
 

@@ -38,7 +38,7 @@ class Listings : public WindowTest {
   QLineEdit* text(const char* name) { return control<QLineEdit>(dialog, QLatin1String(name)); }
   void pressCommand() {
     click(control(dialog, "Command1"));
-    EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
+    EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
   }
   void expectWritten(const char* question, const char* title) {
     world.boxes.expectBeep()

@@ -430,7 +430,7 @@ class PaintedNames final : public QObject {
 
 // A drawing that stands in the program as pixels, and is shown at another size, would be rendered
 // at the start for nothing; so would the balls behind the opening picture.
-TEST_F(FrmLoto, PaintsReadyMadeDrawingsAloneAtTheStart) {
+TEST_F(FrmLoto, PaintsPrerenderedDrawingsAloneAtTheStart) {
   PaintedNames painted;
   for (auto* picture : loto->findChildren<Picture*>()) picture->installEventFilter(&painted);
   loto->repaint();
@@ -445,10 +445,10 @@ TEST_F(FrmLoto, PaintsReadyMadeDrawingsAloneAtTheStart) {
   const auto* opening = control<PictureButton>(loto, "Picture0");
   note(opening->file(), opening->size());
   for (const QSize& size : QApplication::windowIcon().availableSizes()) note("karvenis.svg", size);
-  std::set<std::string> ready;
-  for (const QString& file : QDir(":/ready").entryList()) ready.insert(fromQt(file));
-  EXPECT_FALSE(ready.empty());
-  EXPECT_EQ(shown, ready);
+  std::set<std::string> prerendered;
+  for (const QString& file : QDir(":/prerendered").entryList()) prerendered.insert(fromQt(file));
+  EXPECT_FALSE(prerendered.empty());
+  EXPECT_EQ(shown, prerendered);
 }
 
 TEST_F(FrmLoto, MenuCaptionsAreTheProgramsOwn) {

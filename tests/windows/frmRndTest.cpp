@@ -42,7 +42,7 @@ class FrmRnd : public WindowTest {
   /// The window that the generator is opened from.
   class Opener final : public Form {
    public:
-    explicit Opener(Surroundings& around) : Form(around.windows, "opener") {}
+    explicit Opener(Surroundings& around) : Form(around.windows) {}
     void Form_Activate() override { ++activations; }
     void Form_KeyDown(int, int) override { ++keys; }
     int activations = 0;
@@ -229,8 +229,8 @@ TEST_F(FrmRnd, KeysThatCameDuringTheRunAreNoCommandsAfterIt) {
   world.boxes.whileOpen = [&] { pressSoon(forms.find("opener"), Qt::Key_F1); };
   world.boxes.expectBeep().expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   press(form, Qt::Key_F1);
-  EXPECT_TRUE(Application::instance()->isDroppingInput());
-  EXPECT_TRUE(waitFor([] { return !Application::instance()->isDroppingInput(); }));
+  EXPECT_TRUE(Application::instance().isDroppingInput());
+  EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
   EXPECT_EQ(opener()->keys, 0);
   press(opener(), Qt::Key_F1);
   EXPECT_EQ(opener()->keys, 1);

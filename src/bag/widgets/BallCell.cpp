@@ -3,7 +3,9 @@
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
+#include <mutex>
 
+#include "platform/qt/Letters.h"
 #include "platform/qt/Look.h"
 
 namespace karvenis {
@@ -22,7 +24,7 @@ class BallCellAccessible final : public QAccessibleWidget {
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
     state.checkable = true;
-    state.checked = cell_->isMarked();
+    state.checked = cell_->looksMarked();
     return state;
   }
   QStringList actionNames() const override { return {toggleAction(), setFocusAction()}; }
@@ -44,17 +46,15 @@ QAccessibleInterface* makeAccessible(const QString& className, QObject* object) 
 
 /// The caption is set last: with it assistive technology learns of the cell, and asks what it is.
 BallCell::BallCell(const QString& caption, QWidget* parent) : QPushButton(parent) {
-  static const bool known = (QAccessible::installFactory(makeAccessible), true);
-  static_cast<void>(known);
+  static std::once_flag done;
+  std::call_once(done, [] { QAccessible::installFactory(makeAccessible); });
   setText(caption);
   grow(1);
 }
 
 void BallCell::grow(double growth) {
   growth_ = growth;
-  QFont number = font();
-  number.setPixelSize(qRound(textPixels * growth));
-  setFont(number);
+  setLetters(*this, textPixels * growth);
   setFixedSize(cellSize * growth);
 }
 
@@ -67,8 +67,8 @@ void BallCell::changeEvent(QEvent* event) {
 }
 
 void BallCell::reportMark() {
-  if (reportedMark_ == isMarked()) return;
-  reportedMark_ = isMarked();
+  if (reportedMark_ == looksMarked()) return;
+  reportedMark_ = looksMarked();
   QAccessible::State changed;
   changed.checked = true;
   QAccessibleStateChangeEvent event(this, changed);
@@ -79,7 +79,7 @@ void BallCell::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const QRectF cell = QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5);
-  const bool marked = isMarked();
+  const bool marked = looksMarked();
   QColor ground = palette().color(QPalette::Button);
   if (isDown()) {
     ground = ground.darker(115);

@@ -4,15 +4,16 @@
 
 namespace karvenis {
 
-/// The button of one ball in the bag window. It is marked if its font is bold, and is then drawn
-/// bold, ringed and on bright white.
+/// The button of one ball in the bag window. If it looks marked, it is drawn bold, ringed and on
+/// bright white.
 class BallCell final : public QPushButton {
   Q_OBJECT
 
  public:
   BallCell(const QString& caption, QWidget* parent);
 
-  bool isMarked() const { return font().bold(); }
+  /// Whether the cell shows a mark: its font is bold.
+  [[nodiscard]] bool looksMarked() const { return font().bold(); }
   QSize sizeHint() const override { return size(); }
   /// Makes the cell `growth` times as large as it was designed, 1 at first.
   void grow(double growth);

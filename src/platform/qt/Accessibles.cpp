@@ -3,9 +3,10 @@
 #include <QAccessibleWidget>
 #include <QFrame>
 #include <QLineEdit>
+#include <mutex>
 
 #include "platform/qt/Announcer.h"
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 #include "platform/qt/Surface.h"
 #include "platform/qt/SurfaceAccessible.h"
 #include "platform/qt/TypedTextAccessible.h"
@@ -32,22 +33,22 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
   return nullptr;
 }
 
-const QObject* focused = nullptr;  // the focus that was reported last; only compared
+const QObject* reportedFocus = nullptr;  // only compared, since it may be gone
 
-/// Whether assistive technology hears of `event`. It hears of the caret and the selection in a box
-/// only while the box has the focus and that has been reported: a screen reader that hears of them
-/// earlier does not name the box, and a selection that ends when the focus leaves is no news. A
-/// number that the program writes is announced by the program itself.
+/// Whether assistive technology hears of `event`. It hears of the caret and the selection in a
+/// field only while the field has the focus and that has been reported: a screen reader that hears
+/// of them earlier does not name the field, and a selection that ends when the focus leaves is no
+/// news. A number that the program writes is announced by the program itself.
 bool isToBeReported(const QAccessibleEvent& event) {
   switch (event.type()) {
     case QAccessible::Focus:
-      focused = event.object();
+      reportedFocus = event.object();
       return true;
     case QAccessible::TextCaretMoved:
     case QAccessible::TextSelectionChanged: {
-      const auto* box = qobject_cast<QWidget*>(event.object());
-      const auto* number = qobject_cast<const NumberBox*>(box);
-      return box != nullptr && box == focused && box->hasFocus() &&
+      const auto* field = qobject_cast<QWidget*>(event.object());
+      const auto* number = qobject_cast<const NumberField*>(field);
+      return field != nullptr && field == reportedFocus && field->hasFocus() &&
              (number == nullptr || !number->isBeingWritten());
     }
     default:
@@ -55,6 +56,8 @@ bool isToBeReported(const QAccessibleEvent& event) {
   }
 }
 
+/// The toolkit calls this handler instead of reporting the event, so it is taken out while the
+/// event goes the toolkit's usual way.
 void report(QAccessibleEvent* event) {
   if (!isToBeReported(*event)) return;
   QAccessible::installUpdateHandler(nullptr);
@@ -65,9 +68,11 @@ void report(QAccessibleEvent* event) {
 }  // namespace
 
 void installAccessibles() {
-  static const bool installed =
-      (QAccessible::installFactory(make), QAccessible::installUpdateHandler(report), true);
-  static_cast<void>(installed);
+  static std::once_flag done;
+  std::call_once(done, [] {
+    QAccessible::installFactory(make);
+    QAccessible::installUpdateHandler(report);
+  });
 }
 
 }  // namespace karvenis

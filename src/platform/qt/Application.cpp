@@ -50,7 +50,8 @@ Application::Application(int& count, char** words)
 
 Application::~Application() = default;
 
-/// Input comes from the desktop to the native windows.
+/// Takes the keys and the presses and releases of the mouse that the desktop sends to native
+/// windows (spontaneous events) before any window sees them. All other events pass.
 bool Application::notify(QObject* receiver, QEvent* event) {
   // Assistive technology sees every event. It need not see that a closed box is no longer active:
   // if it is busy with a key at that moment, it takes the next window for one that it has read
@@ -85,19 +86,20 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 /// Sends the key to the application itself and not to a window: assistive technology may stop a key
 /// on its way and send it on later to the same receiver, and a window may be closed by then.
 bool Application::takeKey(QKeyEvent& key) {
-  const bool repeats = isRepeat(key);
-  if (dropping_) return true;
-  if (!repeats) {
-    if (key.type() == QEvent::KeyPress) Q_EMIT keyPressed();
-    return QApplication::notify(this, &key);
+  if (key.type() == QEvent::KeyRelease) {
+    releasedKey_ = key.key();
+    releasedAt_ = key.timestamp();
   }
-  Repeat repeat(key);
-  return QApplication::notify(this, &repeat);
+  if (dropping_) return true;
+  if (isRepeat(key)) {
+    Repeat repeat(key);
+    return QApplication::notify(this, &repeat);
+  }
+  if (key.type() == QEvent::KeyPress) Q_EMIT keyPressed();
+  return QApplication::notify(this, &key);
 }
 
-/// Every key comes by here in its turn, itself or the copy of it. The toolkit's own way to end
-/// would close window after window, a box before the one behind it, and stop at the first that
-/// refuses.
+/// Every key comes by here in its turn, itself or the copy of it.
 bool Application::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -110,6 +112,8 @@ bool Application::event(QEvent* event) {
       }
       return true;
     case QEvent::Quit:
+      // The toolkit's own way to end would close window after window, a box before the one behind
+      // it, and stop at the first that refuses.
       Q_EMIT ending();
       exit(0);
       return true;
@@ -172,17 +176,14 @@ QWindow* Application::keyWindow() const {
 /// An X server sends a repeat as a release and a press with the same time. The toolkit recognises
 /// the two only if it happens to read them together. On other platforms an event's time is when it
 /// was made, and says nothing about repeats.
-bool Application::isRepeat(const QKeyEvent& key) {
-  if (key.type() == QEvent::KeyRelease) {
-    releasedKey_ = key.key();
-    releasedAt_ = key.timestamp();
-    return false;
-  }
+bool Application::isRepeat(const QKeyEvent& key) const {
+  if (key.type() != QEvent::KeyPress) return false;
   return key.isAutoRepeat() || (platformName() == QLatin1String("xcb") &&
                                 key.key() == releasedKey_ && key.timestamp() == releasedAt_);
 }
 
-/// The first turn of the event loop brings what came meanwhile; idle timers fire after it.
+/// The second timer of 0 ms fires one turn of the event loop after the first, when what came
+/// meanwhile has been delivered.
 void Application::dropInput() {
   dropping_ = true;
   waiting_.clear();

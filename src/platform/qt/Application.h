@@ -11,9 +11,9 @@
 
 namespace karvenis {
 
-/// The toolkit's application, which the user's keys and clicks pass first: before any window, and
-/// before the toolkit hands a key to assistive technology and gets a copy of it back, late and
-/// without the moment when it was pressed.
+/// The toolkit's application. The user's keys and clicks come here before they reach a window.
+/// Assistive technology may hold a key back and send a copy of it later, without its time; so a
+/// repeat is recognised here, before that.
 ///
 /// - A repeat of a held key is marked as one (QKeyEvent::isAutoRepeat) and reaches only the window
 ///   in which the key was pressed: a key that is already held when a box or a list opens does not
@@ -31,8 +31,8 @@ class Application final : public QApplication {
   Application(int& count, char** words);
   ~Application() override;
 
-  /// The running application; null if that is an application of another class.
-  static Application* instance() { return qobject_cast<Application*>(qApp); }
+  /// The running application. Precondition: one has been made.
+  [[nodiscard]] static Application& instance() { return *static_cast<Application*>(qApp); }
 
   /// Sets the window that has the keys while no box is open; null: the one that has the keyboard.
   void setWorkingWindow(QWidget* window) { working_ = window; }
@@ -41,9 +41,10 @@ class Application final : public QApplication {
   /// keys that have waited are served in the next turn of the event loop.
   void setBusy(bool busy);
 
-  /// Drops the keys and clicks that have come by now.
+  /// Drops the keys that wait, and the keys and clicks that come until the event loop has run
+  /// again.
   void dropInput();
-  bool isDroppingInput() const { return dropping_; }
+  [[nodiscard]] bool isDroppingInput() const { return dropping_; }
 
   bool notify(QObject* receiver, QEvent* event) override;
 
@@ -61,22 +62,25 @@ class Application final : public QApplication {
   class KeysOfBoxes;
 
   bool takeKey(QKeyEvent& key);
+  /// Whether keys must wait: a procedure runs and no box is open.
   bool mustWait() const { return busy_ && activeModalWidget() == nullptr; }
   void serveWaiting();
   void serve(QKeyEvent& key);
   void servePress(QKeyEvent& press, QWindow& window);
   void serveRelease(QKeyEvent& release, QWindow& window);
-  bool isRepeat(const QKeyEvent& key);
+  bool isRepeat(const QKeyEvent& key) const;
   QWindow* keyWindow() const;
 
   std::unique_ptr<KeysOfBoxes> keysOfBoxes_;
   std::deque<std::unique_ptr<QKeyEvent>> waiting_;  // keys that have not been served yet
   QPointer<QWidget> working_;
-  const QWindow* pressedIn_ = nullptr;  // only compared
-  int releasedKey_ = 0;
-  quint64 releasedAt_ = 0;
-  // While Alt is held and nothing else was pressed since: what its press told of the modifiers,
-  // which differs between a key of the desktop and its copy.
+  // The window in which the held key was pressed; only compared, since it may be gone.
+  const QWindow* pressedIn_ = nullptr;
+  int releasedKey_ = 0;     // the last release,
+  quint64 releasedAt_ = 0;  // and its time in milliseconds
+  // The modifiers of the last press, if that was Alt alone and nothing was pressed since. The menus
+  // must get them unchanged: a key from the desktop and the copy that assistive technology sends on
+  // carry different ones.
   std::optional<Qt::KeyboardModifiers> altAlone_;
   bool busy_ = false;
   bool dropping_ = false;

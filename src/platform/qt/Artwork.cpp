@@ -10,16 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace karvenis {
 
-QPixmap readyMade(const QString& name, const QSize& size) {
-  const QResource resource(u":/ready/%1-%2x%3"_s.arg(name).arg(size.width()).arg(size.height()));
+QPixmap prerenderedDrawing(const QString& name, const QSize& size) {
+  const QResource resource(
+      u":/prerendered/%1-%2x%3"_s.arg(name).arg(size.width()).arg(size.height()));
   if (!resource.isValid()) return {};
-  // The picture keeps the bytes instead of copying them.
-  auto* bytes = new QByteArray(resource.uncompressedData());
-  Q_ASSERT(bytes->size() == qsizetype{4} * size.width() * size.height());
-  return QPixmap::fromImage(QImage(
-      reinterpret_cast<const uchar*>(bytes->constData()), size.width(), size.height(),
-      QImage::Format_ARGB32_Premultiplied,
-      [](void* kept) { delete static_cast<QByteArray*>(kept); }, bytes));
+  const QByteArray bytes = resource.uncompressedData();
+  Q_ASSERT(bytes.size() == qsizetype{4} * size.width() * size.height());
+  const QImage pixels(reinterpret_cast<const uchar*>(bytes.constData()), size.width(),
+                      size.height(), QImage::Format_ARGB32_Premultiplied);
+  return QPixmap::fromImage(pixels.copy());
 }
 
 Artwork::Artwork() = default;
@@ -33,7 +32,7 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
   if (!drawing.isNull() || pixels.isEmpty()) return drawing;
 
   // What the first painted window shows on a plain screen was rendered when the program was built.
-  if (element.isEmpty()) drawing = readyMade(QFileInfo(file).baseName(), pixels);
+  if (element.isEmpty()) drawing = prerenderedDrawing(QFileInfo(file).baseName(), pixels);
   if (drawing.isNull()) drawing = render(file, element, pixels);
   drawing.setDevicePixelRatio(ratio);
   return drawing;

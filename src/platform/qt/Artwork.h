@@ -11,7 +11,7 @@ namespace karvenis {
 
 /// The pixels of the drawing `name` in `size`, rendered when the program was built; null if they
 /// were not.
-QPixmap readyMade(const QString& name, const QSize& size);
+[[nodiscard]] QPixmap prerenderedDrawing(const QString& name, const QSize& size);
 
 /// The program's drawings. Each is rendered once for each size, and then kept.
 class Artwork {
@@ -22,8 +22,9 @@ class Artwork {
   Artwork& operator=(const Artwork&) = delete;
 
   /// The drawing `file`, or its named part `element`, at `size` (device independent) for a screen
-  /// of `ratio` device pixels each.
-  QPixmap pixmap(const QString& file, const QString& element, const QSize& size, qreal ratio);
+  /// with `ratio` device pixels to each device independent pixel.
+  [[nodiscard]] QPixmap pixmap(const QString& file, const QString& element, const QSize& size,
+                               qreal ratio);
 
  private:
   QPixmap render(const QString& file, const QString& element, const QSize& pixels);

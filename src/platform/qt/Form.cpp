@@ -39,20 +39,17 @@ bool takesText(QWidget* control) { return qobject_cast<QLineEdit*>(control) != n
 
 }  // namespace
 
-Form::Form(Windows& windows, const char* name) : forms_(dynamic_cast<Forms&>(windows)) {
-  setObjectName(QLatin1String(name));
-  installAccessibles();
-}
+Form::Form(Windows& windows) : forms_(dynamic_cast<Forms&>(windows)) { installAccessibles(); }
 
 void Form::setCaption(std::string_view caption) {
   caption_ = caption;
-  if (running_ == 0 || !sinceShown_.isValid() || sinceShown_.elapsed() >= captionInterval) {
+  if (running_ == 0 || !sinceCaption_.isValid() || sinceCaption_.elapsed() >= captionInterval) {
     showCaption();
   }
 }
 
 void Form::showCaption() {
-  sinceShown_.start();
+  sinceCaption_.start();
   const QString title = toQt(caption_);
   if (title != windowTitle()) setWindowTitle(title);
 }
@@ -105,22 +102,22 @@ QLayout* Form::commandRow(std::initializer_list<QPushButton*> buttons) {
   return row;
 }
 
-QMenu* Form::menuHead(const char* menuName, const QString& text) {
-  QMenu* head = menuBar()->addMenu(text);
-  head->setObjectName(QLatin1String(menuName));
-  return head;
+QMenu* Form::addMenu(const char* menuName, const QString& text) {
+  QMenu* menu = menuBar()->addMenu(text);
+  menu->setObjectName(QLatin1String(menuName));
+  return menu;
 }
 
-QAction* Form::menuEntry(QMenu* head, const char* entryName, const QString& text,
-                         std::function<void()> procedure) {
-  QAction* entry = head->addAction(text);
+QAction* Form::addMenuEntry(QMenu* menu, const char* entryName, const QString& text,
+                            std::function<void()> procedure) {
+  QAction* entry = menu->addAction(text);
   entry->setObjectName(QLatin1String(entryName));
   on(entry, &QAction::triggered, std::move(procedure));
   return entry;
 }
 
-void Form::onEnter(QLineEdit* box, std::function<void()> procedure) {
-  on(box, &QLineEdit::returnPressed, [this, procedure = std::move(procedure)] {
+void Form::onEnter(QLineEdit* field, std::function<void()> procedure) {
+  on(field, &QLineEdit::returnPressed, [this, procedure = std::move(procedure)] {
     if (!keyRepeats_) procedure();
   });
 }
@@ -138,7 +135,7 @@ bool Form::isBehindBox(const QObject* sender) {
 void Form::guard(QAbstractButton* button) {
   connect(button, &QAbstractButton::pressed, this,
           [button] { button->setProperty(pressedBehindBox, isBoxOpen()); });
-  // Queued: the press has ended when all have heard of it.
+  // Queued, so that the property is still set while the other slots of clicked() run.
   connect(
       button, &QAbstractButton::clicked, button,
       [button] { button->setProperty(pressedBehindBox, false); }, Qt::QueuedConnection);
@@ -180,7 +177,8 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
       return handleKey(*static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
-      return pressesFocused(keyCodeOf(*static_cast<QKeyEvent*>(event)));
+      // The press was handled here, so the release is too.
+      return isPressKey(keyCodeOf(*static_cast<QKeyEvent*>(event)));
     case QEvent::MouseButtonPress:
       notePress(*static_cast<QMouseEvent*>(event));
       return false;
@@ -196,22 +194,25 @@ bool Form::handleKey(const QKeyEvent& key) {
   if (inMenus) return false;
   if (closing_ || isOfScreenReader(key) || isOfDesktop(key)) return true;
   const int code = keyCodeOf(key);
-  const bool once = isFunctionKey(code) || code == keyEscape;
+  // Function keys and Esc belong to the window alone, and come once however long they are held.
+  const bool ofWindow = isFunctionKey(code) || code == keyEscape;
   keyRepeats_ = key.isAutoRepeat();
-  if (once && keyRepeats_) return true;
+  if (ofWindow && keyRepeats_) return true;
 
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();
   run([&] { Form_KeyDown(code, shift); });
   const bool character = (code == keyEnter || code == keyEscape) && (shift & ~shiftKey) == 0;
   if (character && !closing_) run([&] { Form_KeyPress(code); });
-  if (closing_ || once) return true;
-  return pressFocused(code, focused) || (code == keyEnter && !takesText(focused));
+  if (closing_ || ofWindow) return true;
+  if (pressButton(code, focused)) return true;
+  return code == keyEnter && !takesText(focused);  // Enter reaches only a text field
 }
 
-/// Enter presses the button that has the focus and the space bar ticks an option too, however the
-/// desktop has it; the toolkit's own way would press again and again while the key is held.
-bool Form::pressesFocused(int code) const {
+/// Whether key `code` presses the button that has the focus: Space presses any button, Enter one
+/// that is not checkable, whatever keys the desktop would use. The window presses it, since the
+/// toolkit would press it again and again while the key is held.
+bool Form::isPressKey(int code) const {
   const auto* focused = qobject_cast<const QAbstractButton*>(focusWidget());
   if (focused == nullptr) return false;
   return code == keySpace || (code == keyEnter && !focused->isCheckable());
@@ -219,8 +220,8 @@ bool Form::pressesFocused(int code) const {
 
 /// Presses the button that had the focus when the key came; a button that the key itself moved the
 /// focus to is not pressed. Returns whether the key was one that presses.
-bool Form::pressFocused(int code, QWidget* focused) {
-  if (focused != focusWidget() || !pressesFocused(code)) return false;
+bool Form::pressButton(int code, QWidget* focused) {
+  if (focused != focusWidget() || !isPressKey(code)) return false;
   if (!keyRepeats_) qobject_cast<QAbstractButton*>(focused)->click();
   return true;
 }
@@ -228,6 +229,8 @@ bool Form::pressFocused(int code, QWidget* focused) {
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (closing_ || isBoxOpen()) return;
+  // A window that the user has just turned to is activated first, so that closing it leads back to
+  // its opener.
   forms_.settle();
   run([this] { closeRequested(); });
 }

@@ -28,8 +28,8 @@ class Form : public QWidget, public TitleBar {
   Q_OBJECT
 
  public:
-  /// `windows` are the program's Forms.
-  Form(Windows& windows, const char* name);
+  /// Precondition: `windows` is a Forms. Only Forms makes windows, and gives each its name.
+  explicit Form(Windows& windows);
 
   std::string name() const { return objectName().toStdString(); }
   /// Keeps the exact caption at once. While a procedure runs, the screen gets the newest one only
@@ -47,8 +47,8 @@ class Form : public QWidget, public TitleBar {
   const std::string& opener() const { return opener_; }
   void setOpener(const std::string& opener) { opener_ = opener; }
 
-  /// Whether the window has been minimised since the last call.
-  bool cameBack() { return std::exchange(wasMinimised_, false); }
+  /// Returns whether the window has been minimised since the last call, and forgets it.
+  [[nodiscard]] bool takeMinimised() { return std::exchange(wasMinimised_, false); }
 
   /// Runs an event procedure; a fault ends the program with its one closing box.
   void run(const std::function<void()>& procedure);
@@ -59,8 +59,9 @@ class Form : public QWidget, public TitleBar {
   virtual void Form_Activate() {}
 
  protected:
-  /// A key, seen before the control that has the focus. F1..F12 come once, however long they are
-  /// held, and not with Alt.
+  /// A key press (see platform/Keys.h), before the control that has the focus sees it. A held
+  /// F1..F12 or Esc comes once; other keys repeat. No key comes while a menu is open, and none that
+  /// belongs to the desktop (Alt with F1..F12 or Esc) or to a running screen reader.
   virtual void Form_KeyDown(int KeyCode, int Shift);
   /// The character of a key: Enter (13) and Esc (27) only, not while Ctrl or Alt is held.
   virtual void Form_KeyPress(int KeyAscii);
@@ -73,21 +74,29 @@ class Form : public QWidget, public TitleBar {
   /// The user closes the window by its frame.
   virtual void closeRequested() { unload(); }
 
-  /// Connects a control's signal with an event procedure. Behind an open box it does not run.
+  /// Connects a signal of `sender` with an event procedure. The procedure of a button or a menu
+  /// entry does not run while a box is open; that of a timer or a text field does.
   template <typename Sender, typename Signal, typename Procedure>
   void on(Sender* sender, Signal signal, Procedure procedure) {
     connect(sender, signal, this, [this, sender, procedure] {
       if (!isBehindBox(sender)) run(procedure);
     });
   }
+  /// Runs `procedure` when `option` becomes the chosen one, also by an arrow key.
+  template <typename Procedure>
+  void onChosen(QAbstractButton* option, Procedure procedure) {
+    on(option, &QAbstractButton::toggled, [option, procedure] {
+      if (option->isChecked()) procedure();
+    });
+  }
   /// Makes clicks on `container`, a widget that only holds others, clicks on the background.
   static void markAsBackground(QWidget* container);
-  /// Enter in `box`, once however long it is held.
-  void onEnter(QLineEdit* box, std::function<void()> procedure);
-  /// Lets no press of the button count that begins or ends behind an open box; what control()
-  /// makes is guarded.
+  /// Runs `procedure` when Enter is pressed in `field`, once however long it is held.
+  void onEnter(QLineEdit* field, std::function<void()> procedure);
+  /// Ignores the presses of `button` that begin or end while a box is open. control() guards what
+  /// it makes; other buttons must be guarded by hand.
   void guard(QAbstractButton* button);
-  /// A control of this window under its own name.
+  /// Makes a control of this window with the object name `controlName`.
   template <typename Control, typename... Arguments>
   Control* control(const QString& controlName, Arguments&&... arguments) {
     auto* made = new Control(std::forward<Arguments>(arguments)..., this);
@@ -95,14 +104,15 @@ class Form : public QWidget, public TitleBar {
     if constexpr (std::is_base_of_v<QAbstractButton, Control>) guard(made);
     return made;
   }
-  /// A command button of this window.
+  /// Makes a button with the object name `name`, the caption `text` and the tool tip `tip` (empty:
+  /// none) that runs `procedure`.
   QPushButton* command(const char* name, QStringView text, QStringView tip,
                        std::function<void()> procedure);
   /// The window's command buttons in a row, as all small windows have them.
   static QLayout* commandRow(std::initializer_list<QPushButton*> buttons);
-  QMenu* menuHead(const char* menuName, const QString& text);
-  QAction* menuEntry(QMenu* head, const char* entryName, const QString& text,
-                     std::function<void()> procedure);
+  QMenu* addMenu(const char* menuName, const QString& text);
+  QAction* addMenuEntry(QMenu* menu, const char* entryName, const QString& text,
+                        std::function<void()> procedure);
   QMenuBar* menuBar();
 
   bool event(QEvent* event) override;
@@ -118,22 +128,22 @@ class Form : public QWidget, public TitleBar {
   static bool isBehindBox(const QObject* sender);
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
-  bool pressesFocused(int code) const;
-  bool pressFocused(int code, QWidget* focused);
+  bool isPressKey(int code) const;
+  bool pressButton(int code, QWidget* focused);
   bool isBackground(const QPoint& place) const;
 
   Forms& forms_;
   std::string opener_;
   QMenuBar* menuBar_ = nullptr;
   std::string caption_;
-  QElapsedTimer sinceShown_;
-  QSize lastSize_;
-  int running_ = 0;
+  QElapsedTimer sinceCaption_;  // since the title on the screen was brought up to date
+  QSize lastSize_;              // that Form_Resize was run for
+  int running_ = 0;             // event procedures of this window that have not ended
   bool closing_ = false;
   bool wasMinimised_ = false;
-  bool puttingBack_ = false;
-  bool keyRepeats_ = false;  // the key that is being handled is a repeat
-  bool clickArmed_ = false;
+  bool puttingBack_ = false;              // guard() is undoing a choice
+  bool keyRepeats_ = false;               // the key that is being handled is a repeat
+  bool clickArmed_ = false;               // a left press on the background waits for its release
   bool pressedBackground_ = false;        // the last press was on the background
   bool pressedBackgroundBefore_ = false;  // and so was the one before
 };

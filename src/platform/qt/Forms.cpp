@@ -32,20 +32,24 @@ std::string described(const std::exception& error) {
 }  // namespace
 
 Forms::Forms(Boxes& boxes) : boxes_(boxes) {
-  settle_.setSingleShot(true);
-  QObject::connect(&settle_, &QTimer::timeout, &settle_, [this] { settle(); });
-  const Application* application = Application::instance();
-  if (application == nullptr) return;
-  QObject::connect(application, &Application::keyPressed, &settle_, [this] { settle(); });
-  QObject::connect(application, &Application::clicked, &settle_, [this](const QWindow* window) {
+  onItsWay_.setInterval(patience);
+  calm_.setInterval(calm);
+  for (QTimer* timer : {&onItsWay_, &calm_}) {
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, timer, [this] { settle(); });
+  }
+  // The connections end with the timer, and so with this.
+  const Application& application = Application::instance();
+  QObject::connect(&application, &Application::keyPressed, &calm_, [this] { settle(); });
+  QObject::connect(&application, &Application::clicked, &calm_, [this](const QWindow* window) {
     if (Form* form = owning(window)) clicked(*form);
   });
-  QObject::connect(application, &Application::ending, &settle_, [this] { end(); });
+  QObject::connect(&application, &Application::ending, &calm_, [this] { end(); });
 }
 
 Forms::~Forms() {
   ending_ = true;
-  for (const QPointer<Form>& form : open_) delete form;
+  for (const QPointer<Form>& form : windows_) delete form;
 }
 
 void Forms::add(std::string form, Factory make) {
@@ -53,8 +57,10 @@ void Forms::add(std::string form, Factory make) {
   factories_.emplace(std::move(form), std::move(make));
 }
 
+Form* Forms::active() const { return active_; }
+
 Form* Forms::find(std::string_view form) const {
-  for (const QPointer<Form>& candidate : open_) {
+  for (const QPointer<Form>& candidate : windows_) {
     if (candidate != nullptr && !candidate->isClosing() && candidate->name() == form)
       return candidate;
   }
@@ -62,10 +68,10 @@ Form* Forms::find(std::string_view form) const {
 }
 
 Form* Forms::owning(const QWindow* window) const {
-  const auto found = std::ranges::find_if(open_, [window](const QPointer<Form>& form) {
+  const auto found = std::ranges::find_if(windows_, [window](const QPointer<Form>& form) {
     return form != nullptr && form->windowHandle() == window;
   });
-  return found == open_.end() ? nullptr : *found;
+  return found == windows_.end() ? nullptr : *found;
 }
 
 void Forms::show(std::string_view form) {
@@ -81,8 +87,9 @@ Form* Forms::open(std::string_view form) {
   const auto factory = factories_.find(form);
   if (factory == factories_.end()) throw std::logic_error("no window " + std::string(form));
   Form* window = factory->second();
-  std::erase_if(open_, [](const QPointer<Form>& gone) { return gone.isNull(); });
-  open_.emplace_back(window);
+  window->setObjectName(toQt(form));
+  std::erase_if(windows_, [](const QPointer<Form>& gone) { return gone.isNull(); });
+  windows_.emplace_back(window);
   window->run([&] {
     if (active_) placeBeside(*window, *active_);
     window->Form_Load();
@@ -100,7 +107,7 @@ void Forms::placeBeside(Form& window, const Form& opener) const {
   };
   do {
     place += step;
-  } while (std::ranges::any_of(open_, isTaken));
+  } while (std::ranges::any_of(windows_, isTaken));
   moveOntoScreen(window, place);
 }
 
@@ -114,28 +121,30 @@ void Forms::present(Form& form) {
 
 void Forms::giveKeyboard(Form& form) {
   form.activateWindow();
-  if (!form.isActiveWindow()) settle_.start(patience);
+  if (form.isActiveWindow()) return;
+  calm_.stop();
+  onItsWay_.start();
 }
 
 void Forms::gotKeyboard(const Form& form) {
-  if (active_ == &form || !isKeyboardOnItsWay()) settle_.start(calm);
+  if (active_ == &form || !onItsWay_.isActive()) {
+    onItsWay_.stop();
+    calm_.start();
+  }
   speak();
-}
-
-bool Forms::isKeyboardOnItsWay() const {
-  return settle_.isActive() && settle_.intervalAsDuration() == patience;
 }
 
 /// While a procedure runs, the keyboard moves only because of its boxes.
 void Forms::settle() {
-  if (running_ > 0 || isKeyboardOnItsWay()) return;
+  if (running_ > 0 || onItsWay_.isActive()) return;
   auto* form = qobject_cast<Form*>(QApplication::activeWindow());
   if (form != nullptr && !form->isMinimized()) activate(*form);
 }
 
 void Forms::clicked(Form& form) {
   if (running_ > 0) return;
-  settle_.stop();
+  onItsWay_.stop();
+  calm_.stop();
   activate(form);
 }
 
@@ -143,16 +152,16 @@ void Forms::clicked(Form& form) {
 /// window before, or if it comes back from being minimised.
 void Forms::activate(Form& form) {
   if (ending_ || form.isClosing()) return;
-  const bool cameBack = form.cameBack();
-  if (active_ == &form && !cameBack) return;
+  const bool wasMinimised = form.takeMinimised();
+  if (active_ == &form && !wasMinimised) return;
   active_ = &form;
-  if (Application* application = Application::instance()) application->setWorkingWindow(&form);
+  Application::instance().setWorkingWindow(&form);
   form.run([&] { form.Form_Activate(); });
 }
 
 QWidget* Forms::boxOpens() {
   tellBusy();
-  for (const QPointer<Form>& form : open_) {
+  for (const QPointer<Form>& form : windows_) {
     if (form) form->showCaption();
   }
   return active_;
@@ -170,7 +179,7 @@ void Forms::closed(const Form& form) {
 
 void Forms::deleteClosed() const {
   if (running_ > 0) return;
-  for (const QPointer<Form>& form : open_) {
+  for (const QPointer<Form>& form : windows_) {
     if (form && form->isClosing()) form->deleteLater();
   }
 }
@@ -186,17 +195,12 @@ Form* Forms::successorOf(const Form& form) const {
   const auto isOpen = [main](const QPointer<Form>& other) {
     return other != nullptr && other != main && !other->isClosing();
   };
-  const bool alone = std::ranges::none_of(open_, isOpen);
+  const bool alone = std::ranges::none_of(windows_, isOpen);
   return alone && main != nullptr && main->isMinimized() ? main : nullptr;
 }
 
-void Forms::dropInput() {
-  if (Application* application = Application::instance()) application->dropInput();
-}
-
-void Forms::tellBusy() const {
-  if (Application* application = Application::instance()) application->setBusy(running_ > 0);
-}
+void Forms::dropInput() { Application::instance().dropInput(); }
+void Forms::tellBusy() const { Application::instance().setBusy(running_ > 0); }
 
 void Forms::procedureBegins() {
   ++running_;

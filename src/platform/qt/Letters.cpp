@@ -10,8 +10,7 @@
 namespace karvenis {
 namespace {
 
-constexpr double drawnFor = 13;  // pixels
-constexpr QSize frame(12, 36);   // about what window managers put around a window
+constexpr QSize frame(12, 36);  // about what window managers put around a window
 constexpr double leastNoticed =
     1.25;  // below it pictures keep their own size, in which they are sharpest
 constexpr double step = 0.05;
@@ -29,18 +28,24 @@ bool hasRoom(const QWidget& window) {
 }  // namespace
 
 double letterGrowth() {
-  return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / drawnFor);
+  return std::max(1.0, QFontInfo(QApplication::font()).pixelSize() / double{designedLetters});
 }
 
 QSize roomOnScreen() { return QGuiApplication::primaryScreen()->availableSize() - frame; }
 
-void growWithLetters(QWidget& window, const std::function<void(double)>& size) {
+void setLetters(QWidget& widget, double pixels) {
+  QFont letters = widget.font();
+  letters.setPixelSize(qRound(pixels));
+  widget.setFont(letters);
+}
+
+void growWithLetters(QWidget& window, const std::function<void(double)>& resize) {
   double growth = letterGrowth();
   if (growth < leastNoticed) growth = 1;
-  size(growth);
+  resize(growth);
   while (growth > 1 && !hasRoom(window)) {
     growth = std::max(1.0, growth - step);
-    size(growth);
+    resize(growth);
   }
 }
 

@@ -7,7 +7,7 @@
 
 #include "platform/qt/Artwork.h"
 #include "platform/qt/Style.h"
-#include "ready/Sizes.h"
+#include "prerendered/Sizes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +35,8 @@ QPalette palette() {
 /// In the sizes that a title bar and a list of windows show.
 QIcon icon() {
   QIcon made;
-  for (const QSize& size : {ready::smallIcon, ready::largeIcon}) {
-    made.addPixmap(readyMade(u"karvenis"_s, size));
+  for (const QSize& size : {prerendered::smallIcon, prerendered::largeIcon}) {
+    made.addPixmap(prerenderedDrawing(u"karvenis"_s, size));
   }
   return made;
 }

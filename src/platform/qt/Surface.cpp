@@ -6,7 +6,6 @@
 #include <cmath>
 
 #include "platform/Twips.h"
-#include "platform/qt/Letters.h"
 #include "platform/qt/Text.h"
 
 using namespace Qt::StringLiterals;
@@ -66,7 +65,7 @@ double Surface::pixels(double twips) const { return twips * zoom_ / twipsPerPixe
 double Surface::twips(double pixels) const { return pixels * twipsPerPixel / zoom_; }
 double Surface::lineHeight() const { return twips(QFontMetricsF(font()).height()); }
 
-void Surface::fix(double margin, double right) {
+void Surface::fixSize(double margin, double right) {
   const QSizeF exact(pixels(right + margin), pixels(2 * margin + linesOfPage_ * lineHeight()));
   setFixedSize(static_cast<int>(std::ceil(exact.width())),
                static_cast<int>(std::ceil(exact.height())));
@@ -78,7 +77,7 @@ void Surface::cls() {
   lineOpen_ = false;
   x_ = y_ = 0;
   update();
-  ++redraws_;
+  ++timesCleared_;
   tellFirstLine();
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/TextSurface.h"
+#include "platform/qt/Letters.h"
 
 namespace karvenis {
 
@@ -13,10 +14,10 @@ class Surface final : public QWidget, public TextSurface {
   Q_OBJECT
 
  public:
-  /// A surface for letters of `textPixels` (device independent; 13 of them are 9.75 points). The
-  /// letters grow with the desktop's own, and all lengths in twips with them, as far as the screen
-  /// has room for `lines` lines of text and their margins.
-  Surface(QWidget* parent, int lines, int textPixels = 13);
+  /// A surface for letters of `textPixels` (device independent). The letters grow with the
+  /// desktop's own, and all lengths in twips with them, as far as the screen has room for `lines`
+  /// lines of text and their margins.
+  Surface(QWidget* parent, int lines, int textPixels = designedLetters);
 
   void cls() override;
   double currentX() const override { return x_; }
@@ -34,19 +35,19 @@ class Surface final : public QWidget, public TextSurface {
   const std::vector<Line>& lines() const { return lines_; }
   /// Sets which page of a list has been printed; if it is another one, a screen reader hears it.
   void setPage(int number);
-  /// Line `index` as it is spoken.
-  QString spokenLine(std::size_t index) const;
+  /// Line `index` as it is spoken. Precondition: `index` is below lines().size().
+  [[nodiscard]] QString spokenLine(std::size_t index) const;
   /// How often the surface has been cleared.
-  int redraws() const { return redraws_; }
-  /// Where line `index` stands on the widget.
-  QRect lineRect(std::size_t index) const;
-  /// Pixels (device independent) of a length in twips.
-  double pixels(double twips) const;
+  [[nodiscard]] int timesCleared() const { return timesCleared_; }
+  /// Where line `index` stands on the widget. Precondition: `index` is below lines().size().
+  [[nodiscard]] QRect lineRect(std::size_t index) const;
+  /// Pixels (device independent) of a length in twips (see Twips.h).
+  [[nodiscard]] double pixels(double twips) const;
   /// Twips of one line of text.
-  double lineHeight() const;
-  /// Gives the surface the size for its lines, the first at `margin` and none reaching beyond
-  /// `right`, with as much margin behind them (all in twips).
-  void fix(double margin, double right);
+  [[nodiscard]] double lineHeight() const;
+  /// Gives the surface a fixed size: `right` + `margin` wide, and as high as its lines with
+  /// `margin` above and below. `right` is where the longest line ends. All in twips.
+  void fixSize(double margin, double right);
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
@@ -71,7 +72,7 @@ class Surface final : public QWidget, public TextSurface {
   std::vector<Run> runs_;
   std::vector<Line> lines_;
   bool lineOpen_ = false;
-  int redraws_ = 0;
+  int timesCleared_ = 0;
   int page_ = 0;
   QString heading_;  // what is spoken before the first line
 };

@@ -58,8 +58,8 @@ class SurfaceAccessible final : public QAccessibleWidget {
   int childCount() const override { return static_cast<int>(surface_->lines().size()); }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
-    if (redraws_ != surface_->redraws()) forget();
-    redraws_ = surface_->redraws();
+    if (timesCleared_ != surface_->timesCleared()) forget();
+    timesCleared_ = surface_->timesCleared();
     const auto known = lines_.find(index);
     if (known != lines_.end()) return QAccessible::accessibleInterface(known->second);
     auto* line = new LineAccessible(surface_, index);
@@ -81,7 +81,7 @@ class SurfaceAccessible final : public QAccessibleWidget {
 
   Surface* surface_;
   mutable std::map<int, QAccessible::Id> lines_;
-  mutable int redraws_ = 0;
+  mutable int timesCleared_ = 0;
 };
 
 }  // namespace

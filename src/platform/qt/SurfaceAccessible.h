@@ -7,6 +7,6 @@ namespace karvenis {
 class Surface;
 
 /// What assistive technology knows of a Surface: a list whose items are the printed lines.
-QAccessibleInterface* makeSurfaceAccessible(Surface* surface);
+[[nodiscard]] QAccessibleInterface* makeSurfaceAccessible(Surface* surface);
 
 }  // namespace karvenis

@@ -4,12 +4,13 @@
 
 namespace karvenis {
 
-/// A box that a number is typed into. The number in it is selected, so that the first digit typed
-/// replaces it, when the window opens with the focus in the box, when Tab, Enter or the program
-/// moves the focus there, and when the program has rewritten or refused the number. It is not
-/// selected while it is typed in, and not when the focus only comes back from a box, a menu or
+/// A text field for a number. The number is selected, so that the first digit typed replaces it,
+/// - when the window opens with the focus in the field,
+/// - when Tab, Enter or the program moves the focus there,
+/// - when the program has rewritten or refused the number.
+/// It is not selected while the user types, nor when the focus comes back from a dialog, a menu or
 /// another program.
-class NumberBox final : public QLineEdit {
+class NumberField final : public QLineEdit {
   Q_OBJECT
 
  public:

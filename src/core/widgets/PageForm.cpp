@@ -1,4 +1,4 @@
-#include "platform/qt/PageForm.h"
+#include "core/widgets/PageForm.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -16,14 +16,10 @@ constexpr int widestBand = 16;       // of the ground above and below the page
 
 }  // namespace
 
-PageForm::PageForm(Windows& windows, const char* name, int lines)
-    : Form(windows, name), surface_(new Surface(this, lines)) {
+PageForm::PageForm(Windows& windows) : Form(windows), surface_(new Surface(this, rowsOnPage)) {
   surface_->setFocusPolicy(Qt::StrongFocus);
   surface_->setFocus();
-}
-
-void PageForm::fix(double margin, double right) {
-  surface_->fix(margin, right);
+  surface_->fixSize(pageMargin, fitRows(*surface_));
   const int spare = roomOnScreen().height() - surface_->height();
   const int band = std::clamp(spare / 2, 0, widestBand);
   auto* whole = new QVBoxLayout(this);
@@ -37,12 +33,17 @@ void PageForm::fix(double margin, double right) {
 
 void PageForm::Form_KeyDown(int KeyCode, int) {
   if (KeyCode == keyEscape) return unload();
-  if (command(KeyCode)) redraw();
+  if (answerKey(KeyCode)) redraw();
 }
 
 void PageForm::Form_Click() {
-  nextPage();
+  page_.click();
   redraw();
+}
+
+void PageForm::redraw() {
+  printPage(*surface_);
+  surface_->setPage(page_.PageNo);
 }
 
 /// A line around the page, as far as the window is larger.

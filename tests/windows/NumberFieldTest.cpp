@@ -1,4 +1,4 @@
-#include "platform/qt/NumberBox.h"
+#include "platform/qt/NumberField.h"
 
 #include <QMenuBar>
 #include <QMessageBox>
@@ -10,13 +10,13 @@
 #include "doubles/Sets.h"
 #include "windows/WindowTest.h"
 
-// When the number in a box is selected, so that the first digit replaces it: in every window that
-// has such boxes, with real keys.
+// When the number in a field is selected, so that the first digit replaces it: in every window that
+// has such fields, with real keys.
 
 namespace karvenis {
 namespace {
 
-class NumberBoxes : public WindowTest {
+class NumberFields : public WindowTest {
  protected:
   Form* form = nullptr;
 
@@ -30,8 +30,10 @@ class NumberBoxes : public WindowTest {
     form = open(name);
     ASSERT_NE(form, nullptr);
   }
-  NumberBox* box(const char* name) const { return control<NumberBox>(form, QLatin1String(name)); }
-  std::string text(const char* name) const { return fromQt(box(name)->text()); }
+  NumberField* field(const char* name) const {
+    return control<NumberField>(form, QLatin1String(name));
+  }
+  std::string text(const char* name) const { return fromQt(field(name)->text()); }
   /// What another window over the form's does to its focus, until it closes.
   void coverAndComeBack() const {
     QMessageBox other(form);
@@ -39,11 +41,11 @@ class NumberBoxes : public WindowTest {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     other.reject();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    ASSERT_TRUE(box("Text1")->hasFocus());
+    ASSERT_TRUE(field("Text1")->hasFocus());
   }
 };
 
-TEST_F(NumberBoxes, AreSelectedWhenTheirWindowOpens) {
+TEST_F(NumberFields, AreSelectedWhenTheirWindowOpens) {
   start("frmRnd");
   type(form, "5");
   EXPECT_EQ(text("Text1"), "5");
@@ -52,14 +54,14 @@ TEST_F(NumberBoxes, AreSelectedWhenTheirWindowOpens) {
   EXPECT_EQ(text("Text1"), "7");
 }
 
-TEST_F(NumberBoxes, AreSelectedWhenTheirWindowOpensOverNoList) {
+TEST_F(NumberFields, AreSelectedWhenTheirWindowOpensOverNoList) {
   world.files.folder.clear();
   start("frmRnd");
   type(form, "500");
   EXPECT_EQ(text("Text1"), "500");
 }
 
-TEST_F(NumberBoxes, AreSelectedWhenTabOrEnterLeadsThere) {
+TEST_F(NumberFields, AreSelectedWhenTabOrEnterLeadsThere) {
   start("frmCLPrint");
   press(form, Qt::Key_Tab);
   type(form, "9");
@@ -72,16 +74,16 @@ TEST_F(NumberBoxes, AreSelectedWhenTabOrEnterLeadsThere) {
   EXPECT_EQ(text("Text2"), "8");
 }
 
-TEST_F(NumberBoxes, OfTheBankosAreSelectedWhenEnterLeadsThere) {
+TEST_F(NumberFields, OfTheBankosAreSelectedWhenEnterLeadsThere) {
   setBanko(world.state, {30, 7});
   start("frmBanko");
-  click(box("Text1_0"));
+  click(field("Text1_0"));
   press(form, Qt::Key_Return);
   type(form, "8");
   EXPECT_EQ(text("Text1_1"), "8");
 }
 
-TEST_F(NumberBoxes, AreSelectedAfterARefusal) {
+TEST_F(NumberFields, AreSelectedAfterARefusal) {
   start("frmCLPrint");
   world.boxes.expectBeep()
       .expectQuestion("Kombinasyon Listesi'ni KARVENIS.TXT dosyasına yazdırmak istiyormusunuz ?",
@@ -94,7 +96,7 @@ TEST_F(NumberBoxes, AreSelectedAfterARefusal) {
   EXPECT_EQ(text("Text2"), "4");
 }
 
-TEST_F(NumberBoxes, OfTheGeneratorAreSelectedAfterARefusal) {
+TEST_F(NumberFields, OfTheGeneratorAreSelectedAfterARefusal) {
   start("frmRnd");
   world.boxes.expectWarning("En çok 32737 kolon ekleyebilirsiniz!", "! DİKKAT !");
   type(form, "40000");
@@ -108,7 +110,7 @@ TEST_F(NumberBoxes, OfTheGeneratorAreSelectedAfterARefusal) {
   EXPECT_EQ(text("Text1"), "6") << "refused without a box";
 }
 
-TEST_F(NumberBoxes, OfTheDeletionAreSelectedAfterARefusal) {
+TEST_F(NumberFields, OfTheDeletionAreSelectedAfterARefusal) {
   start("frmRndDel");
   world.boxes.expectWarning("Silinecek kolon numarası geçersiz! En çok 30 olabilir.",
                             "! DİKKAT ! Geçersiz Kolon Numarası");
@@ -118,30 +120,30 @@ TEST_F(NumberBoxes, OfTheDeletionAreSelectedAfterARefusal) {
   EXPECT_EQ(text("Text1"), "2");
 }
 
-TEST_F(NumberBoxes, AreSelectedWhenAnOptionHasRewrittenThem) {
+TEST_F(NumberFields, AreSelectedWhenAnOptionHasRewrittenThem) {
   start("frmRnd");
   QCoreApplication::processEvents();  // the toolkit clears selections once, when a window opens
   for (const auto& [option, number] : {std::pair("Option1", "30"), std::pair("Option2", "32737")}) {
     click(control(form, QLatin1String(option)), {10, 10});
-    EXPECT_EQ(fromQt(box("Text1")->selectedText()), number);
+    EXPECT_EQ(fromQt(field("Text1")->selectedText()), number);
   }
 }
 
-TEST_F(NumberBoxes, AreSelectedWhenTheirBankoWasApplied) {
+TEST_F(NumberFields, AreSelectedWhenTheirBankoWasApplied) {
   setBanko(world.state, {12});
   start("frmBanko");
-  click(box("Text1_0"));
+  click(field("Text1_0"));
   world.boxes.expectBeep();
   press(form, Qt::Key_F1);
   type(form, "5");
   EXPECT_EQ(text("Text1_0"), "5");
 }
 
-TEST_F(NumberBoxes, AreNotSelectedWhileTheyAreTypedIn) {
+TEST_F(NumberFields, AreNotSelectedWhileTheyAreTypedIn) {
   start("frmBanko");
   press(form, Qt::Key_F5);
   type(form, "4");
-  EXPECT_FALSE(box("Text1_0")->hasSelectedText());
+  EXPECT_FALSE(field("Text1_0")->hasSelectedText());
   type(form, "9");
   EXPECT_EQ(text("Text1_0"), "49");
   press(form, Qt::Key_Home);
@@ -150,7 +152,7 @@ TEST_F(NumberBoxes, AreNotSelectedWhileTheyAreTypedIn) {
   EXPECT_EQ(text("Text1_0"), "39") << "rewritten by its own rule";
 }
 
-TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromABox) {
+TEST_F(NumberFields, AreNotSelectedWhenTheFocusOnlyComesBackFromABox) {
   start("frmRnd");
   type(form, "12");
   coverAndComeBack();
@@ -158,7 +160,7 @@ TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromABox) {
   EXPECT_EQ(text("Text1"), "123");
 }
 
-TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromAnotherProgram) {
+TEST_F(NumberFields, AreNotSelectedWhenTheFocusOnlyComesBackFromAnotherProgram) {
   start("frmRnd");
   type(form, "12");
   QWidget otherProgram;
@@ -171,7 +173,7 @@ TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromAnotherProgram) {
   EXPECT_EQ(text("Text1"), "123");
 }
 
-TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromAMenu) {
+TEST_F(NumberFields, AreNotSelectedWhenTheFocusOnlyComesBackFromAMenu) {
   start("frmBanko");
   press(form, Qt::Key_F5);
   type(form, "4");
@@ -182,15 +184,15 @@ TEST_F(NumberBoxes, AreNotSelectedWhenTheFocusOnlyComesBackFromAMenu) {
   QTest::keyClick(menu, Qt::Key_Escape);
   ASSERT_TRUE(waitFor([menu] { return !menu->isVisible(); }));
   press(form, Qt::Key_Escape);  // leaves the menu bar
-  ASSERT_TRUE(waitFor([this] { return box("Text1_0")->hasFocus(); }));
+  ASSERT_TRUE(waitFor([this] { return field("Text1_0")->hasFocus(); }));
   type(form, "9");
   EXPECT_EQ(text("Text1_0"), "49");
 }
 
-TEST_F(NumberBoxes, AClickIntoThemPutsTheCaretThere) {
+TEST_F(NumberFields, AClickIntoThemPutsTheCaretThere) {
   start("frmCLPrint");
-  click(box("Text2"));
-  EXPECT_FALSE(box("Text2")->hasSelectedText());
+  click(field("Text2"));
+  EXPECT_FALSE(field("Text2")->hasSelectedText());
 }
 
 }  // namespace
