@@ -217,6 +217,22 @@ TEST(QtBoxes, ATextThatIsTooHighIsScrolledByKeys) {
   });
 }
 
+TEST(QtBoxes, ATextStandsClearOfItsScrollBar) {
+  for (const double growth : {1.0, 2.0}) {
+    const BigLetters letters("DejaVu Sans", growth);
+    question(allPairs(), [&](QMessageBox& box) {
+      ASSERT_TRUE(scrolls(box));
+      const QImage text = scrollerOf(box).viewport()->grab().toImage();
+      const int gap = qRound(8 * growth * text.devicePixelRatio());
+      const QImage beside = text.copy(text.width() - gap, 0, gap, text.height());
+      QImage ground(beside.size(), beside.format());
+      ground.setDevicePixelRatio(beside.devicePixelRatio());
+      ground.fill(QColor(look::ground));
+      EXPECT_EQ(beside, ground) << growth;
+    });
+  }
+}
+
 TEST(QtBoxes, ATextThatFitsHasNoScrollBar) {
   question("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?", [](QMessageBox& box) {
     EXPECT_FALSE(scrolls(box));

@@ -77,10 +77,12 @@ void MessageBox::layOut() {
 void MessageBox::sizeText(const QSize& room, int least) {
   const int natural = textSize(*label_, text(), QWIDGETSIZE_MAX).width();
   int width = readableWidth(*label_, text(), room.width());
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const int gap = label_->fontMetrics().horizontalAdvance(u'm');  // between the text and its bar
+  const int bar = gap + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   if (heightAt(width) > room.height()) width = std::min(natural, room.width() - bar);
   const bool scrolls = heightAt(width) > room.height();
   wraps_ = width < natural;
+  label_->setContentsMargins(0, 0, scrolls ? gap : 0, 0);
   scroller_->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
   scroller_->setFixedSize(std::max(scrolls ? width + bar : width, std::min(least, room.width())),
                           std::min(heightAt(width), room.height()));
