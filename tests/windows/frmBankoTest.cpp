@@ -119,6 +119,12 @@ TEST_F(FrmBanko, TheFocusGoesWithTheChoiceUnlessItIsElsewhere) {
   EXPECT_EQ(focused(), "Text1_1");
 }
 
+TEST_F(FrmBanko, BacktabLeadsToTheCountThatAKeyHasChosen) {
+  start();
+  for (const auto key : {Qt::Key_F5, Qt::Key_F7, Qt::Key_Backtab}) press(banko, key);
+  EXPECT_EQ(focused(), "Option4");
+}
+
 TEST_F(FrmBanko, AKeyThatChoosesTheCountLeadsToTheFirstEmptyField) {
   setBanko(world.state, {30, 7});
   start();

@@ -99,6 +99,20 @@ TEST_F(FrmRnd, TheOptionsSetTheCount) {
   EXPECT_EQ(text1()->text(), "500") << "also by the arrow keys";
 }
 
+TEST_F(FrmRnd, TabLeadsToTheChosenOptionAlone) {
+  start(500);
+  ASSERT_TRUE(option(2)->isChecked());
+  press(form, Qt::Key_Tab);
+  EXPECT_EQ(form->focusWidget(), option(2));
+  press(form, Qt::Key_Tab);
+  EXPECT_EQ(form->focusWidget(), control(form, "Command1"));
+  option(1)->setChecked(true);  // as assistive technology does
+  press(form, Qt::Key_Backtab);
+  EXPECT_EQ(form->focusWidget(), option(1));
+  press(form, Qt::Key_Backtab);
+  EXPECT_EQ(form->focusWidget(), text1());
+}
+
 TEST_F(FrmRnd, ASmallCountForAFirstListIsTakenForASlip) {
   start();
   put("8");

@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QWindow>
 #include <algorithm>
 
@@ -144,6 +145,19 @@ void Form::guard(QAbstractButton* button) {
     puttingBack_ = true;
     button->setChecked(!checked);
     puttingBack_ = false;
+  });
+}
+
+/// Keeps Tab from leading to an option that is not the chosen one of its group. The toolkit does so
+/// only once an option has had the focus.
+void Form::keepTabStop(QAbstractButton* option) {
+  connect(option, &QAbstractButton::toggled, option, [option] {
+    if (!option->isChecked()) return;
+    const auto group =
+        option->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+    for (QRadioButton* one : group) {
+      one->setFocusPolicy(one == option ? Qt::StrongFocus : Qt::ClickFocus);
+    }
   });
 }
 

@@ -16,6 +16,7 @@
 class QKeyEvent;
 class QLineEdit;
 class QPushButton;
+class QRadioButton;
 
 namespace karvenis {
 
@@ -102,6 +103,7 @@ class Form : public QWidget, public TitleBar {
     auto* made = new Control(std::forward<Arguments>(arguments)..., this);
     made->setObjectName(controlName);
     if constexpr (std::is_base_of_v<QAbstractButton, Control>) guard(made);
+    if constexpr (std::is_same_v<Control, QRadioButton>) keepTabStop(made);
     return made;
   }
   /// Makes a button with the object name `name`, the caption `text` and the tool tip `tip` (empty:
@@ -126,6 +128,7 @@ class Form : public QWidget, public TitleBar {
 
  private:
   static bool isBehindBox(const QObject* sender);
+  static void keepTabStop(QAbstractButton* option);
   bool handleKey(const QKeyEvent& key);
   void notePress(const QMouseEvent& press);
   bool isPressKey(int code) const;
