@@ -8,8 +8,7 @@ namespace karvenis {
 
 inline constexpr char settingsFile[] = "KV2005.CFG";
 
-/// Where the main window's frame stands on the screen, in twips (1/1440 inch, 15 to a pixel at 96
-/// dpi).
+/// Where the main window's frame stands on the screen, in twips (see Twips.h).
 struct Place {
   float top = 0;
   float left = 0;

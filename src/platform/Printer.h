@@ -4,7 +4,7 @@
 
 namespace karvenis {
 
-/// The door to the printer: the system's default queue. Positions are twips (1/1440 inch) from the
+/// The door to the printer: the system's default queue. Positions are twips (see Twips.h) from the
 /// page's upper left corner. Every call throws RunTimeError(printer) if there is no queue or it
 /// refuses.
 class Printer {

@@ -7,7 +7,7 @@ namespace karvenis {
 /// The colours of the standard 16-colour palette that the program prints with.
 enum class QBColor : unsigned char { blue = 1, red = 4, lightBlue = 9, lightRed = 12 };
 
-/// The surface of a window that text is printed on. Positions are twips (1/1440 inch) from its
+/// The surface of a window that text is printed on. Positions are twips (see Twips.h) from its
 /// upper left corner. Nothing here fails, and what is printed beyond the edge is not seen.
 class TextSurface {
  public:

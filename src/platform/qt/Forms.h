@@ -26,8 +26,8 @@ class Form;
 /// - the active window, which was last shown from it, closes,
 /// - the user clicks into it,
 /// - the desktop gives it the keyboard and leaves it there.
-/// When the program gives the keyboard to a
-/// window, a desktop may pass through other windows on the way; these are not activated.
+/// When the program gives the keyboard to a window, a desktop may pass through other windows on the
+/// way; these are not activated.
 class Forms final : public Windows {
  public:
   using Factory = std::function<Form*()>;
