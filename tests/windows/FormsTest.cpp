@@ -1,83 +1,14 @@
 #include "platform/qt/Forms.h"
 
-#include <QAccessible>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 #include "platform/RunTimeError.h"
-#include "windows/WindowTest.h"
+#include "windows/NotingTest.h"
+
+// Which window is the active one, how windows open and close, and how a fault ends the program.
 
 namespace karvenis {
 namespace {
 
-/// A window that notes what happens to it.
-class Noting : public Form {
- public:
-  Noting(Forms& all, std::vector<std::string>& log) : Form(all), log_(log) {
-    resize(200, 120);
-    Text1 = control<QLineEdit>(QStringLiteral("Text1"));
-    Command1 = control<QPushButton>(QStringLiteral("Command1"), QStringLiteral("Tamam"));
-    Text1->setGeometry(10, 10, 80, 24);
-    Command1->setGeometry(10, 50, 80, 30);
-    on(Command1, &QPushButton::clicked, [this] { note("Command1_Click"); });
-    onEnter(Text1, [this] {
-      note("Text1 Enter");
-      Command1->setFocus();
-    });
-    Text1->setFocus();
-  }
-  void Form_Load() override { note("Form_Load"); }
-  void Form_Activate() override { note("Form_Activate"); }
-
-  std::function<void()> onKey;
-  QLineEdit* Text1;
-  QPushButton* Command1;
-
- protected:
-  void Form_KeyDown(int KeyCode, int Shift) override {
-    note("KeyDown " + std::to_string(KeyCode) + "/" + std::to_string(Shift));
-    if (onKey) onKey();
-    if (KeyCode == keyEscape) unload();
-  }
-  void Form_KeyPress(int KeyAscii) override { note("KeyPress " + std::to_string(KeyAscii)); }
-  void Form_Click() override { note("Click"); }
-  void Form_DblClick() override { note("DblClick"); }
-  void Form_Resize() override { note("Resize"); }
-
- private:
-  void note(const std::string& what) { log_.push_back(name() + " " + what); }
-  std::vector<std::string>& log_;
-};
-
-using Log = std::vector<std::string>;
-
-class FormsTest : public WindowTest {
- protected:
-  Log log;
-  void SetUp() override {
-    for (const char* name : {"frmA", "frmB", "frmC"}) {
-      forms.add(name, [this] { return new Noting(forms, log); });
-    }
-  }
-  Noting* show(const char* name) { return static_cast<Noting*>(open(name)); }
-  Log taken() { return std::exchange(log, {}); }
-  /// The user goes to the window, as by a taskbar.
-  void go(Form* form) {
-    form->activateWindow();
-    EXPECT_TRUE(waitFor([&] { return forms.active() == form; }));
-  }
-  /// Runs the event loop until it has nothing left to do and the keyboard has settled.
-  void letSettle() {
-    bool idle = false;
-    QTimer::singleShot(0, qApp, [&] { QTimer::singleShot(0, qApp, [&] { idle = true; }); });
-    EXPECT_TRUE(waitFor([&] { return idle && forms.isSettled(); }));
-  }
-  /// One key press, without those of the keys that are held with it.
-  static void send(Form* form, Qt::Key key, Qt::KeyboardModifiers held = {}) {
-    QKeyEvent press(QEvent::KeyPress, key, held);
-    QCoreApplication::sendEvent(form->windowHandle(), &press);
-  }
-};
+class FormsTest : public NotingTest {};
 
 TEST_F(FormsTest, AWindowLoadsResizesAndActivatesOnce) {
   show("frmA");
@@ -221,40 +152,6 @@ TEST_F(FormsTest, ADesktopThatKeepsTheKeyboardElsewhereIsBelievedInTheEnd) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
 }
 
-TEST_F(FormsTest, AKeyRightBehindOneThatOpensAWindowIsThatWindowsOwn) {
-  Noting* a = show("frmA");
-  a->onKey = [this] { forms.show("frmB"); };
-  taken();
-  press(a, Qt::Key_F5);
-  a->onKey = nullptr;
-  press(a, Qt::Key_F4);
-  EXPECT_EQ(taken(), (Log{"frmA KeyDown 116/0", "frmB Form_Load", "frmB Resize",
-                          "frmB Form_Activate", "frmB KeyDown 115/0"}));
-}
-
-TEST_F(FormsTest, AKeyThatComesBackLateIsTheActiveWindowsOwn) {
-  show("frmA");
-  Noting* b = show("frmB");
-  taken();
-  QKeyEvent late(QEvent::KeyPress, Qt::Key_F4, Qt::NoModifier);
-  QCoreApplication::sendEvent(qApp, &late);
-  EXPECT_EQ(taken(), (Log{"frmB KeyDown 115/0"}));
-  EXPECT_EQ(forms.active(), b);
-}
-
-TEST_F(FormsTest, AKeyHeldSinceAnotherWindowReachesNobody) {
-  Noting* a = show("frmA");
-  QTest::keyPress(a->windowHandle(), Qt::Key_Down);
-  show("frmB");
-  taken();
-  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QString(), true);
-  QCoreApplication::sendEvent(qApp, &repeat);
-  EXPECT_TRUE(log.empty());
-  QKeyEvent press(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
-  for (QKeyEvent* key : {&press, &repeat, &repeat}) QCoreApplication::sendEvent(qApp, key);
-  EXPECT_EQ(log.size(), 3U);
-}
-
 TEST_F(FormsTest, AWindowThatComesBackFromBeingMinimisedIsActivated) {
   show("frmA");
   Noting* b = show("frmB");
@@ -290,28 +187,6 @@ TEST_F(FormsTest, TheMinimisedMainWindowComesBackThoughTheUserWorkedInIt) {
   EXPECT_FALSE(a->isMinimized());
 }
 
-TEST_F(FormsTest, AltWithAFunctionKeyIsTheDesktopsOwn) {
-  Noting* a = show("frmA");
-  taken();
-  for (int key = Qt::Key_F1; key <= Qt::Key_F12; ++key) {
-    send(a, static_cast<Qt::Key>(key), Qt::AltModifier);
-    send(a, static_cast<Qt::Key>(key), Qt::AltModifier | Qt::ShiftModifier);
-  }
-  send(a, Qt::Key_Escape, Qt::AltModifier);
-  EXPECT_TRUE(taken().empty());
-  send(a, Qt::Key_F4, Qt::ShiftModifier | Qt::ControlModifier);
-  send(a, Qt::Key_Down, Qt::AltModifier);
-  EXPECT_EQ(taken(), (Log{"frmA KeyDown 115/3", "frmA KeyDown 40/4"}));
-}
-
-TEST_F(FormsTest, CtrlInsertAndCapsLockAreKeysWhileNoScreenReaderListens) {
-  Noting* a = show("frmA");
-  ASSERT_FALSE(QAccessible::isActive());
-  taken();
-  for (const auto key : {Qt::Key_Control, Qt::Key_Insert, Qt::Key_CapsLock}) send(a, key);
-  EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/2", "frmA KeyDown 255/0", "frmA KeyDown 255/0"}));
-}
-
 TEST_F(FormsTest, ComingBackFromAnotherProgramIsNoActivation) {
   Noting* a = show("frmA");
   taken();
@@ -337,55 +212,6 @@ TEST_F(FormsTest, FocusThatMovesWhileAProcedureRunsIsNoActivation) {
   EXPECT_EQ(forms.active(), b);
 }
 
-TEST_F(FormsTest, TheFormSeesAKeyOnceBeforeTheControl) {
-  Noting* a = show("frmA");
-  taken();
-  press(a, Qt::Key_7);
-  EXPECT_EQ(taken(), (Log{"frmA KeyDown 55/0"}));
-  EXPECT_EQ(a->Text1->text(), "7");
-  press(a, Qt::Key_F1, Qt::ShiftModifier);
-  EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/1", "frmA KeyDown 112/1"})) << "Shift is a key too";
-}
-
-TEST_F(FormsTest, FunctionKeysIgnoreRepeatsAndOthersDoNot) {
-  Noting* a = show("frmA");
-  taken();
-  hold(a, Qt::Key_F5, 3);
-  EXPECT_EQ(taken().size(), 1U);
-  hold(a, Qt::Key_Down, 3);
-  EXPECT_EQ(taken().size(), 4U);
-}
-
-TEST_F(FormsTest, TheEnterThatMovesTheFocusDoesNotPressTheButton) {
-  Noting* a = show("frmA");
-  taken();
-  hold(a, Qt::Key_Return, 3);
-  EXPECT_EQ(std::ranges::count(log, "frmA Text1 Enter"), 1);
-  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 0);
-  press(a, Qt::Key_Return);
-  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 1);
-  press(a, Qt::Key_Enter);
-  EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 2);
-}
-
-TEST_F(FormsTest, AHeldSpaceOrEnterPressesTheFocusedButtonOnce) {
-  Noting* a = show("frmA");
-  a->Command1->setFocus();
-  for (const auto key : {Qt::Key_Space, Qt::Key_Return}) {
-    taken();
-    hold(a, key, 4);
-    EXPECT_EQ(std::ranges::count(log, "frmA Command1_Click"), 1) << key;
-  }
-}
-
-TEST_F(FormsTest, AHeldEscIsOneEsc) {
-  Noting* a = show("frmA");
-  taken();
-  QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
-  QCoreApplication::sendEvent(a->windowHandle(), &repeat);
-  EXPECT_TRUE(log.empty());
-}
-
 TEST_F(FormsTest, AFaultWhileAWindowLoadsShowsNoWindowAndIsTheStatus) {
   struct Broken : Form {
     explicit Broken(Forms& all) : Form(all) {}
@@ -398,43 +224,6 @@ TEST_F(FormsTest, AFaultWhileAWindowLoadsShowsNoWindowAndIsTheStatus) {
       Icon::critical);
   EXPECT_EQ(own.run(), 1);
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
-}
-
-TEST_F(FormsTest, ADoubleClickBegunElsewhereIsNone) {
-  Noting* a = show("frmA");
-  click(a, {150, 100});
-  QEvent away(QEvent::WindowDeactivate);
-  QCoreApplication::sendEvent(a, &away);
-  taken();
-  QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(150, 100), QPointF(150, 100),
-                     Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(a, &second);
-  EXPECT_EQ(std::ranges::count(log, "frmA DblClick"), 0);
-}
-
-TEST_F(FormsTest, CtrlAndAltGiveNoCharacter) {
-  Noting* a = show("frmA");
-  taken();
-  press(a, Qt::Key_Escape, Qt::ControlModifier);
-  EXPECT_EQ(std::ranges::count(log, "frmA KeyPress 27"), 0);
-}
-
-TEST_F(FormsTest, AClickCountsOnTheFreeSurfaceOnly) {
-  Noting* a = show("frmA");
-  taken();
-  click(a, {150, 100});
-  EXPECT_EQ(taken(), (Log{"frmA Click"}));
-  click(a->Text1);
-  EXPECT_TRUE(taken().empty());
-  QTest::mouseClick(a->windowHandle(), Qt::RightButton, {}, {150, 100});
-  EXPECT_TRUE(taken().empty());
-}
-
-TEST_F(FormsTest, ADoubleClickIsOneClickAndOneDoubleClick) {
-  Noting* a = show("frmA");
-  taken();
-  doubleClick(a, {150, 100});
-  EXPECT_EQ(taken(), (Log{"frmA Click", "frmA DblClick"}));
 }
 
 TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
@@ -469,17 +258,6 @@ TEST_F(FormsTest, TheScreenHearsOfTheLastCaptionWhenTheProcedureEnds) {
   };
   press(a, Qt::Key_F1);
   EXPECT_EQ(fromQt(a->windowTitle()), "BYTE= 1000");
-}
-
-TEST_F(FormsTest, KeysThatCameDuringALongActionAreDropped) {
-  Noting* a = show("frmA");
-  forms.dropInput();
-  taken();
-  press(a, Qt::Key_F1);
-  EXPECT_TRUE(taken().empty());
-  EXPECT_TRUE(waitFor([] { return !Application::instance().isDroppingInput(); }));
-  press(a, Qt::Key_F1);
-  EXPECT_EQ(taken().size(), 1U);
 }
 
 }  // namespace
