@@ -46,7 +46,7 @@ constexpr Qt::WindowFlags boxFlags =
 QtBoxes::~QtBoxes() { delete last_; }
 
 /// Tells that a box is about to open. Returns the window that it belongs to.
-QWidget* QtBoxes::announceOpening() {
+QWidget* QtBoxes::announceOpening() const {
   return beforeOpening ? beforeOpening() : QApplication::activeWindow();
 }
 

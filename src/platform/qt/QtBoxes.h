@@ -33,7 +33,7 @@ class QtBoxes final : public Boxes {
   void pointer(Pointer shape) override;
 
  private:
-  QWidget* announceOpening();
+  QWidget* announceOpening() const;
   int serve(QDialog* box);
 
   Bell bell_;
