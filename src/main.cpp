@@ -14,7 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
-// Makes the doors and the windows and connects them. What the program does is decided in the rooms.
+// Makes the doors and the windows and connects them. What the program does is decided in the
+// modules.
 
 namespace {
 

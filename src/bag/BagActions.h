@@ -30,7 +30,7 @@ void applyBag(Surroundings& around, BallButtons& buttons);
 void loadBagInBagWindow(Surroundings& around, BallButtons& buttons);
 
 /// "Kayıtla": asks; then the marked balls, also those that are bankos, become the bag and are
-/// written to the file. The bankos in the file stay. Throws RunTimeError(open, write).
+/// written to the file. The bankos in the file stay. Throws RunTimeError(open, read, write).
 void saveBag(Surroundings& around, const BallButtons& buttons);
 
 }  // namespace karvenis

@@ -29,7 +29,7 @@ static_assert(bankoCountWord == 51);
 /// The open bag file.
 class BagFile {
  public:
-  /// Opens the file, creating it if it is missing. Throws RunTimeError(open).
+  /// Opens the file, creating it if it is missing. Throws RunTimeError(open, read).
   explicit BagFile(Files& files) : file_(files, bagFileName, bagWordSize) {}
 
   /// Bytes in the file, with what has been written.
@@ -45,9 +45,10 @@ class BagFile {
   [[nodiscard]] BallSet<mostBankos> bankos(std::int16_t count);
 
   /// Writes the bag's part: the count, the balls, and 0 for the rest of the 49. Throws
-  /// RunTimeError(write).
+  /// RunTimeError(read, write).
   void write(const BallSet<ballsInAll>& bag);
-  /// Writes the banko count and the bankos; words behind them stay. Throws RunTimeError(write).
+  /// Writes the banko count and the bankos; words behind them stay. Throws
+  /// RunTimeError(read, write).
   void write(const BallSet<mostBankos>& bankos);
   /// Returns when everything is on disk and the file is closed. Throws RunTimeError(write).
   void close() { file_.close(); }

@@ -81,6 +81,8 @@ void DeleteColumn(Surroundings& around, ListPage& page) {
   const std::int32_t count = columnCount(files, combinationList);
   if (number > count) return;
   backUpList(around);
+  // The scratch file of an interrupted run is not removed first: its records beyond those written
+  // here stay in the list. Kept on purpose.
   removeColumn(around, {combinationList, ylsScratch, ScratchStart::leftOver}, number, count);
   page.PageStart = number - 1;
 }

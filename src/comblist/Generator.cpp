@@ -11,8 +11,9 @@ namespace {
 constexpr std::int32_t leastSensibleCount = 8;
 constexpr char attentionTitle[] = "! DİKKAT !";
 
-/// A new list is written over a copy of the old one too: records of a longer old list stay.
-constexpr ListAndScratch listAndScratch{combinationList, tmpScratch, ScratchStart::copyOfList};
+/// Both modes write over a copy of the old list: in a new list too, records of a longer old one
+/// stay behind the new ones. Kept on purpose.
+constexpr ListAndScratch overOldList{combinationList, tmpScratch, ScratchStart::copyOfList};
 
 }  // namespace
 
@@ -63,10 +64,10 @@ bool Generator::mayReplaceList() {
   return around_.boxes.ask("Mevcut kombinasyon listesini yenisi ile değiştirmek istiyormusunuz?");
 }
 
-/// Writes records 1..WantedCount. Records of a longer old list stay behind them.
+/// Writes records 1..WantedCount.
 void Generator::GenerateNewList(GeneratorDraw& draw) {
   backUpAnyList(around_);
-  replaceList(around_, listAndScratch, [&](ColumnFile& list) {
+  replaceList(around_, overOldList, [&](ColumnFile& list) {
     RecordNo = 0;
     do {
       title_.setCaption("KOLON=" + withBlank(RecordNo + 1));
@@ -79,7 +80,7 @@ void Generator::GenerateNewList(GeneratorDraw& draw) {
 /// Writes WantedCount records behind those that the list has now.
 void Generator::AppendToList(GeneratorDraw& draw) {
   std::int16_t Start = 0;
-  replaceList(around_, listAndScratch, [&](ColumnFile& list) {
+  replaceList(around_, overOldList, [&](ColumnFile& list) {
     RecordNo = Start = checked<std::int16_t>(list.count());
     do {
       title_.setCaption("KOLON=" + withBlank(RecordNo + 1) + "  [" +

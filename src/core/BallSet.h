@@ -10,8 +10,9 @@
 
 namespace karvenis {
 
-/// Chosen balls in the order in which they were added, at most `most` of them. A new set is empty.
-/// It holds any numbers: whoever adds one decides whether it must be a ball.
+/// Chosen balls, at most `most` of them; empty at first. Unlike a set of mathematics it keeps the
+/// order in which they were added and may hold a number twice. It holds any numbers: whoever adds
+/// one decides whether it must be a ball.
 template <std::size_t most>
 class BallSet {
  public:

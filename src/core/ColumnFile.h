@@ -26,7 +26,7 @@ class ColumnFile {
   /// Opens `name`, and creates it if it is missing. `state` and `files` must outlive this. Throws
   /// RunTimeError(open, read).
   ColumnFile(SharedState& state, Files& files, const std::string& name);
-  /// Closes the file; a failure is not reported. After writing, call close() first.
+  /// Closes the file if it is still open, and reports no failure.
   ~ColumnFile();
   ColumnFile(const ColumnFile&) = delete;
   ColumnFile& operator=(const ColumnFile&) = delete;
@@ -38,13 +38,14 @@ class ColumnFile {
   /// Whether all bytes of record `number` (from 1) are in the file.
   [[nodiscard]] bool holdsWhole(std::int64_t number) const { return file_.holdsWhole(number); }
   /// Returns record `number` (from 1); bytes past the end of the file are 0. Precondition: the file
-  /// is open. Throws RunTimeError(read), also for a number below 1.
+  /// is open. Throws RunTimeError(read), also for a number below 1, and (write) if bytes written
+  /// earlier do not go into the file.
   [[nodiscard]] ColumnRecord at(std::int64_t number);
   /// Writes `record` as record `number` (from 1); a gap before it reads as 0. Precondition: the
   /// file is open. It may reach the disk as late as close(). Throws RunTimeError(read, write).
   void put(std::int64_t number, const ColumnRecord& record);
-  /// Returns when everything written is on disk and the file is closed. Only the destructor may
-  /// follow. Throws RunTimeError(write).
+  /// Returns when everything written is on disk and the file is closed. Afterwards only close() or
+  /// the destructor may follow, and neither touches the file again. Throws RunTimeError(write).
   void close() { file_.close(); }
 
  private:

@@ -10,9 +10,9 @@ namespace karvenis {
 namespace {
 
 // Twips.
-constexpr double ballColumn = 1600;  // where the first ball of a row stands behind a short label,
-constexpr double nextBallColumn = 1700;  // behind a longer one,
-constexpr double behindLongLabel = 75;   // and how far behind the longest ones
+constexpr double ballColumn = 1600;      // the first ball of a row, if the label ends before it
+constexpr double nextBallColumn = 1700;  // else here, if the label ends before this
+constexpr double behindLongLabel = 75;   // else this far behind the label
 constexpr double ballPitch = 400;        // from ball to ball
 constexpr double sumOffset = 2500;       // from the first ball to the sum
 
@@ -103,9 +103,9 @@ void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface) {
   }
 }
 
-/// No digit is wider than an 8.
 double fitRows(TextSurface& surface) {
   constexpr int narrowest = 75;  // percent; narrower letters cannot be read
+  // No digit is wider than an 8.
   for (int percent = 100; percent > narrowest && printLabel(surface, 8888) > ballColumn;) {
     surface.letterWidth(--percent);
   }

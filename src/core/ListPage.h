@@ -36,13 +36,13 @@ struct ListPage {
 [[nodiscard]] std::string pageTitle(const std::string& list, std::int32_t PageNo);
 
 /// Clears the surface and prints the page's rows on it: a record's number in light red, then its
-/// balls and their sum in light blue. Precondition: page.fit(file.count()). Throws
-/// RunTimeError(read), and (overflow) if the sum of a damaged record outgrows 16 bits.
+/// balls and their sum in light blue. Precondition: page.fit(file.count()) has been called. Throws
+/// RunTimeError(read), and (damaged) if the sum of a record outgrows 16 bits.
 void drawPage(const ListPage& page, ColumnFile& file, TextSurface& surface);
 
-/// Makes the letters of `surface`, which is empty, narrow enough for the balls of records 1 to 9999
-/// to stand in one column, but not narrower than can be read. Returns where the widest row whose
-/// record has a number of six digits ends, in twips.
+/// Narrows the letters of `surface`, to 75 % at the least, until the balls of records 1 to 9999
+/// stand in one column. Returns the right edge, in twips, of the widest row of a record with a
+/// six-digit number. Precondition: `surface` is empty; it is empty again afterwards.
 [[nodiscard]] double fitRows(TextSurface& surface);
 
 }  // namespace karvenis

@@ -24,7 +24,7 @@ class RecordFile {
   /// Opens `name`, and creates it if it is missing. `recordLength` is in bytes, from 1 to 65536.
   /// Throws RunTimeError(open, read).
   RecordFile(Files& files, const std::string& name, std::size_t recordLength);
-  /// Closes the file; a failure is not reported. After writing, call close() first.
+  /// Closes the file if it is still open, and reports no failure.
   ~RecordFile();
   RecordFile(const RecordFile&) = delete;
   RecordFile& operator=(const RecordFile&) = delete;
@@ -46,8 +46,8 @@ class RecordFile {
   /// Writes `record` as record `number` (from 1); it may reach the disk as late as close(). The
   /// same preconditions. Throws RunTimeError(read, write).
   void write(std::int64_t number, std::span<const std::byte> record);
-  /// Returns when everything written is on disk and the file is closed. Closing twice is harmless.
-  /// Throws RunTimeError(write).
+  /// Returns when everything written is on disk and the file is closed. Afterwards only close() or
+  /// the destructor may follow, and neither touches the file again. Throws RunTimeError(write).
   void close();
 
  private:
@@ -61,11 +61,11 @@ class RecordFile {
   std::size_t recordLength_;
   std::unique_ptr<File> file_;
   std::uint64_t length_ = 0;
-  std::uint64_t blockStart_ = 0;
+  std::uint64_t blockStart_ = 0;  // where the block begins in the file, in bytes
   std::vector<std::byte> block_;  // empty until the first access
   std::size_t dirtyFrom_ = 0;     // the bytes of the block that are not in the file yet
   std::size_t dirtyTo_ = 0;
-  bool written_ = false;
+  bool written_ = false;  // something has been written since the opening
 };
 
 }  // namespace karvenis

@@ -23,12 +23,13 @@ struct ListAndScratch {
   ScratchStart start;
 };
 
-/// Replaces a list. Every list is replaced by this function, in these steps: a protected list is
-/// refused before anything is written; the scratch file gets the rights of the list; `fill` writes
-/// it; and it takes the name of the list in one step on disk. The list holds its old or its new
-/// bytes at every moment, and after a fault no scratch file is left. `fill` gets the open scratch
-/// file and does not close it. The keys and clicks that come meanwhile are dropped. Throws
-/// RunTimeError, and what `fill` throws.
+/// Replaces a list by one that is written record by record. (A list that becomes a copy of another
+/// file is replaced by copyList.) The steps: a protected list is refused before anything is
+/// written; the scratch file gets the rights of the list; `fill` writes it; and it takes the name
+/// of the list in one step on disk. The list holds its old or its new bytes at every moment, and
+/// after a fault no scratch file is left. `fill` gets the open scratch file and does not close it.
+/// The keys and clicks that come meanwhile are dropped. Throws RunTimeError, and what `fill`
+/// throws.
 void replaceList(Surroundings& around, const ListAndScratch& names,
                  const std::function<void(ColumnFile& scratch)>& fill);
 

@@ -20,7 +20,8 @@ struct ListPick {
 
 /// "Listeden Çek": takes a random record of the combination list as the drawn column, in its stored
 /// order and unchecked, and beeps. Warns and returns nothing if there is no list or it is empty. A
-/// record that is not whole leaves the drawn column as it was. Throws RunTimeError(open, read).
+/// record that is not whole leaves the drawn column as it was. Throws RunTimeError(open, read,
+/// overflow).
 [[nodiscard]] std::optional<ListPick> PickFromList(Surroundings& around);
 
 /// The main window's title after a pick.

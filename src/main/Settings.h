@@ -20,7 +20,7 @@ struct Place {
 [[nodiscard]] std::optional<Place> readPlace(Files& files);
 
 /// Writes the place, creating the file if it is missing; a longer file keeps its length. Throws
-/// RunTimeError(open, write), and then the file holds what it held before.
+/// RunTimeError(open, read, write), and then the file holds what it held before.
 void writePlace(Files& files, Place place);
 
 }  // namespace karvenis

@@ -5,8 +5,8 @@
 namespace karvenis {
 
 /// The door to the printer: the system's default queue. Positions are twips (see Twips.h) from the
-/// page's upper left corner. Every call throws RunTimeError(printer) if there is no queue or it
-/// refuses.
+/// page's upper left corner. Every call but killDocument() throws RunTimeError(printer) if there is
+/// no queue or it refuses.
 class Printer {
  public:
   virtual ~Printer() = default;

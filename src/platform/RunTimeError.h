@@ -13,13 +13,14 @@ enum class Fault {
   copy,      ///< a file could not be copied over another
   remove,    ///< a file could not be deleted
   rename,    ///< a file could not take another name
-  damaged,   ///< a file holds a column that cannot be one
+  damaged,   ///< a file holds a column whose sum outgrows 16 bits
   overflow,  ///< a number outgrew its 16 or 32 bits
   printer,   ///< the printer refused
 };
 
 /// An unexpected fault, which ends the program with one box (see Forms). A refusal that the user
-/// can meet in normal work is a return value and never a RunTimeError.
+/// can meet in normal work is a return value and never a RunTimeError. In comments,
+/// RunTimeError(read) means one whose fault() is Fault::read.
 class RunTimeError : public std::runtime_error {
  public:
   /// `subject` is the file concerned, or the number that overflowed; `reason` says why, in Turkish.

@@ -21,13 +21,13 @@ std::string systemErrorText(int error) {
       return "Giriş/çıkış hatası.";
     case EISDIR:
       return "Bu adda bir klasör var.";
-    case EINVAL:
+    case EINVAL:  // not a regular file
       return "Olağan bir dosya değil.";
     case ENOENT:
       return "Dosya bulunamadı.";
-    case EBADF:
+    case EBADF:  // written to, but opened for reading only
       return "Dosya salt okunur.";
-    case EAGAIN:
+    case EAGAIN:  // locked by another program's copy
       return "Dosya başka bir programda kullanılıyor.";
     case ELOOP:
       return "Bağlantı kendine dönüyor.";

@@ -200,10 +200,10 @@ std::string folderOf(const std::string& path) {
   return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// Makes the file `name`, new and empty, and locks it while it is open. A file that an interrupted
-/// copy left behind is removed. If another program is copying to the same target at this moment,
-/// its file stays, and none is returned.
-Descriptor openAlone(const std::string& name) {
+/// Creates the file `name`, empty, and locks it until it is closed. A file that an interrupted copy
+/// left behind is removed first. Returns no descriptor if another program holds the lock, since it
+/// is copying to the same target, or if the file cannot be created; errno then says which.
+Descriptor createLocked(const std::string& name) {
   constexpr int flags = O_CLOEXEC | O_NOFOLLOW;
   {
     const Descriptor leftOver(::open(name.c_str(), O_RDONLY | O_NONBLOCK | flags));
@@ -226,11 +226,12 @@ void failIfProtected(Fault fault, const std::string& name) {
 class Replacement {
  public:
   explicit Replacement(const std::string& target)
-      : target_(behindLinks(target)), name_(target_ + "~"), descriptor_(openAlone(name_)) {
+      : target_(behindLinks(target)), name_(target_ + "~"), descriptor_(createLocked(name_)) {
     if (!descriptor_) fail(Fault::copy, target_);
   }
   ~Replacement() {
-    if (!done_) ::unlink(name_.c_str());  // the lock shows that it is ours
+    // It is ours: createLocked() leaves another program's file alone.
+    if (!done_) ::unlink(name_.c_str());
   }
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;

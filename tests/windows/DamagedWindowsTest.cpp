@@ -22,13 +22,13 @@ constexpr char textFile[] = "KARVENIS.TXT";
 constexpr char settings[] = "KV2005.CFG";
 
 /// What a window is asked to do besides its function keys.
-struct Room {
+struct Visit {
   const char* name;
   std::vector<const char*> controls;  ///< clicked one after the other
 };
 
-const std::vector<Room>& rooms() {
-  static const std::vector<Room> all = {
+const std::vector<Visit>& visits() {
+  static const std::vector<Visit> all = {
       {"frmLoto", {"Option2", "Command1", "Check1", "Option1", "Command1"}},
       {"frmBalls", {"Command1", "Command3", "Command4"}},
       {"frmBanko", {"Command1", "Command3", "Command4"}},
@@ -70,23 +70,23 @@ class DamagedWindows : public testing::Test {
   }
   /// Looks at the files through every window that is there for it.
   void look() {
-    for (const Room& room : rooms()) {
+    for (const Visit& visit : visits()) {
       for (const auto key : {Qt::Key_PageDown, Qt::Key_End, Qt::Key_Down, Qt::Key_Home}) {
-        Form* form = window(room.name);
+        Form* form = window(visit.name);
         if (form == nullptr) break;
         press(form, key);
       }
     }
   }
-  /// Runs every command of `room`, each time with `content` in the folder.
-  void command(const Room& room, const Folder& content) {
+  /// Runs every command of `visit`, each time with `content` in the folder.
+  void command(const Visit& visit, const Folder& content) {
     for (int key = Qt::Key_F1; key <= Qt::Key_F12; ++key) {
       folder_.fill(content);
-      if (Form* form = window(room.name)) press(form, static_cast<Qt::Key>(key));
+      if (Form* form = window(visit.name)) press(form, static_cast<Qt::Key>(key));
     }
     folder_.fill(content);
-    for (const char* name : room.controls) {
-      Form* form = window(room.name);
+    for (const char* name : visit.controls) {
+      Form* form = window(visit.name);
       if (form == nullptr) return;
       auto* control = form->findChild<QAbstractButton*>(QLatin1String(name));
       ASSERT_NE(control, nullptr) << name;
@@ -102,7 +102,7 @@ class DamagedWindows : public testing::Test {
   }
   void surviveCommands(const Folder& content) {
     boxes_.typed = "1-2";
-    for (const Room& room : rooms()) command(room, content);
+    for (const Visit& visit : visits()) command(visit, content);
   }
   void TearDown() override {
     program_.reset();
@@ -164,10 +164,10 @@ TEST_F(DamagedWindows, BagFilesWithCountsThatAreNonePassEveryCommand) {
     SCOPED_TRACE(count);
     std::vector<int> bag(120, 7);
     bag[0] = bag[50] = count;
-    for (const Room& room : rooms()) {
-      const std::string name = room.name;
+    for (const Visit& visit : visits()) {
+      const std::string name = visit.name;
       if (name == "frmLoto" || name == "frmBalls" || name == "frmBanko" || name == "frmList") {
-        command(room, {{bagFile, words(bag)}});
+        command(visit, {{bagFile, words(bag)}});
       }
     }
   }
