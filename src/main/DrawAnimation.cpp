@@ -3,7 +3,6 @@
 namespace karvenis {
 namespace {
 
-constexpr std::int16_t lastPhase = 15;
 constexpr std::int16_t lastFrame = 16;
 constexpr std::int16_t startDelay = 10;
 
@@ -22,28 +21,14 @@ void DrawAnimation::tick(int k) {
   } else if (++delay_ < startDelay) {
     return;
   }
-  if (phase_ == 0) {
-    stage_.setLabel(mainLabel(k), number(drawn_, k));
-    if (k == 1) {
-      stage_.showLabel(1, false);
-      stage_.showLabel(0, false);
-    }
-  }
-  if (++phase_ > lastPhase) {
-    phase_ = 0;
+  if (frame_ == 0) beginBall(k);
+  const bool ends = ++frame_ == lastFrame;
+  if (ends) {
     stage_.enableTimer(k, false);
-    if (k > 1) delay_ = 0;
     stage_.beep();
   }
-  ++frame_;
   moveBall(k);
-  if (phase_ == 0) {
-    stage_.setLabel(copyLabel(k), stage_.label(mainLabel(k)));
-    stage_.showLabel(copyLabel(k), true);
-    frame_ = 0;
-    if (k == 1) delay_ = 0;
-    if (k < ballsInColumn) stage_.enableTimer(k + 1, true);
-  }
+  if (ends) endBall(k);
 }
 
 void DrawAnimation::hideLastDraw() {
@@ -51,6 +36,13 @@ void DrawAnimation::hideLastDraw() {
   for (int label = copyLabel(ballsInColumn); label >= mainLabel(2); --label) {
     stage_.showLabel(label, false);
   }
+}
+
+void DrawAnimation::beginBall(int k) {
+  stage_.setLabel(mainLabel(k), number(drawn_, k));
+  if (k > 1) return;
+  stage_.showLabel(copyLabel(1), false);
+  stage_.showLabel(mainLabel(1), false);
 }
 
 /// Shows the picture of the current frame instead of the one before. Every tick repeats that, so
@@ -69,6 +61,14 @@ void DrawAnimation::moveBall(int k) {
   } else if (frame_ >= 6) {
     stage_.showImage(imageIndex(k, 'a'), true);
   }
+}
+
+void DrawAnimation::endBall(int k) {
+  stage_.setLabel(copyLabel(k), stage_.label(mainLabel(k)));
+  stage_.showLabel(copyLabel(k), true);
+  frame_ = 0;
+  delay_ = 0;
+  if (k < ballsInColumn) stage_.enableTimer(k + 1, true);
 }
 
 void showNumbers(BallStage& stage, const Column& drawn) {

@@ -21,7 +21,7 @@ class BallStage {
   virtual void showImage(int index, bool visible) = 0;
   virtual void showLabel(int index, bool visible) = 0;
   virtual void setLabel(int index, const std::string& caption) = 0;
-  virtual std::string label(int index) const = 0;
+  [[nodiscard]] virtual std::string label(int index) const = 0;
   /// `timer` is 1..6.
   virtual void enableTimer(int timer, bool enabled) = 0;
   virtual void beep() = 0;
@@ -41,12 +41,13 @@ class DrawAnimation {
 
  private:
   void hideLastDraw();
+  void beginBall(int k);
   void moveBall(int k);
+  void endBall(int k);
 
   BallStage& stage_;
   const Column& drawn_;
-  std::int16_t phase_ = 0;  // active ticks of the current ball
-  std::int16_t frame_ = 0;  // picture step of the current ball
+  std::int16_t frame_ = 0;  // active ticks of the current ball, each a step of its pictures
   std::int16_t delay_ = 0;  // ticks since the ball before it ended
 };
 
