@@ -45,7 +45,7 @@ void frmLoto::closeRequested() { around_.windows.end(); }
 
 void frmLoto::Command1_Click() {
   showBackground();
-  cover_.stamp(around_.clock.minute());
+  cover_.noteUse(around_.clock.minute());
   if (Option1->isChecked()) {
     newColumnFromBag();
   } else {
@@ -99,7 +99,7 @@ std::string frmLoto::drawnNumbers() const { return listed(around_.state.Drawn); 
 void frmLoto::Picture0_Click() {
   around_.boxes.beep();
   hideOpening();
-  cover_.stamp(around_.clock.minute());
+  cover_.noteUse(around_.clock.minute());
 }
 
 /// Hides the opening picture. If it has the focus, the button of the next draw gets it.
@@ -116,7 +116,7 @@ void frmLoto::Label1_MouseMove(int Index) {
 void frmLoto::Timer0_Timer() {
   Label2->setText(toQt(around_.clock.date()));
   Label3->setText(toQt(around_.clock.time()));
-  if (Picture0->isHidden() && cover_.returns(around_.clock.minute())) Picture0->show();
+  if (Picture0->isHidden() && cover_.isDue(around_.clock.minute())) Picture0->show();
   banner_.tick();
   placeBanner();
 }

@@ -3,8 +3,9 @@
 #include <QPixmap>
 
 #include "core/Surroundings.h"
+#include "main/Banner.h"
 #include "main/DrawAnimation.h"
-#include "main/Idle.h"
+#include "main/IdleCover.h"
 #include "main/Settings.h"
 #include "platform/qt/Artwork.h"
 #include "platform/qt/ControlArray.h"

@@ -6,7 +6,8 @@
 #include <map>
 
 #include "doubles/Doubles.h"
-#include "main/Idle.h"
+#include "main/Banner.h"
+#include "main/IdleCover.h"
 
 namespace karvenis {
 namespace {
@@ -214,12 +215,12 @@ TEST(Banner, SwaysBetweenItsTurns) {
   EXPECT_EQ(rightmostAfterTurn, 0);
 }
 
-TEST(IdleCover, ReturnsInAnotherMinuteOnly) {
+TEST(IdleCover, IsDueInAnotherMinuteOnly) {
   IdleCover cover;
-  EXPECT_TRUE(cover.returns(34));
-  cover.stamp(59);
-  EXPECT_FALSE(cover.returns(59));
-  EXPECT_TRUE(cover.returns(0));
+  EXPECT_TRUE(cover.isDue(34));
+  cover.noteUse(59);
+  EXPECT_FALSE(cover.isDue(59));
+  EXPECT_TRUE(cover.isDue(0));
 }
 
 }  // namespace
