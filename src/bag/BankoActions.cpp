@@ -18,15 +18,15 @@ std::int16_t ballAtStart(std::string_view text) {
   return number;
 }
 
-void clearBoxes(BankoBoxes& boxes) {
-  for (int index = 0; index < mostBankos; ++index) boxes.setText(index, "");
+void clearFields(BankoFields& fields) {
+  for (int index = 0; index < mostBankos; ++index) fields.setText(index, "");
 }
 
-/// The numbers of the boxes in use become the bankos, each once.
-void takeTyped(SharedState& state, const BankoBoxes& boxes) {
+/// The numbers of the fields in use become the bankos, each once.
+void takeTyped(SharedState& state, const BankoFields& fields) {
   state.Banko.clear();
-  for (int index = 0; index < boxes.count(); ++index) {
-    const std::int16_t ball = ballAtStart(boxes.text(index));
+  for (int index = 0; index < fields.count(); ++index) {
+    const std::int16_t ball = ballAtStart(fields.text(index));
     if (ball > 0 && !state.Banko.contains(ball)) state.Banko.add(ball);
   }
 }
@@ -44,26 +44,26 @@ std::string bankoText(std::string_view typed) {
   return std::to_string(ball);
 }
 
-void ShowBankoSelection(const SharedState& state, BankoBoxes& boxes) {
+void ShowBankoSelection(const SharedState& state, BankoFields& fields) {
   const auto bankos = state.Banko.balls();
-  boxes.chooseCount(static_cast<int>(bankos.size()));
+  fields.chooseCount(static_cast<int>(bankos.size()));
   for (int index = 0; const std::int16_t banko : bankos) {
-    boxes.setText(index++, std::to_string(banko));
+    fields.setText(index++, std::to_string(banko));
   }
 }
 
-void applyBanko(Surroundings& around, BankoBoxes& boxes) {
+void applyBanko(Surroundings& around, BankoFields& fields) {
   around.boxes.beep();
-  takeTyped(around.state, boxes);
-  clearBoxes(boxes);
+  takeTyped(around.state, fields);
+  clearFields(fields);
   around.state.Bag.remove(around.state.Banko);
-  ShowBankoSelection(around.state, boxes);
+  ShowBankoSelection(around.state, fields);
   around.windows.announce(spokenBanko(around.state));
 }
 
 void clearBanko(SharedState& state) { state.Banko.clear(); }
 
-void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
+void loadBankoInBankoWindow(Surroundings& around, BankoFields& fields) {
   around.boxes.beep();
   const std::int64_t length = bagFileLength(around.files);
   if (!holdsBankos(length, 0)) return;
@@ -74,8 +74,8 @@ void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
   const std::int16_t count = file.bankoCount();
   if (holdsBankos(length, count)) {
     around.state.Banko = file.bankos(count);
-    clearBoxes(boxes);
-    ShowBankoSelection(around.state, boxes);
+    clearFields(fields);
+    ShowBankoSelection(around.state, fields);
     around.windows.announce(spokenBanko(around.state));
   } else {
     around.boxes.warn(bagFileBroken, errorTitle);
@@ -84,16 +84,16 @@ void loadBankoInBankoWindow(Surroundings& around, BankoBoxes& boxes) {
   around.state.Bag.remove(around.state.Banko);
 }
 
-void saveBanko(Surroundings& around, BankoBoxes& boxes) {
+void saveBanko(Surroundings& around, BankoFields& fields) {
   around.boxes.beep();
   if (!around.boxes.ask(
           "Banko topları (topu) KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?")) {
     return;
   }
-  applyBanko(around, boxes);
+  applyBanko(around, fields);
 
   BagFile file(around.files);
-  if (file.length() < 2) file.write(BallSet<ballsInAll>());
+  if (file.length() < bagWordSize) file.write(BallSet<ballsInAll>());
   file.write(around.state.Banko);
   file.close();
   around.boxes.beep();

@@ -13,7 +13,7 @@ class NumberField;
 
 /// The banko window: how many bankos there are, and which. What is typed counts when it is applied
 /// or saved.
-class frmBanko final : public frmSelection, private BankoBoxes {
+class frmBanko final : public frmSelection, private BankoFields {
   Q_OBJECT
 
  public:

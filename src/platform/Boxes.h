@@ -9,8 +9,8 @@ enum class Pointer { normal, hourglass };                   ///< shapes of the m
 
 /// The title of the main window and of every box that has none of its own.
 inline constexpr char standardTitle[] = " KARVENIS 2005 Randomizer";
-/// The title of a box that shows the application's bare name.
-inline constexpr char defaultTitle[] = "KARVENIS";
+/// The application's bare name, the title of one box.
+inline constexpr char bareTitle[] = "KARVENIS";
 inline constexpr char errorTitle[] = "! HATA !";
 inline constexpr char functionKeysTitle[] = " FONKSİYON TUŞLARI";
 
@@ -24,11 +24,13 @@ class Boxes {
                        Icon icon = Icon::none) = 0;
   /// Shows a box with the buttons "Evet" (the first and the default one) and "Hayır" and the
   /// question icon. Returns true for Yes. Esc and closing the box mean No.
-  virtual bool ask(const std::string& text, const std::string& title = standardTitle) = 0;
+  [[nodiscard]] virtual bool ask(const std::string& text,
+                                 const std::string& title = standardTitle) = 0;
   /// Shows a box with one line to type into. The line holds `preset` at first; while it is empty,
   /// it shows `example` in grey. Returns the line, or an empty text if the user cancels.
-  virtual std::string input(const std::string& prompt, const std::string& title,
-                            const std::string& preset, const std::string& example) = 0;
+  [[nodiscard]] virtual std::string input(const std::string& prompt, const std::string& title,
+                                          const std::string& preset,
+                                          const std::string& example) = 0;
   /// Gives one beep, and does not wait for its end.
   virtual void beep() = 0;
   /// Shows the pointer in `shape` over all windows of the program, until the next call.

@@ -56,7 +56,7 @@ void changeRndFile(Surroundings& around, TitleBar& title) {
   Files& files = around.files;
   if (!files.exists(randomColumns)) return;
   std::int32_t count = 0;
-  // If the columns cannot be counted, the file is not taken for an empty one, which is deleted.
+  // A file that cannot be counted must not be taken for an empty one: an empty file is deleted.
   if (!ignoringFaults([&] { count = columnCount(files, randomColumns); })) return;
   if (count > 0) {
     around.boxes.beep();
@@ -88,7 +88,7 @@ void reportNewList(Surroundings& around) {
 void deleteRndFile(Surroundings& around, TitleBar& title) {
   if (!askAndDeleteRndFile(around)) return;
   around.boxes.beep();
-  around.boxes.message("KARVENIS.RND dosyası silindi.", defaultTitle);
+  around.boxes.message("KARVENIS.RND dosyası silindi.", bareTitle);
   title.setCaption(standardTitle);
 }
 

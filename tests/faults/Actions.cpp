@@ -1,17 +1,16 @@
 #include "faults/Actions.h"
 
 #include <algorithm>
-#include <array>
 #include <tuple>
 
-#include "bag/BagActions.h"
 #include "bag/BagFile.h"
-#include "bag/BankoActions.h"
 #include "bag/MainWindowLoads.h"
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
 #include "comblist/Generator.h"
 #include "doubles/Doubles.h"
+#include "doubles/PlainButtons.h"
+#include "doubles/PlainFields.h"
 #include "doubles/RecordingSurface.h"
 #include "listing/Listing.h"
 #include "main/NewColumn.h"
@@ -26,30 +25,12 @@ namespace {
 constexpr std::int32_t longList = 4100;  // a block holds 4096
 constexpr char textFile[] = "KARVENIS.TXT";
 
-class Buttons final : public BallButtons {
- public:
-  bool isMarked(int ball) const override { return marked_.at(static_cast<std::size_t>(ball)); }
-  void setMarked(int ball, bool marked) override {
-    marked_.at(static_cast<std::size_t>(ball)) = marked;
-  }
-
- private:
-  std::array<bool, ballsInAll + 1> marked_{};
-};
-
-class BankoInputs final : public BankoBoxes {
- public:
-  int count() const override { return count_; }
-  void chooseCount(int count) override { count_ = count; }
-  std::string text(int index) const override { return texts_.at(static_cast<std::size_t>(index)); }
-  void setText(int index, const std::string& text) override {
-    texts_.at(static_cast<std::size_t>(index)) = text;
-  }
-
- private:
-  int count_ = 2;
-  std::array<std::string, mostBankos> texts_{"11", "12"};
-};
+PlainFields twoBankos() {
+  PlainFields fields;
+  fields.chosen = 2;
+  fields.texts = {"11", "12"};
+  return fields;
+}
 
 Bytes bagBytes() {
   std::vector<int> all(50, 0);
@@ -109,7 +90,7 @@ void appendList(Surroundings& around, TitleBar&) {
 
 void deleteKept(Surroundings& around, TitleBar&) {
   ColumnDeletion deletion(around);
-  if (deletion.load()) deletion.remove(1);
+  if (deletion.load()) std::ignore = deletion.remove(1);
 }
 
 void deleteListed(Surroundings& around, TitleBar&) {
@@ -125,33 +106,33 @@ void showListed(Surroundings& around, TitleBar& title) {
 }
 
 void loadBagWindow(Surroundings& around, TitleBar&) {
-  Buttons buttons;
+  PlainButtons buttons;
   loadBagInBagWindow(around, buttons);
 }
 
 void saveBagWindow(Surroundings& around, TitleBar&) {
-  Buttons buttons;
-  for (const int ball : {1, 2, 3, 9, 10, 11, 12, 13, 14}) buttons.setMarked(ball, true);
+  PlainButtons buttons;
+  buttons.mark({1, 2, 3, 9, 10, 11, 12, 13, 14});
   saveBag(around, buttons);
 }
 
 void loadBankoWindow(Surroundings& around, TitleBar&) {
-  BankoInputs inputs;
-  loadBankoInBankoWindow(around, inputs);
+  PlainFields fields = twoBankos();
+  loadBankoInBankoWindow(around, fields);
 }
 
 void saveBankoWindow(Surroundings& around, TitleBar&) {
-  BankoInputs inputs;
-  saveBanko(around, inputs);
+  PlainFields fields = twoBankos();
+  saveBanko(around, fields);
 }
 
 template <Generator::Mode mode, int count>
 void generate(Surroundings& around, TitleBar& title) {
-  Generator(around, title).start(mode, std::to_string(count));
+  std::ignore = Generator(around, title).start(mode, std::to_string(count));
 }
 
 void writeCombinations(Surroundings& around, TitleBar& title) {
-  listCombinations(around, title, Output::text, {1, 100});
+  std::ignore = listCombinations(around, title, Output::text, {1, 100});
 }
 
 void showKept(Surroundings& around, TitleBar& title) {

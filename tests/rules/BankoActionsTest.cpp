@@ -2,72 +2,56 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 #include "bag/Spoken.h"
 #include "bag/Texts.h"
+#include "doubles/BagWords.h"
 #include "doubles/Doubles.h"
+#include "doubles/PlainFields.h"
 #include "doubles/RefusingFiles.h"
 #include "doubles/Sets.h"
 
 namespace karvenis {
 namespace {
 
-constexpr char loadQuestion[] = "Banko topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?";
 constexpr char saveQuestion[] =
     "Banko topları (topu) KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?";
-constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
 constexpr char saved[] = "Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...";
 
 using Words = std::vector<std::string>;
-using Texts = std::array<std::string, 5>;
-
-/// Boxes without a window, with the filter that the window gives them.
-class PlainBoxes final : public BankoBoxes {
- public:
-  int chosen = 0;
-  Texts texts;
-
-  int count() const override { return chosen; }
-  void chooseCount(int count) override { chosen = count; }
-  std::string text(int index) const override { return texts.at(static_cast<std::size_t>(index)); }
-  void setText(int index, const std::string& text) override {
-    texts.at(static_cast<std::size_t>(index)) = bankoText(text);
-  }
-};
+using Texts = PlainFields::Texts;
 
 TEST(ShowBankoSelection, ChoosesTheCountAndWritesTheBankos) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBanko(world.state, {30, 7});
-  ShowBankoSelection(world.state, boxes);
-  EXPECT_EQ(boxes.chosen, 2);
-  EXPECT_EQ(boxes.texts, (Texts{"30", "7", "", "", ""}));
+  ShowBankoSelection(world.state, fields);
+  EXPECT_EQ(fields.chosen, 2);
+  EXPECT_EQ(fields.texts, (Texts{"30", "7", "", "", ""}));
 }
 
-TEST(ShowBankoSelection, BoxesBeyondTheCountKeepTheirText) {
+TEST(ShowBankoSelection, FieldsBeyondTheCountKeepTheirText) {
   World world;
-  PlainBoxes boxes;
-  boxes.texts = {"1", "2", "3", "4", "5"};
+  PlainFields fields;
+  fields.texts = {"1", "2", "3", "4", "5"};
   setBanko(world.state, {30});
-  ShowBankoSelection(world.state, boxes);
-  EXPECT_EQ(boxes.texts, (Texts{"30", "2", "3", "4", "5"}));
+  ShowBankoSelection(world.state, fields);
+  EXPECT_EQ(fields.texts, (Texts{"30", "2", "3", "4", "5"}));
   clearBanko(world.state);
-  ShowBankoSelection(world.state, boxes);
-  EXPECT_EQ(boxes.chosen, 0);
-  EXPECT_EQ(boxes.texts, (Texts{"30", "2", "3", "4", "5"}));
+  ShowBankoSelection(world.state, fields);
+  EXPECT_EQ(fields.chosen, 0);
+  EXPECT_EQ(fields.texts, (Texts{"30", "2", "3", "4", "5"}));
 }
 
-TEST(ShowBankoSelection, ABankoThatIsNoBallShowsAnEmptyBoxAndStays) {
+TEST(ShowBankoSelection, ABankoThatIsNoBallShowsAnEmptyFieldAndStays) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBanko(world.state, {77, 7, -3});
-  ShowBankoSelection(world.state, boxes);
-  EXPECT_EQ(boxes.chosen, 3);
-  EXPECT_EQ(boxes.texts, (Texts{"", "7", "", "", ""}));
+  ShowBankoSelection(world.state, fields);
+  EXPECT_EQ(fields.chosen, 3);
+  EXPECT_EQ(fields.texts, (Texts{"", "7", "", "", ""}));
   EXPECT_EQ(bankoOf(world.state), (Set{77, 7, -3}));
   world.boxes.expectBeep();
-  applyBanko(world.around, boxes);
+  applyBanko(world.around, fields);
   EXPECT_EQ(bankoOf(world.state), Set{7});
 }
 
@@ -84,16 +68,16 @@ class ApplyBanko : public testing::TestWithParam<Apply> {};
 
 TEST_P(ApplyBanko, TakesTheDistinctNumbersInTheirOrder) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBag(world.state, {7, 12, 30, 44});
   setBanko(world.state, {48, 49});
-  boxes.chosen = GetParam().count;
-  boxes.texts = GetParam().typed;
+  fields.chosen = GetParam().count;
+  fields.texts = GetParam().typed;
   world.boxes.expectBeep();
-  applyBanko(world.around, boxes);
+  applyBanko(world.around, fields);
   EXPECT_EQ(bankoOf(world.state), GetParam().banko);
-  EXPECT_EQ(boxes.chosen, static_cast<int>(GetParam().banko.size()));
-  EXPECT_EQ(boxes.texts, GetParam().shown);
+  EXPECT_EQ(fields.chosen, static_cast<int>(GetParam().banko.size()));
+  EXPECT_EQ(fields.texts, GetParam().shown);
   EXPECT_EQ(bagOf(world.state), GetParam().bag);
   EXPECT_EQ(world.windows.announced, Words{spokenBanko(world.state)});
 }
@@ -101,7 +85,7 @@ TEST_P(ApplyBanko, TakesTheDistinctNumbersInTheirOrder) {
 const Set wholeBag = {7, 12, 30, 44};
 
 INSTANTIATE_TEST_SUITE_P(
-    Boxes, ApplyBanko,
+    Fields, ApplyBanko,
     testing::Values(
         Apply{"Two", 2, {"30", "7"}, {30, 7}, {"30", "7"}, {12, 44}},
         Apply{"Five",
@@ -111,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
               {"5", "4", "3", "2", "1"},
               wholeBag},
         Apply{"ABlankAndARepeat", 3, {"12", "", "12"}, {12}, {"12"}, {7, 30, 44}},
-        Apply{"BoxesBeyondTheCountAreCleared", 1, {"1", "2", "3", "4", "5"}, {1}, {"1"}, wholeBag},
+        Apply{"FieldsBeyondTheCountAreCleared", 1, {"1", "2", "3", "4", "5"}, {1}, {"1"}, wholeBag},
         Apply{"NoCount", 0, {"12", "7"}, {}, {}, wholeBag},
         Apply{"AllBlank", 4, {}, {}, {}, wholeBag},
         Apply{"ABlankFirst", 3, {"", "9", "8"}, {9, 8}, {"9", "8"}, wholeBag},
@@ -127,32 +111,32 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ApplyBanko, BeepsBeforeAnythingElse) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBanko(world.state, {48});
-  boxes.chosen = 2;
-  boxes.texts = {"7", "12"};
+  fields.chosen = 2;
+  fields.texts = {"7", "12"};
   Set bankos;
   Texts texts;
   world.journal.listener = [&](const std::string&) {
     bankos = bankoOf(world.state);
-    texts = boxes.texts;
+    texts = fields.texts;
   };
   world.boxes.expectBeep();
-  applyBanko(world.around, boxes);
+  applyBanko(world.around, fields);
   EXPECT_EQ(bankos, Set{48});
   EXPECT_EQ(texts, (Texts{"7", "12"}));
 }
 
 TEST(ApplyBanko, BallsThatLeftTheBagDoNotReturn) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBag(world.state, {7, 12});
-  boxes.chosen = 1;
-  boxes.texts = {"7"};
+  fields.chosen = 1;
+  fields.texts = {"7"};
   world.boxes.expectBeep(2);
-  applyBanko(world.around, boxes);
-  boxes.chosen = 0;
-  applyBanko(world.around, boxes);
+  applyBanko(world.around, fields);
+  fields.chosen = 0;
+  applyBanko(world.around, fields);
   EXPECT_EQ(bankoOf(world.state), Set{});
   EXPECT_EQ(bagOf(world.state), Set{12});
 }
@@ -166,161 +150,6 @@ TEST(ClearBanko, ClearsTheCountOnly) {
   EXPECT_EQ(bagOf(world.state), Set{1});
 }
 
-std::vector<int> withBankoPart(const std::vector<int>& banko) {
-  std::vector<int> all(50);
-  all.insert(all.end(), banko.begin(), banko.end());
-  return all;
-}
-
-struct Load {
-  const char* name;
-  std::vector<int> bankoPart;
-  Set banko;
-  Texts shown;
-  Set bag;  // it was 7, 12, 30, 44 before
-};
-
-class LoadBankoInWindow : public testing::TestWithParam<Load> {};
-
-TEST_P(LoadBankoInWindow, TakesAndShowsTheFile) {
-  World world;
-  PlainBoxes boxes;
-  setBag(world.state, wholeBag);
-  setBanko(world.state, {48, 49});
-  boxes.chosen = 5;
-  boxes.texts = {"1", "2", "3", "4", "5"};
-  const Bytes file = words(withBankoPart(GetParam().bankoPart));
-  world.files.folder["KARVENIS.DAT"] = file;
-  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), GetParam().banko);
-  EXPECT_EQ(boxes.chosen, static_cast<int>(GetParam().banko.size()));
-  EXPECT_EQ(boxes.texts, GetParam().shown);
-  EXPECT_EQ(bagOf(world.state), GetParam().bag);
-  EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), file) << "a load writes nothing";
-  EXPECT_EQ(world.windows.announced, Words{spokenBanko(world.state)});
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, LoadBankoInWindow,
-    testing::Values(
-        Load{"Two", {2, 30, 7}, {30, 7}, {"30", "7"}, {12, 44}},
-        Load{"Five", {5, 1, 2, 3, 4, 5}, {1, 2, 3, 4, 5}, {"1", "2", "3", "4", "5"}, wholeBag},
-        Load{"StaleOnesBehind", {1, 7, 12}, {7}, {"7"}, {12, 30, 44}},
-        Load{"NotRangeChecked", {2, 77, 7}, {77, 7}, {"", "7"}, {12, 30, 44}},
-        Load{"None", {0}, {}, {}, wholeBag}, Load{"Negative", {-1}, {}, {}, wholeBag},
-        Load{"MostNegative", {-32768}, {}, {}, wholeBag},
-        Load{"Six", {6, 1, 2, 3, 4, 5, 6}, {}, {}, wholeBag},
-        Load{"SevenIn118Bytes", {7, 1, 2, 3, 4, 5, 6, 7, 8}, {}, {}, wholeBag}),
-    [](const auto& row) { return row.param.name; });
-
-struct Broken {
-  const char* name;
-  std::vector<int> bankoPart;
-};
-
-class LoadBrokenBanko : public testing::TestWithParam<Broken> {};
-
-TEST_P(LoadBrokenBanko, SaysSoAndLeavesTheBankos) {
-  World world;
-  PlainBoxes boxes;
-  setBag(world.state, {7, 12});
-  setBanko(world.state, {12, 49});
-  boxes.chosen = 3;
-  boxes.texts = {"1", "2", "3"};
-  world.files.folder["KARVENIS.DAT"] = words(withBankoPart(GetParam().bankoPart));
-  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), (Set{12, 49}));
-  EXPECT_EQ(boxes.chosen, 3);
-  EXPECT_EQ(boxes.texts, (Texts{"1", "2", "3"}));
-  EXPECT_EQ(bagOf(world.state), Set{7}) << "the bankos still leave the bag";
-  EXPECT_EQ(world.windows.announced, Words{});
-}
-
-INSTANTIATE_TEST_SUITE_P(Files, LoadBrokenBanko,
-                         testing::Values(Broken{"SevenIn102Bytes", {7}},
-                                         Broken{"OneMissing", {2, 7}},
-                                         Broken{"SixOneMissing", {6, 1, 2, 3, 4, 5}},
-                                         Broken{"Largest", {32767}}),
-                         [](const auto& row) { return row.param.name; });
-
-class LoadBankoTooShort : public testing::TestWithParam<int> {};
-
-TEST_P(LoadBankoTooShort, StopsBeforeTheQuestion) {
-  World world;
-  PlainBoxes boxes;
-  world.files.folder["KARVENIS.DAT"] = Bytes(static_cast<std::size_t>(GetParam()), std::byte{1});
-  world.boxes.expectBeep();
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), Set{});
-}
-
-INSTANTIATE_TEST_SUITE_P(Lengths, LoadBankoTooShort, testing::Values(0, 2, 100, 101));
-
-TEST(LoadBankoInWindow, WithoutAFileThereIsABeepAndNothingElse) {
-  World world;
-  PlainBoxes boxes;
-  world.boxes.expectBeep();
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_TRUE(world.files.folder.empty());
-}
-
-TEST(LoadBankoInWindow, NoLeavesAllAsItWas) {
-  World world;
-  PlainBoxes boxes;
-  boxes.texts = {"1"};
-  setBanko(world.state, {48});
-  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
-  world.boxes.expectBeep().expectQuestion(loadQuestion, false);
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), Set{48});
-  EXPECT_EQ(boxes.texts, Texts{"1"});
-}
-
-TEST(LoadBankoInWindow, AFileThatGoesBehindTheQuestionLeavesAllAsItWas) {
-  World world;
-  PlainBoxes boxes;
-  boxes.texts = {"1"};
-  setBag(world.state, {48, 49});  // as the bag window's save may leave it
-  setBanko(world.state, {48});
-  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
-  world.boxes.whileOpen = [&] { world.files.folder.clear(); };
-  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), Set{48});
-  EXPECT_EQ(bagOf(world.state), (Set{48, 49}));
-  EXPECT_EQ(boxes.texts, Texts{"1"});
-  EXPECT_TRUE(world.files.folder.empty()) << "no file is made";
-}
-
-/// The length was taken before the question, the words are read behind it.
-TEST(LoadBankoInWindow, AFileThatWasShortenedMeanwhileReadsAsZeros) {
-  World world;
-  PlainBoxes boxes;
-  setBanko(world.state, {48});
-  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7, 8}));
-  world.boxes.whileOpen = [&] {
-    world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7}));
-  };
-  world.boxes.expectBeep().expectQuestion(loadQuestion, true);
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), (Set{7, 0}));
-}
-
-TEST(LoadBankoInWindow, AFileThatGrewMeanwhileIsBrokenByItsOldLength) {
-  World world;
-  PlainBoxes boxes;
-  setBanko(world.state, {48});
-  world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
-  world.boxes.whileOpen = [&] {
-    world.files.folder["KARVENIS.DAT"] = words(withBankoPart({2, 7, 8}));
-  };
-  world.boxes.expectBeep().expectQuestion(loadQuestion, true).expectWarning(broken, "! HATA !");
-  loadBankoInBankoWindow(world.around, boxes);
-  EXPECT_EQ(bankoOf(world.state), Set{48});
-}
-
 struct Save {
   const char* name;
   Bytes old;
@@ -332,15 +161,15 @@ class SaveBanko : public testing::TestWithParam<Save> {};
 
 TEST_P(SaveBanko, WritesTheBankoPartOnly) {
   World world;
-  PlainBoxes boxes;
-  boxes.chosen = 5;
-  boxes.texts = GetParam().typed;
+  PlainFields fields;
+  fields.chosen = 5;
+  fields.texts = GetParam().typed;
   if (!GetParam().old.empty()) world.files.folder["KARVENIS.DAT"] = GetParam().old;
   world.boxes.expectBeep()
       .expectQuestion(saveQuestion, true)
       .expectBeep(2)  // the apply, then the end
       .expectMessage(saved);
-  saveBanko(world.around, boxes);
+  saveBanko(world.around, fields);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file);
 }
 
@@ -374,11 +203,11 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SaveBanko, TheBytesOfANewFile) {
   World world;
-  PlainBoxes boxes;
-  boxes.chosen = 2;
-  boxes.texts = {"49", "1"};
+  PlainFields fields;
+  fields.chosen = 2;
+  fields.texts = {"49", "1"};
   world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep(2).expectMessage(saved);
-  saveBanko(world.around, boxes);
+  saveBanko(world.around, fields);
   const Bytes bytes = world.files.bytes("KARVENIS.DAT");
   ASSERT_EQ(bytes.size(), 106U);
   EXPECT_EQ(Bytes(bytes.begin(), bytes.begin() + 100), Bytes(100));
@@ -387,14 +216,14 @@ TEST(SaveBanko, TheBytesOfANewFile) {
 
 TEST(SaveBanko, NoAppliesNothing) {
   World world;
-  PlainBoxes boxes;
+  PlainFields fields;
   setBanko(world.state, {48});
-  boxes.chosen = 1;
-  boxes.texts = {"7"};
+  fields.chosen = 1;
+  fields.texts = {"7"};
   world.boxes.expectBeep().expectQuestion(saveQuestion, false);
-  saveBanko(world.around, boxes);
+  saveBanko(world.around, fields);
   EXPECT_EQ(bankoOf(world.state), Set{48});
-  EXPECT_EQ(boxes.texts, Texts{"7"});
+  EXPECT_EQ(fields.texts, Texts{"7"});
   EXPECT_TRUE(world.files.folder.empty());
 }
 
@@ -408,13 +237,13 @@ TEST_P(SaveBankoRefused, IsAFaultAndLosesNoBankoAndNoByte) {
   world.files.folder["KARVENIS.DAT"] = old;
   Surroundings around{world.state, world.boxes,   world.clock,  world.chance,
                       files,       world.printer, world.windows};
-  PlainBoxes boxes;
-  boxes.chosen = 1;
-  boxes.texts = {"7"};
+  PlainFields fields;
+  fields.chosen = 1;
+  fields.texts = {"7"};
   world.boxes.expectBeep().expectQuestion(saveQuestion, true).expectBeep();
-  EXPECT_THROW(saveBanko(around, boxes), RunTimeError);
+  EXPECT_THROW(saveBanko(around, fields), RunTimeError);
   EXPECT_EQ(bankoOf(world.state), Set{7});
-  EXPECT_EQ(boxes.texts, Texts{"7"});
+  EXPECT_EQ(fields.texts, Texts{"7"});
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), old);
 }
 

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "bag/Spoken.h"
+#include "doubles/BagWords.h"
 #include "doubles/Doubles.h"
 #include "doubles/Sets.h"
 
@@ -15,25 +16,6 @@ using Words = std::vector<std::string>;
 
 constexpr char question6[] = "Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz?";
 constexpr char question8[] = "Banko seçimini KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?";
-
-/// A bag part of 50 words, from its first words.
-std::vector<int> bagPart(std::vector<int> first) {
-  first.resize(50);
-  return first;
-}
-
-/// A whole file: an empty bag part, then these words from record 51.
-std::vector<int> withBankoPart(const std::vector<int>& banko) {
-  std::vector<int> all = bagPart({0});
-  all.insert(all.end(), banko.begin(), banko.end());
-  return all;
-}
-
-std::vector<int> countAndBalls(int count) {
-  std::vector<int> all = {count};
-  for (int ball = 1; ball <= count; ++ball) all.push_back(ball);
-  return all;
-}
 
 struct BagLoad {
   const char* name;

@@ -126,7 +126,7 @@ TEST(Order, OfDeletingTheFilePutsTheTitleBackBehindTheBox) {
   world.boxes.expectBeep()
       .expectQuestion("'KARVENIS.RND' dosyasını silmek istiyormusunuz ?", true)
       .expectBeep()
-      .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
+      .expectMessage("KARVENIS.RND dosyası silindi.", bareTitle);
   deleteRndFile(world.around, world.title);
   EXPECT_EQ(world.journal.lines,
             (Lines{"beep", "question 'KARVENIS.RND' dosyasını silmek istiyormusunuz ? Yes",
@@ -177,7 +177,7 @@ class NoButtons final : public BallButtons {
   void setMarked(int, bool) override {}
 };
 
-class OneBox final : public BankoBoxes {
+class OneField final : public BankoFields {
  public:
   int count() const override { return 1; }
   void chooseCount(int) override {}
@@ -206,7 +206,7 @@ TEST(Order, OfSavingTheBag) {
 
 TEST(Order, OfSavingTheBankosAppliesThemFirst) {
   World world;
-  OneBox boxes;
+  OneField fields;
   const AtLine applied(world, "open KARVENIS.DAT", [&] { return world.state.Banko.contains(7); });
   constexpr char question[] =
       "Banko topları (topu) KARVENIS.DAT dosyasına kayıtlamak istiyormusunuz ?";
@@ -214,7 +214,7 @@ TEST(Order, OfSavingTheBankosAppliesThemFirst) {
       .expectQuestion(question, true)
       .expectBeep(2)
       .expectMessage("Seçilen toplar KARVENIS.DAT dosyasına kayıtlandı...");
-  saveBanko(world.around, boxes);
+  saveBanko(world.around, fields);
   EXPECT_EQ(
       world.journal.lines,
       joined({{"beep", "question " + std::string(question) + " Yes", "beep"}, savedWithBeep}));

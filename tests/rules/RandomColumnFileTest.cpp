@@ -315,7 +315,7 @@ TEST(DeleteRndFile, YesDeletesAndConfirmsUnderTheDefaultTitle) {
   world.boxes.expectBeep()
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
-      .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
+      .expectMessage("KARVENIS.RND dosyası silindi.", bareTitle);
   deleteRndFile(world.around, world.title);
   EXPECT_TRUE(world.files.folder.empty());
   EXPECT_EQ(world.captions(), Captions{standardTitle});
@@ -330,7 +330,7 @@ TEST(DeleteRndFile, GoesOnWhereTheDeletionFails) {
   world.boxes.expectBeep()
       .expectQuestion(deleteQuestion, true)
       .expectBeep()
-      .expectMessage("KARVENIS.RND dosyası silindi.", defaultTitle);
+      .expectMessage("KARVENIS.RND dosyası silindi.", bareTitle);
   deleteRndFile(around, world.title);
   EXPECT_EQ(world.files.bytes("KARVENIS.RND"), countedColumns(3));
   EXPECT_EQ(world.captions(), Captions{standardTitle});
