@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <numeric>
 #include <random>
+#include <tuple>
 
 #include "BenchWorld.h"
 #include "comblist/Generator.h"
@@ -24,7 +25,7 @@ constexpr int columns = 32767;
 
 void generate(BenchWorld& world) {
   Generator list(world.around, world.title);
-  list.start(Generator::Mode::newList, std::to_string(columns));
+  std::ignore = list.start(Generator::Mode::newList, std::to_string(columns));
 }
 
 /// Waits until what the descriptor stands for is on disk.

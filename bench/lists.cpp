@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <tuple>
 
 #include "BenchWorld.h"
 #include "listing/frmRLPrint.h"
@@ -217,8 +218,8 @@ int main(int argc, char** argv) {
          medianOf(rounds, freshColumns,
                   [&] {
                     ColumnDeletion deletion(world.around);
-                    deletion.load();
-                    deletion.remove(16000);
+                    std::ignore = deletion.load();
+                    std::ignore = deletion.remove(16000);
                   }),
          "the copy", copy);
   return 0;

@@ -42,12 +42,12 @@ void BagFile::write(const BallSet<mostBankos>& bankos) {
 std::int16_t BagFile::get(std::int64_t word) {
   std::array<std::byte, bagWordSize> bytes{};
   file_.read(word, bytes);
-  return static_cast<std::int16_t>(getLittleEndian<std::uint16_t>(bytes));
+  return getLittleEndian<std::int16_t>(bytes);
 }
 
 void BagFile::put(std::int64_t word, std::int16_t value) {
   std::array<std::byte, bagWordSize> bytes{};
-  putLittleEndian(std::span<std::byte>(bytes), static_cast<std::uint16_t>(value));
+  putLittleEndian(bytes, value);
   file_.write(word, bytes);
 }
 

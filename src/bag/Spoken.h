@@ -7,9 +7,9 @@
 namespace karvenis {
 
 /// How many balls the bag holds, as a screen reader says it: "Torbada 12 top".
-std::string spokenBag(const SharedState& state);
+[[nodiscard]] std::string spokenBag(const SharedState& state);
 
 /// The bankos, as a screen reader says them: "Banko: 7, 30".
-std::string spokenBanko(const SharedState& state);
+[[nodiscard]] std::string spokenBanko(const SharedState& state);
 
 }  // namespace karvenis

@@ -22,7 +22,7 @@ void openListing(Surroundings& around);
 
 /// Copies the list over the random column file; if that exists, after a question. Returns false if
 /// the user said No. Throws RunTimeError.
-bool copyToRandomColumns(Surroundings& around);
+[[nodiscard]] bool copyToRandomColumns(Surroundings& around);
 
 /// Asks for a column's number and deletes that column; the list as it was goes to its backup. The
 /// number becomes the page's start even if there is no such column; after a deletion the page

@@ -13,7 +13,7 @@ constexpr std::size_t shortestPair = 3;
 /// The marked numbers, ascending, with `separator` between them.
 std::string joined(const FilterMarks& marks, const char* separator) {
   std::string list;
-  for (std::int16_t ball = 1; ball <= ballsInAll; ++ball) {
+  for (int ball = 1; ball <= ballsInAll; ++ball) {
     if (!marks.has(ball)) continue;
     if (!list.empty()) list += separator;
     list += std::to_string(ball);
@@ -23,8 +23,8 @@ std::string joined(const FilterMarks& marks, const char* separator) {
 
 std::string joinedPairs(const FilterMarks& marks) {
   std::string list;
-  for (std::int16_t a = 1; a < ballsInAll; ++a) {
-    for (std::int16_t b = a; ++b <= ballsInAll;) {
+  for (int a = 1; a < ballsInAll; ++a) {
+    for (int b = a + 1; b <= ballsInAll; ++b) {
       if (!marks.hasPair(a, b)) continue;
       if (!list.empty()) list += ", ";
       list += std::to_string(a) + "-" + std::to_string(b);

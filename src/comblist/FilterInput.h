@@ -16,9 +16,9 @@ struct FilterMarks {
   BallTable<BallTable<std::int16_t>> PairMarked;  ///< symmetric
 
   /// Whether `ball` is marked. A number that is no ball never is.
-  [[nodiscard]] bool has(std::int16_t ball) const { return isBall(ball) && Marked[ball] == set; }
+  [[nodiscard]] bool has(int ball) const { return isBall(ball) && Marked[ball] == set; }
   /// Whether the pair is marked, in either order.
-  [[nodiscard]] bool hasPair(std::int16_t a, std::int16_t b) const {
+  [[nodiscard]] bool hasPair(int a, int b) const {
     return isBall(a) && isBall(b) && PairMarked[a][b] == set;
   }
   /// Marks `ball`. Returns false and marks nothing if it is no ball.
@@ -32,14 +32,16 @@ struct FilterMarks {
 
 /// "5, 12,30": numbers between commas, shown as "5,12,30". The first one must be a ball. Later ones
 /// that are no balls are skipped, and so is what follows a second comma in a row.
-std::optional<std::string> readNumbers(const std::string& InputText, FilterMarks& marks);
+[[nodiscard]] std::optional<std::string> readNumbers(const std::string& InputText,
+                                                     FilterMarks& marks);
 
 /// "5-12": the first number and the first ball behind a later dash. If both are the same ball, the
 /// input is shown as it was typed.
-std::optional<std::string> readPair(const std::string& InputText, FilterMarks& marks);
+[[nodiscard]] std::optional<std::string> readPair(const std::string& InputText, FilterMarks& marks);
 
 /// "3-7,40-12": pairs of balls up to the first text that is none, shown as "3-7, 12-40". A pair of
 /// a ball with itself is marked but not shown; input of such pairs alone is refused.
-std::optional<std::string> readPairs(const std::string& InputText, FilterMarks& marks);
+[[nodiscard]] std::optional<std::string> readPairs(const std::string& InputText,
+                                                   FilterMarks& marks);
 
 }  // namespace karvenis

@@ -40,7 +40,7 @@ class Generator {
   /// Checks the count that `text` begins with, asks before a list is replaced, and writes the
   /// columns. Before a new list is begun, the old one is in its backup. Throws RunTimeError; the
   /// list is then as it was.
-  Outcome start(Mode mode, std::string_view text);
+  [[nodiscard]] Outcome start(Mode mode, std::string_view text);
 
  private:
   bool refuses(Mode mode);

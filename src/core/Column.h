@@ -11,9 +11,7 @@ inline constexpr int ballsInColumn = 6;  ///< that a drawn column has
 inline constexpr int mostBankos = 5;     ///< that the user can choose
 
 /// Whether `number` is a ball: 1..49.
-[[nodiscard]] constexpr bool isBall(std::int16_t number) {
-  return number >= 1 && number <= ballsInAll;
-}
+[[nodiscard]] constexpr bool isBall(int number) { return number >= 1 && number <= ballsInAll; }
 
 /// Six ball numbers in the order in which they were drawn or stored. One that comes from a file may
 /// be any 16-bit number.
@@ -23,8 +21,8 @@ using Column = std::array<std::int16_t, ballsInColumn>;
 template <typename Value>
 class BallTable {
  public:
-  constexpr Value& operator[](std::int16_t ball) { return values_[static_cast<std::size_t>(ball)]; }
-  constexpr const Value& operator[](std::int16_t ball) const {
+  constexpr Value& operator[](int ball) { return values_[static_cast<std::size_t>(ball)]; }
+  constexpr const Value& operator[](int ball) const {
     return values_[static_cast<std::size_t>(ball)];
   }
 

@@ -13,7 +13,7 @@ void fillBag(SharedState& state) {
 
 }  // namespace
 
-std::int16_t PickBall(SharedState& state, Chance& chance, std::int16_t position) {
+std::int16_t PickBall(SharedState& state, Chance& chance, int position) {
   const auto bankos = state.Banko.balls();
   const auto place = static_cast<std::size_t>(position);
   if (place <= bankos.size()) return bankos[place - 1];
@@ -41,14 +41,14 @@ bool canDraw(const SharedState& state) {
 }
 
 void drawDistinct(SharedState& state, Chance& chance) {
-  const auto pick = [&](std::int16_t position) {
+  const auto pick = [&](int position) {
     ballAt(state.Drawn, position) = PickBall(state, chance, position);
   };
-  for (std::int16_t position = 1; position <= ballsInColumn; ++position) pick(position);
+  for (int position = 1; position <= ballsInColumn; ++position) pick(position);
   // After a repeat `i` is 1 again, also in the rest of the inner loop. Only the later ball of a
   // pair is drawn again, so a banko is never replaced.
-  for (std::int16_t i = 1; i < ballsInColumn; ++i) {
-    for (std::int16_t j = i; ++j <= ballsInColumn;) {
+  for (int i = 1; i < ballsInColumn; ++i) {
+    for (int j = i + 1; j <= ballsInColumn; ++j) {
       while (ballAt(state.Drawn, j) == ballAt(state.Drawn, i)) {
         pick(j);
         i = 1;

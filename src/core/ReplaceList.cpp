@@ -13,20 +13,20 @@ class Scratch {
  public:
   Scratch(Files& files, const ListAndScratch& names) : files_(files), names_(names) {}
   ~Scratch() {
-    if (taken_) return;
-    ignoringFaults([this] {
-      if (files_.exists(names_.scratch)) files_.remove(names_.scratch);
-    });
+    if (!taken_) ignoringFaults([this] { removeIfThere(); });
   }
   Scratch(const Scratch&) = delete;
   Scratch& operator=(const Scratch&) = delete;
 
   void begin() {
-    const bool copies = names_.start == ScratchStart::copyOfList && files_.exists(names_.list);
-    if (copies) {
-      files_.copy(names_.list, names_.scratch);
-    } else if (names_.start != ScratchStart::leftOver && files_.exists(names_.scratch)) {
-      files_.remove(names_.scratch);
+    switch (names_.start) {
+      case ScratchStart::empty:
+        return removeIfThere();
+      case ScratchStart::copyOfList:
+        if (!files_.exists(names_.list)) return removeIfThere();
+        return files_.copy(names_.list, names_.scratch);
+      case ScratchStart::leftOver:
+        return;
     }
   }
   void takePlace() {
@@ -35,6 +35,10 @@ class Scratch {
   }
 
  private:
+  void removeIfThere() {
+    if (files_.exists(names_.scratch)) files_.remove(names_.scratch);
+  }
+
   Files& files_;
   ListAndScratch names_;
   bool taken_ = false;
@@ -49,8 +53,9 @@ void replaceList(Surroundings& around, const ListAndScratch& names,
   files.refuseProtected(names.list);
   Scratch scratch(files, names);
   scratch.begin();
-  // `created` makes the file, and `columns` writes it. The one that makes a file also waits for its
-  // name to be on disk when it is synced; here the rename does that.
+  // The file is opened twice. A File that has created its file also syncs the folder, which the
+  // rename below does anyway: so one File creates, and another one writes. Both are open before the
+  // rights are given, since those may forbid an opening.
   const std::unique_ptr<File> created = files.open(names.scratch);
   ColumnFile columns(around.state, files, names.scratch);
   if (files.exists(names.list)) created->takeRightsOf(names.list);

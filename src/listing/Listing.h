@@ -34,9 +34,11 @@ void listRandomColumns(Surroundings& around, TitleBar& title, Output output);
 /// Which end of a typed range was refused.
 enum class RangeRefusal { none, first, last };
 
-/// Lists the range of the combination list, after the question; says which end lies outside it.
-RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output output,
-                              ListRange range);
+/// Lists the range of the combination list, after the question. Returns which end of the range lies
+/// outside the list, after a warning; none if it was listed or the user said No. Throws
+/// RunTimeError.
+[[nodiscard]] RangeRefusal listCombinations(Surroundings& around, TitleBar& title, Output output,
+                                            ListRange range);
 
 /// Writes the range of `list` to the text file and replaces an old one. The title shows the
 /// progress: after each byte of the first and the last lines, after each line between them. Ends

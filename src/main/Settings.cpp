@@ -23,7 +23,7 @@ float readFloat(RecordFile& file, std::int64_t number) {
 
 void writeFloat(RecordFile& file, std::int64_t number, float value) {
   Record record{};
-  putLittleEndian(std::span<std::byte>(record), std::bit_cast<std::uint32_t>(value));
+  putLittleEndian(record, std::bit_cast<std::uint32_t>(value));
   file.write(number, record);
 }
 

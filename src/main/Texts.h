@@ -27,6 +27,6 @@ inline constexpr char keyList[] =
 inline constexpr char aboutTitle[] = " KARVENIS 2005 Randomizer Hakkında";
 /// What "Program hakkında" shows: the purpose, version, licence and guide of the program, and
 /// `folder`, which its files are in.
-std::string aboutText(const std::string& folder);
+[[nodiscard]] std::string aboutText(const std::string& folder);
 
 }  // namespace karvenis

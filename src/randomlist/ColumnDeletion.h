@@ -13,12 +13,12 @@ class ColumnDeletion {
 
   /// Deletes the scratch file of an interrupted deletion and counts the columns. Returns false if
   /// there is no file to delete from. What fails is skipped.
-  bool load();
+  [[nodiscard]] bool load();
 
   /// Deletes column `DelNo` (1..count) without a question. Any other number gives the warning and
   /// false, and nothing is touched. A file whose length has changed since it was counted is counted
   /// again first. Throws RunTimeError if a file fails; the list is then as it was.
-  bool remove(std::int32_t DelNo);
+  [[nodiscard]] bool remove(std::int32_t DelNo);
 
  private:
   void count();

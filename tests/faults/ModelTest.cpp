@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <random>
+#include <tuple>
 
 #include "comblist/CombinationList.h"
 #include "comblist/Filters.h"
@@ -71,7 +72,7 @@ class Walk {
     if (!deletion.load()) return;
     const std::size_t count = model_.kept->size();
     const std::size_t number = below(count + 2);
-    deletion.remove(static_cast<std::int32_t>(number));
+    std::ignore = deletion.remove(static_cast<std::int32_t>(number));
     if (number >= 1 && number <= count) model_.removeKept(number);
   }
   void append() {
@@ -125,7 +126,7 @@ class Walk {
   void copy() {
     move("copy to the kept columns");
     says(below(4) != 0);
-    copyToRandomColumns(world_.around);
+    std::ignore = copyToRandomColumns(world_.around);
     if (Lists::any(model_.list) && (world_.boxes.says || !model_.kept)) model_.kept = model_.list;
   }
   void generate() {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "comblist/Generator.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
@@ -178,7 +180,7 @@ TEST(GenerateNewList, AnEmptyListIsBackedUpWithoutAQuestion) {
   putList(world, 0);
   Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  random.start(Mode::newList, "1");
+  std::ignore = random.start(Mode::newList, "1");
   EXPECT_TRUE(world.files.exists(listBackup));
   EXPECT_EQ(list(world).size(), 1U);
 }
@@ -187,7 +189,7 @@ TEST(GenerateNewList, FillsTheListToTheLimit) {
   World world;
   Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 32767 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  random.start(Mode::newList, " 32767 kolon");
+  std::ignore = random.start(Mode::newList, " 32767 kolon");
   ASSERT_EQ(list(world).size(), 32767U);
   EXPECT_TRUE(isGenerated(list(world).back(), 32767));
 }
@@ -203,7 +205,7 @@ TEST(GenerateNewList, RoundsTheCountHalfToEvenAndSkipsBlanks) {
     Generator random(world.around, world.title);
     world.boxes.expectBeep().expectMessage(" " + std::to_string(columns) +
                                            " kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-    random.start(Mode::newList, text);
+    std::ignore = random.start(Mode::newList, text);
     EXPECT_EQ(list(world).size(), columns) << text;
   }
 }
@@ -214,7 +216,7 @@ TEST(GenerateNewList, DrawsFromTheBagAndTheBankosOfTheMoment) {
   setBag(world.state, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
   setBanko(world.state, {49});
   world.boxes.expectBeep().expectMessage(" 200 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  random.start(Mode::newList, "200");
+  std::ignore = random.start(Mode::newList, "200");
   for (const ColumnRecord& record : list(world)) {
     EXPECT_LE(ballAt(record.Balls, 5), 12);
     EXPECT_EQ(ballAt(record.Balls, 6), 49);
@@ -253,7 +255,7 @@ TEST(AppendToList, StartsBehindAListThatGrewMeanwhile) {
   Generator random(world.around, world.title);
   putList(world, 20);
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
-  random.start(Mode::append, "5");
+  std::ignore = random.start(Mode::append, "5");
   EXPECT_EQ(list(world).size(), 25U);
   EXPECT_EQ(world.captions().front(), "KOLON= 21  [1]");
 }
@@ -264,7 +266,7 @@ TEST(AppendToList, MakesAListThatVanishedMeanwhile) {
   Generator random(world.around, world.title);
   world.files.folder.clear();
   world.boxes.expectBeep().expectMessage(" 5 kolon 'KARVENIS.LST' dosyasına eklendi.");
-  random.start(Mode::append, "5");
+  std::ignore = random.start(Mode::append, "5");
   EXPECT_EQ(list(world).size(), 5U);
 }
 
@@ -275,7 +277,7 @@ TEST(AppendToList, StartsBehindTheRecordsThatARaggedListCountsAs) {
     world.files.folder[combinationList].resize(bytes);
     Generator random(world.around, world.title);
     world.boxes.expectBeep().expectMessage(" 1 kolon 'KARVENIS.LST' dosyasına eklendi.");
-    random.start(Mode::append, "1");
+    std::ignore = random.start(Mode::append, "1");
     EXPECT_EQ(world.captions().front(), "KOLON= " + std::to_string(start + 1) + "  [1]");
     const auto records = list(world);
     ASSERT_EQ(records.size(), static_cast<std::size_t>(start + 1)) << bytes;
@@ -314,7 +316,7 @@ bool overflows(World& world, int grown, const char* wanted) {
   Generator random(world.around, world.title);
   putList(world, grown);
   try {
-    random.start(Mode::append, wanted);
+    std::ignore = random.start(Mode::append, wanted);
   } catch (const RunTimeError& error) {
     EXPECT_EQ(error.fault(), Fault::overflow);
     EXPECT_FALSE(world.files.exists(tmpScratch)) << "nor its growth";
@@ -346,7 +348,7 @@ TEST(GenerateNewList, ARefusalAtAnyStepLeavesTheOldListInTheBackupOrInPlace) {
     files.calls = 0;
     files.refuses = [&](Fault, const std::string&) { return files.calls == failing; };
     try {
-      random.start(Mode::newList, "2");
+      std::ignore = random.start(Mode::newList, "2");
       break;
     } catch (const RunTimeError&) {
       ++refusals;

@@ -19,7 +19,7 @@ TEST(Order, OfANewListHasItInPlaceBeforeTheBoxAndTheTitleBackBehindIt) {
   world.boxes.expectQuestion(question, true)
       .expectBeep()
       .expectMessage(" 2 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
-  random.start(Generator::Mode::newList, "2");
+  std::ignore = random.start(Generator::Mode::newList, "2");
   EXPECT_EQ(world.journal.lines,
             joined({{"question " + std::string(question) + " Yes", "seed 1000000",
                      "copy KARVENIS.LST KARVENIS.OLD", "copy KARVENIS.LST KARVENIS.TMP"},
@@ -34,7 +34,7 @@ TEST(Order, OfGrowingTheListHasItInPlaceBeforeTheBoxAndTheTitleBackBehindIt) {
   world.files.folder["KARVENIS.LST"] = countedColumns(1);
   Generator random(world.around, world.title);
   world.boxes.expectBeep().expectMessage(" 2 kolon 'KARVENIS.LST' dosyasına eklendi.");
-  random.start(Generator::Mode::append, "2");
+  std::ignore = random.start(Generator::Mode::append, "2");
   EXPECT_EQ(world.journal.lines,
             joined({{"seed 1000000", "copy KARVENIS.LST KARVENIS.TMP"},
                     replaced("KARVENIS.LST", "KARVENIS.TMP",

@@ -55,13 +55,13 @@ Action filter(const char* name, Filter which, const char* typed) {
 }
 Action generate(const char* name, Generator::Mode mode) {
   return {name, "", [mode](Surroundings& around, TitleBar& title) {
-            Generator(around, title).start(mode, "2");
+            std::ignore = Generator(around, title).start(mode, "2");
           }};
 }
 Action list(const char* name, Output output) {
   return {name, "", [output](Surroundings& around, TitleBar& title) {
             listRandomColumns(around, title, output);
-            listCombinations(around, title, output, {1, 3});
+            std::ignore = listCombinations(around, title, output, {1, 3});
           }};
 }
 
@@ -77,38 +77,37 @@ TEST_P(LongAction, DropsInputBeforeItTouchesAList) {
 
 INSTANTIATE_TEST_SUITE_P(
     Each, LongAction,
-    testing::Values(Action{"MakesTheKeptColumnsTheList", "",
-                           [](Surroundings& around, TitleBar& title) {
-                             changeRndFile(around, title);
-                           }},
-                    Action{"AppendsTheKeptColumns", "",
-                           [](Surroundings& around, TitleBar&) {
-                             ListPage page;
-                             appendToCombinationList(around, page);
-                           }},
-                    Action{"SavesTheKeptColumnsAsTheList", "",
-                           [](Surroundings& around, TitleBar&) { saveAsCombinationList(around); }},
-                    Action{"DeletesAKeptColumn", "",
-                           [](Surroundings& around, TitleBar&) {
-                             ColumnDeletion deletion(around);
-                             deletion.load();
-                             deletion.remove(2);
-                           }},
-                    generate("GeneratesAList", Generator::Mode::newList),
-                    generate("GeneratesMoreColumns", Generator::Mode::append),
-                    Action{"CopiesTheListToTheKeptColumns", "",
-                           [](Surroundings& around, TitleBar&) { copyToRandomColumns(around); }},
-                    Action{"DeletesAColumnOfTheList", "2",
-                           [](Surroundings& around, TitleBar&) {
-                             ListPage page;
-                             DeleteColumn(around, page);
-                           }},
-                    filter("FiltersUnwantedNumbers", Filter::FilterUnwantedNumbers, "6"),
-                    filter("FiltersWantedNumbers", Filter::FilterWantedNumbers, "6"),
-                    filter("FiltersAllAway", Filter::FilterWantedNumbers, "49"),
-                    filter("FiltersAnUnwantedPair", Filter::FilterUnwantedPair, "1-6"),
-                    filter("FiltersWantedPairs", Filter::FilterWantedPairs, "1-6"),
-                    list("WritesTheLists", Output::text), list("PrintsTheLists", Output::printer)),
+    testing::Values(
+        Action{"MakesTheKeptColumnsTheList", "",
+               [](Surroundings& around, TitleBar& title) { changeRndFile(around, title); }},
+        Action{"AppendsTheKeptColumns", "",
+               [](Surroundings& around, TitleBar&) {
+                 ListPage page;
+                 appendToCombinationList(around, page);
+               }},
+        Action{"SavesTheKeptColumnsAsTheList", "",
+               [](Surroundings& around, TitleBar&) { saveAsCombinationList(around); }},
+        Action{"DeletesAKeptColumn", "",
+               [](Surroundings& around, TitleBar&) {
+                 ColumnDeletion deletion(around);
+                 std::ignore = deletion.load();
+                 std::ignore = deletion.remove(2);
+               }},
+        generate("GeneratesAList", Generator::Mode::newList),
+        generate("GeneratesMoreColumns", Generator::Mode::append),
+        Action{"CopiesTheListToTheKeptColumns", "",
+               [](Surroundings& around, TitleBar&) { std::ignore = copyToRandomColumns(around); }},
+        Action{"DeletesAColumnOfTheList", "2",
+               [](Surroundings& around, TitleBar&) {
+                 ListPage page;
+                 DeleteColumn(around, page);
+               }},
+        filter("FiltersUnwantedNumbers", Filter::FilterUnwantedNumbers, "6"),
+        filter("FiltersWantedNumbers", Filter::FilterWantedNumbers, "6"),
+        filter("FiltersAllAway", Filter::FilterWantedNumbers, "49"),
+        filter("FiltersAnUnwantedPair", Filter::FilterUnwantedPair, "1-6"),
+        filter("FiltersWantedPairs", Filter::FilterWantedPairs, "1-6"),
+        list("WritesTheLists", Output::text), list("PrintsTheLists", Output::printer)),
     nameOf);
 
 class ShortAction : public testing::TestWithParam<Action> {};
