@@ -82,6 +82,26 @@ TEST_F(FormKeysTest, TheFormSeesAKeyOnceBeforeTheControl) {
   EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/1", "frmA KeyDown 112/1"})) << "Shift is a key too";
 }
 
+/// Notes the keys that a control sees.
+class SeenKeys final : public QObject {
+ public:
+  explicit SeenKeys(QWidget* control) { control->installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress) all.push_back(static_cast<QKeyEvent*>(event)->key());
+    return false;
+  }
+  std::vector<int> all;
+};
+
+TEST_F(FormKeysTest, FunctionKeysAndEscAreTheWindowsAlone) {
+  Noting* a = show("frmA");
+  const SeenKeys seen(a->Text1);
+  for (const auto key : {Qt::Key_F1, Qt::Key_F10, Qt::Key_7}) press(a, key);
+  press(a, Qt::Key_F10, Qt::ShiftModifier);
+  press(a, Qt::Key_Escape);
+  EXPECT_EQ(seen.all, (std::vector<int>{Qt::Key_7, Qt::Key_Shift}));
+}
+
 TEST_F(FormKeysTest, FunctionKeysIgnoreRepeatsAndOthersDoNot) {
   Noting* a = show("frmA");
   taken();

@@ -62,6 +62,30 @@ TEST_F(FrmLotoKeys, DoubleClickOnTheFreeSurfaceEnds) {
   EXPECT_TRUE(world.files.folder.empty());
 }
 
+/// A place of `holder` where none of its controls is.
+QPoint freePlace(const QWidget* holder) {
+  for (int y = 2; y < holder->height(); ++y) {
+    for (int x = 2; x < holder->width(); ++x) {
+      if (holder->childAt(x, y) == nullptr) return {x, y};
+    }
+  }
+  ADD_FAILURE() << "all of it is covered";
+  return {};
+}
+
+TEST_F(FrmLotoKeys, DoubleClickBetweenTheBallsEnds) {
+  uncover();
+  QWidget* stage = control(loto, "Image1_4")->parentWidget();
+  doubleClick(stage, freePlace(stage));
+  EXPECT_TRUE(forms.ending());
+}
+
+TEST_F(FrmLotoKeys, DoubleClickBesideTheClockEnds) {
+  QWidget* plate = control(loto, "Label3")->parentWidget();
+  doubleClick(plate, freePlace(plate));
+  EXPECT_TRUE(forms.ending());
+}
+
 TEST_F(FrmLotoKeys, DoubleClickOnTheOpeningPictureDoesNotEnd) {
   world.boxes.expectBeep();
   doubleClick(control(loto, "Picture0"), {364, 20});

@@ -1,0 +1,283 @@
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <QAccessible>
+
+#include "AllWindows.h"
+#include "platform/qt/Accessibles.h"
+#include "platform/qt/Announcer.h"
+#include "windows/WindowTest.h"
+
+// What assistive technology is told of the controls. What a screen reader makes of it is a desktop
+// test.
+
+namespace karvenis {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QAccessibleInterface& told(QObject* object) {
+  return *QAccessible::queryAccessibleInterface(object);
+}
+
+/// A line to type into, which holds "12345678".
+class TypedText : public testing::Test {
+ protected:
+  QWidget window;
+  QLineEdit line{u"12345678"_s, &window};
+
+  void SetUp() override {
+    installAccessibles();
+    line.setGeometry(20, 30, 200, 30);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+  QAccessibleTextInterface& text() { return *told(&line).textInterface(); }
+  QAccessibleEditableTextInterface& edited() { return *told(&line).editableTextInterface(); }
+  /// The selected range; 0, 0 if there is none.
+  std::pair<int, int> selected() {
+    std::pair<int, int> range(-1, -1);
+    text().selection(0, &range.first, &range.second);
+    EXPECT_EQ(text().selectionCount(), range.first == range.second ? 0 : 1);
+    return range;
+  }
+};
+
+TEST_F(TypedText, IsAFieldThatCanBeEdited) {
+  EXPECT_EQ(told(&line).role(), QAccessible::EditableText);
+  EXPECT_TRUE(told(&line).state().editable);
+  EXPECT_TRUE(told(&line).state().selectableText);
+  EXPECT_TRUE(told(&line).state().focusable) << "as the toolkit tells of every control";
+  EXPECT_NE(told(&line).actionInterface(), nullptr);
+}
+
+TEST_F(TypedText, TellsItsNameItsValueAndItsExample) {
+  line.setAccessibleName(u"Numara"_s);
+  line.setPlaceholderText(u"örnek: 7"_s);
+  EXPECT_EQ(told(&line).text(QAccessible::Name), u"Numara");
+  EXPECT_EQ(told(&line).text(QAccessible::Value), u"12345678");
+  EXPECT_EQ(told(&line).text(QAccessible::Description), u"örnek: 7");
+  line.setAccessibleDescription(u"en çok 49"_s);
+  EXPECT_EQ(told(&line).text(QAccessible::Description), u"en çok 49");
+  told(&line).setText(QAccessible::Name, u"Top"_s);
+  EXPECT_EQ(line.text(), u"12345678");
+  told(&line).setText(QAccessible::Value, u"9"_s);
+  EXPECT_EQ(line.text(), u"9");
+}
+
+TEST_F(TypedText, IsSelected) {
+  line.setCursorPosition(5);
+  EXPECT_EQ(selected(), std::pair(0, 0));
+  text().addSelection(2, 5);
+  EXPECT_EQ(line.selectedText(), u"345");
+  EXPECT_EQ(selected(), std::pair(2, 5));
+  text().setSelection(0, 1, 3);
+  EXPECT_EQ(selected(), std::pair(1, 3));
+  text().removeSelection(0);
+  EXPECT_FALSE(line.hasSelectedText());
+  text().setCursorPosition(4);
+  EXPECT_EQ(line.cursorPosition(), 4);
+  EXPECT_EQ(text().cursorPosition(), 4);
+}
+
+TEST_F(TypedText, IsReadAndEditedInParts) {
+  EXPECT_EQ(text().text(2, 5), u"345");
+  EXPECT_EQ(text().characterCount(), 8);
+  int start = -1, end = -1;
+  EXPECT_EQ(text().attributes(3, &start, &end), QString());
+  EXPECT_EQ(std::pair(start, end), std::pair(0, 8));
+  edited().deleteText(1, 3);
+  EXPECT_EQ(line.text(), u"145678");
+  edited().insertText(1, u"23"_s);
+  EXPECT_EQ(line.text(), u"12345678");
+  edited().replaceText(0, 6, u"9"_s);
+  EXPECT_EQ(line.text(), u"978");
+}
+
+TEST_F(TypedText, HasItsCharactersWhereTheyArePainted) {
+  line.setCursorPosition(3);
+  const auto widthOf = [&](int digits) {
+    return line.fontMetrics().horizontalAdvance(line.text().left(digits));
+  };
+  for (int offset = 0; offset < 8; ++offset) {
+    const QRect place = text().characterRect(offset);
+    EXPECT_EQ(place.width(), widthOf(offset + 1) - widthOf(offset));
+    EXPECT_EQ(place.left() - text().characterRect(0).left(), widthOf(offset));
+    EXPECT_EQ(text().offsetAtPoint(place.center() - QPoint(place.width() / 4, 0)), offset);
+    EXPECT_TRUE(QRect(line.mapToGlobal(QPoint()), line.size()).contains(place));
+  }
+  text().scrollToSubstring(2, 6);
+  EXPECT_EQ(line.cursorPosition(), 2);
+}
+
+/// What the program reports to assistive technology while this lives.
+class Reports {
+ public:
+  Reports() {
+    all.clear();
+    setActive(true);
+    before_ = QAccessible::installUpdateHandler(note);
+  }
+  ~Reports() {
+    QAccessible::installUpdateHandler(before_);
+    setActive(false);
+  }
+  Reports(const Reports&) = delete;
+  Reports& operator=(const Reports&) = delete;
+
+  static inline std::vector<std::pair<QAccessible::Event, QString>> all;
+
+ private:
+  /// Only the toolkit's private part lets somebody listen without a desktop.
+  static void setActive(bool active) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(active);
+  }
+  static void note(QAccessibleEvent* event) {
+    const QAccessibleInterface* subject = event->accessibleInterface();
+    if (subject != nullptr) all.emplace_back(event->type(), subject->text(QAccessible::Name));
+  }
+  QAccessible::UpdateHandler before_;
+};
+
+class ToldOfWindows : public WindowTest {
+ protected:
+  void SetUp() override {
+    addWindows(forms, around);
+    world.files.folder["KARVENIS.RND"] = countedColumns(30);
+    world.files.folder["KARVENIS.LST"] = countedColumns(30);
+  }
+};
+
+TEST_F(ToldOfWindows, ThePrintedLines) {
+  Form* list = open("frmRndLst");
+  auto* page = list->findChild<Surface*>();
+  QAccessibleInterface& lines = told(page);
+  ASSERT_EQ(lines.childCount(), 25);
+  EXPECT_EQ(lines.child(-1), nullptr);
+  EXPECT_EQ(lines.child(25), nullptr);
+  for (const int index : {0, 1, 24}) {
+    QAccessibleInterface* line = lines.child(index);
+    EXPECT_EQ(lines.indexOfChild(line), index);
+    EXPECT_EQ(line->parent(), &lines);
+    EXPECT_TRUE(line->isValid());
+    EXPECT_TRUE(line->state().readOnly);
+    EXPECT_TRUE(line->state().focusable);
+    EXPECT_EQ(line->state().focused, index == 0 ? 1U : 0U);
+    EXPECT_EQ(line->rect().topLeft(),
+              page->mapToGlobal(page->lineRect(static_cast<std::size_t>(index)).topLeft()));
+    EXPECT_EQ(line->rect().size(), page->lineRect(static_cast<std::size_t>(index)).size());
+    EXPECT_EQ(line->text(QAccessible::Value), QString());
+    EXPECT_EQ(line->childCount(), 0);
+    EXPECT_EQ(line->indexOfChild(line), -1);
+  }
+  EXPECT_EQ(lines.indexOfChild(&lines), -1);
+  QAccessibleInterface* last = lines.child(24);
+  press(list, Qt::Key_PageDown);
+  EXPECT_FALSE(last->isValid()) << "the second page has five";
+  EXPECT_EQ(last->text(QAccessible::Name), QString());
+  EXPECT_EQ(last->rect(), QRect());
+}
+
+TEST_F(ToldOfWindows, TheFirstLineOfEachPageAsTheFocus) {
+  Form* list = open("frmRndLst");
+  const Reports reports;
+  press(list, Qt::Key_PageDown);
+  const std::pair<QAccessible::Event, QString> expected(
+      QAccessible::Focus, u"Sayfa 2. "_s + toQt(linesOf(list).front()));
+  EXPECT_TRUE(waitFor([&] { return std::ranges::count(Reports::all, expected) > 0; }));
+  EXPECT_EQ(
+      std::ranges::count(Reports::all, QAccessible::Focus, [](auto& one) { return one.first; }), 1);
+}
+
+TEST_F(ToldOfWindows, WhatIsAnnounced) {
+  Form* balls = open("frmBalls");
+  const Reports reports;
+  press(balls, Qt::Key_F4);
+  EXPECT_TRUE(waitFor([&] { return balls->findChild<Announcer*>() != nullptr; }));
+  auto* announcer = balls->findChild<Announcer*>();
+  EXPECT_EQ(told(announcer).role(), QAccessible::Notification);
+  EXPECT_EQ(told(announcer).text(QAccessible::Name), u"49 top işaretli");
+  EXPECT_EQ(announcer->size(), QSize(1, 1));
+  EXPECT_TRUE(announcer->isVisible());
+  EXPECT_TRUE(announcer->testAttribute(Qt::WA_TransparentForMouseEvents));
+  const std::pair<QAccessible::Event, QString> shown(QAccessible::ObjectShow, u"49 top işaretli"_s);
+  EXPECT_EQ(std::ranges::count(Reports::all, shown), 1);
+}
+
+// The option that has the focus is told as the focus.
+TEST_F(ToldOfWindows, TheNumberOfBankosOnlyOnce) {
+  Form* banko = open("frmBanko");
+  const Reports reports;
+  const auto announced = [&] {
+    bool idle = false;
+    QTimer::singleShot(0, banko, [&] { QTimer::singleShot(0, banko, [&] { idle = true; }); });
+    EXPECT_TRUE(waitFor([&] { return idle; }));
+    QStringList all;
+    for (const auto* one : banko->findChildren<Announcer*>()) all.append(one->accessibleName());
+    return all;
+  };
+  control(banko, "Option1")->setFocus();
+  press(banko, Qt::Key_F4);
+  EXPECT_EQ(announced(), QStringList());
+  press(banko, Qt::Key_F6);
+  EXPECT_EQ(announced(), QStringList{u"2 banko top"_s}) << "the first field has the focus";
+}
+
+TEST_F(ToldOfWindows, TheMarksOfBalls) {
+  Form* balls = open("frmBalls");
+  QWidget* seven = control(balls, "cmdBall_7");
+  QAccessibleActionInterface* actions = told(seven).actionInterface();
+  EXPECT_EQ(actions->actionNames(), (QStringList{QAccessibleActionInterface::toggleAction(),
+                                                 QAccessibleActionInterface::setFocusAction()}));
+  EXPECT_TRUE(told(seven).state().checkable);
+  EXPECT_FALSE(told(seven).state().checked);
+  const Reports reports;
+  actions->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_TRUE(told(seven).state().checked);
+  const std::pair<QAccessible::Event, QString> changed(QAccessible::StateChanged, u"7"_s);
+  EXPECT_TRUE(waitFor([&] { return std::ranges::count(Reports::all, changed) > 0; }));
+  EXPECT_EQ(std::ranges::count(Reports::all, changed), 1);
+  actions->doAction(QAccessibleActionInterface::setFocusAction());
+  EXPECT_TRUE(seven->hasFocus());
+}
+
+/// What a window's fields, and the controls whose caption is not their name, are called.
+QStringList namesIn(const Form* form) {
+  QStringList names;
+  for (auto* widget : form->findChildren<QWidget*>()) {
+    const QString& name = widget->objectName();
+    const bool isField = qobject_cast<QLineEdit*>(widget) != nullptr;
+    if (name.startsWith(u"cmdBall_") || (!isField && widget->accessibleName().isEmpty())) continue;
+    names.append(name + u": "_s + told(widget).text(QAccessible::Name));
+  }
+  names.sort();
+  return names;
+}
+
+TEST_F(ToldOfWindows, TheNamesOfTheirControls) {
+  QStringList balls{u"Frame1: Kolonun kaynağı ve sırası"_s, u"Picture0: Açılış resmi"_s,
+                    u"Picture1: KARVENIS amblemi"_s};
+  for (int k = 1; k <= ballsInColumn; ++k) {
+    balls.append(u"Label1_%1: %2. top: boş"_s.arg(2 * k - 2).arg(k));
+    balls.append(u"Label1_%1: %2. sayı: boş"_s.arg(2 * k - 1).arg(k));
+  }
+  balls.sort();
+  EXPECT_EQ(namesIn(open("frmLoto")), balls);
+  EXPECT_EQ(namesIn(open("frmBalls")), QStringList{u"Frame1: Toplar"_s});
+  EXPECT_EQ(namesIn(open("frmBanko")),
+            (QStringList{
+                u"Option1: 0 banko top"_s, u"Option2: 1 banko top"_s, u"Option3: 2 banko top"_s,
+                u"Option4: 3 banko top"_s, u"Option5: 4 banko top"_s, u"Option6: 5 banko top"_s,
+                u"Text1_0: 1. banko top"_s, u"Text1_1: 2. banko top"_s, u"Text1_2: 3. banko top"_s,
+                u"Text1_3: 4. banko top"_s, u"Text1_4: 5. banko top"_s}));
+  EXPECT_EQ(namesIn(open("frmRnd")), QStringList{u"Text1: Kolon Sayısı:"_s});
+  EXPECT_EQ(namesIn(open("frmCLPrint")),
+            (QStringList{u"Text1: Başlangıç :"_s, u"Text2: Bitiş :"_s}));
+  world.boxes.expectBeep();
+  EXPECT_EQ(namesIn(open("frmRndDel")),
+            QStringList{u"Text1: Silmek istediğiniz kolon numarasını girin."_s});
+}
+
+}  // namespace
+}  // namespace karvenis
