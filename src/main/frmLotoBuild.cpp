@@ -146,7 +146,6 @@ void frmLoto::keyEntry(int number, QMenu* menu, const char* entry, QStringView t
 
 QWidget* frmLoto::buildBanner() {
   strip_ = new QWidget(this);
-  markAsBackground(strip_);
   Picture3 = new Picture(artwork_, u"banner.svg"_s, {}, strip_);
   Picture3->setObjectName(u"Picture3"_s);
   Picture4 = new Picture(artwork_, u"companion.svg"_s, {}, strip_);

@@ -78,6 +78,7 @@ TEST_F(Look, TheOpeningPictureHasTheCornersOfItsPanel) {
     EXPECT_EQ(shown.pixelColor(corner), QColor(look::ground));
   }
   EXPECT_NE(shown.pixelColor(shown.width() / 2, 1), QColor(look::ground));
+  EXPECT_NE(shown.pixelColor(shown.width() / 2, 1), QColor(look::amber)) << "it has no focus";
 }
 
 TEST(Drawings, ABallHasAShadowOfItsOwnOnlyWhereItLies) {

@@ -24,7 +24,6 @@ PageForm::PageForm(Windows& windows) : Form(windows), surface_(new Surface(this,
   const int band = std::clamp(spare / 2, 0, widestBand);
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, band, 0, band);
-  whole->setSpacing(0);
   whole->addStrut(qCeil(surface_->pixels(titleWidth)));
   whole->addStretch(1);
   whole->addWidget(surface_, 0, Qt::AlignHCenter);

@@ -90,9 +90,8 @@ void MessageBox::sizeText(const QSize& room, int least) {
 
 int MessageBox::heightAt(int width) const { return textSize(*label_, text(), width).height(); }
 
-/// Keeps the size that showEvent() gives the box: the toolkit would compute another one.
+/// Keeps the size that showEvent() gives the box: QMessageBox would compute another one.
 bool MessageBox::event(QEvent* event) {
-  if (event->type() != QEvent::LayoutRequest) return QMessageBox::event(event);
   return QDialog::event(event);  // NOLINT(bugprone-parent-virtual-call): not QMessageBox's
 }
 
