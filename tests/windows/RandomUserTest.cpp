@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <cstdlib>
 #include <mutex>
+#include <regex>
 #include <set>
 #include <thread>
 
@@ -120,11 +121,13 @@ class Sound {
   std::set<std::string>& seen_;  // every window that has been open
 };
 
-/// The faults that a user can bring about: a list that outgrows its 16 bits while the generator is
-/// open, and one that is gone when it is to be copied.
+/// The faults that a user can bring about: a list that outgrows the 16 bits in which the generator
+/// and a listing count, and one that is gone when it is to be copied.
 bool isOrdered(const std::string& fault) {
-  return fault.find("'32768' sayısı taştı.") != std::string::npos ||
-         fault.find("'KARVENIS.RND' dosyası kopyalanamadı.") != std::string::npos;
+  static const std::regex overflow("'(\\d+)' sayısı taştı\\.");
+  std::smatch found;
+  if (std::regex_search(fault, found, overflow)) return std::stoi(found[1]) > recordLimit;
+  return fault.find("'KARVENIS.RND' dosyası kopyalanamadı.") != std::string::npos;
 }
 
 /// Makes lists if there are none, so that there is much to do.
