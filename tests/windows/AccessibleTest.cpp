@@ -102,7 +102,7 @@ TEST_F(TypedText, HasItsCharactersWhereTheyArePainted) {
   };
   for (int offset = 0; offset < 8; ++offset) {
     const QRect place = text().characterRect(offset);
-    EXPECT_EQ(place.width(), widthOf(offset + 1) - widthOf(offset));
+    EXPECT_EQ(place.width(), widthOf(offset + 1) - widthOf(offset)) << offset;
     EXPECT_EQ(place.left() - text().characterRect(0).left(), widthOf(offset));
     EXPECT_EQ(text().offsetAtPoint(place.center() - QPoint(place.width() / 4, 0)), offset);
     EXPECT_TRUE(QRect(line.mapToGlobal(QPoint()), line.size()).contains(place));

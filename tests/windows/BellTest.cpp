@@ -52,6 +52,16 @@ TEST_F(BellTest, StartsItsPlayerAtTheFirstRingAndGivesItEachRing) {
   EXPECT_EQ(fallbacks, 0);
 }
 
+TEST_F(BellTest, WhatItsPlayerSaysGoesNowhere) {
+  testing::internal::CaptureStdout();
+  testing::internal::CaptureStderr();
+  Bell bell(player("echo one; echo other >&2; cat >rings; : >ended"), counted());
+  bell.ring();
+  EXPECT_TRUE(waitFor([&] { return content("rings").size() == 1; }));
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST_F(BellTest, EndsItsPlayerWhenItGoes) {
   {
     Bell bell(player("cat >rings; : >ended"), counted());

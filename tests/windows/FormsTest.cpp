@@ -1,6 +1,7 @@
 #include "platform/qt/Forms.h"
 
 #include "platform/RunTimeError.h"
+#include "windows/KeySoon.h"
 #include "windows/NotingTest.h"
 
 // Which window is the active one, how windows open and close, and how a fault ends the program.
@@ -32,6 +33,26 @@ TEST_F(FormsTest, ShowingAnOpenWindowRaisesIt) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
   show("frmB");
   EXPECT_EQ(taken(), (Log{"frmB Form_Activate"}));
+}
+
+TEST_F(FormsTest, AWindowOpensBelowAndRightOfItsOpenerAndOfWhatStandsThere) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  EXPECT_EQ(b->pos() - a->pos(), QPoint(36, 56));
+  go(a);
+  EXPECT_EQ(show("frmC")->pos() - b->pos(), QPoint(36, 56));
+}
+
+// What the user presses in a window shows that he works there.
+TEST_F(FormsTest, AKeyActivatesTheWindowThatHasTheKeyboard) {
+  Noting* a = show("frmA");
+  show("frmB");
+  taken();
+  a->activateWindow();
+  ASSERT_TRUE(waitFor([a] { return a->isActiveWindow(); }));
+  pressSoon(a, Qt::Key_F1);
+  EXPECT_TRUE(waitFor([this] { return log.size() > 1; }));
+  EXPECT_EQ(taken(), (Log{"frmA Form_Activate", "frmA KeyDown 112/0"}));
 }
 
 TEST_F(FormsTest, ClosingActivatesTheOpener) {
