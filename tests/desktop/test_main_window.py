@@ -1,6 +1,7 @@
 """The main window: what it shows, how it ends, where it stands, how it draws."""
 
 import os
+import re
 import struct
 import unittest
 
@@ -108,6 +109,26 @@ class Looks(DesktopCase):
         program.box().press("Return")
         program.activated(STANDARD_TITLE)
         self.assertEqual(program.titles(), [STANDARD_TITLE])
+
+
+class Look(DesktopCase):
+    def test_the_desktop_knows_the_program(self):
+        self.start()
+        told = self.screen.run("xprop", "-id", self.program.id_of(STANDARD_TITLE), "WM_CLASS",
+                               "_NET_WM_ICON")
+        self.assertTrue('"karvenis", "KARVENIS"' in told and "Icon (64 x 64)" in told)
+
+    def test_the_primary_button_has_the_colours_of_the_house(self):
+        self.start()
+        left, top, width, height = self.screen.place_of(self.program,
+                                                        self.main.find("push button", "Kolon"))
+        told = self.screen.run("import", "-window", "root", "-crop",
+                               f"1x1+{left + width // 8}+{top + height // 2}", "-depth", "8",
+                               "txt:-")
+        red, green, blue = map(int, re.search(r"\((\d+),(\d+),(\d+)", told).groups())
+        self.assertLess(red, 60)
+        self.assertLess(80, green)
+        self.assertLess(80, blue)
 
 
 class Options(DesktopCase):
