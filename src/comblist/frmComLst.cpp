@@ -10,10 +10,7 @@ frmComLst::frmComLst(Surroundings& around) : PageForm(around.windows), around_(a
 }
 
 void frmComLst::Form_Activate() {
-  if (!findList(around_)) {
-    unload();
-    return;
-  }
+  if (!findList(around_)) return unload();
   page_.PageStart = 0;
   redraw();
 }

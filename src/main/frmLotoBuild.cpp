@@ -89,7 +89,6 @@ frmLoto::frmLoto(Surroundings& around)
     : Form(around.windows), around_(around), animation_(*this, around.state.Drawn) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins(0, 0, 0, margin);
-  whole->setSpacing(margin - 4);
   whole->setSizeConstraint(QLayout::SetFixedSize);
   buildMenus();
   whole->addWidget(buildBanner());

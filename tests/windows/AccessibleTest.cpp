@@ -5,6 +5,7 @@
 #include <QAccessible>
 
 #include "AllWindows.h"
+#include "core/Numbers.h"
 #include "platform/qt/Accessibles.h"
 #include "platform/qt/Announcer.h"
 #include "windows/WindowTest.h"
@@ -203,6 +204,17 @@ TEST_F(ToldOfWindows, WhatIsAnnounced) {
   EXPECT_TRUE(announcer->testAttribute(Qt::WA_TransparentForMouseEvents));
   const std::pair<QAccessible::Event, QString> shown(QAccessible::ObjectShow, u"49 top işaretli"_s);
   EXPECT_EQ(std::ranges::count(Reports::all, shown), 1);
+}
+
+TEST_F(ToldOfWindows, AFinishedDraw) {
+  Form* loto = open("frmLoto");
+  const Reports reports;
+  world.boxes.expectBeep(6);
+  click(control(loto, "Command1"));
+  EXPECT_TRUE(waitFor([&] { return loto->findChild<Announcer*>() != nullptr; }));
+  EXPECT_TRUE(world.boxes.finished()) << "it is told when the last ball lies";
+  EXPECT_EQ(loto->findChild<Announcer*>()->accessibleName(),
+            toQt("Kolon: " + listed(world.state.Drawn)));
 }
 
 // The option that has the focus is told as the focus.

@@ -251,5 +251,12 @@ TEST_F(ApplicationTest, TheEndOfTheSessionRefusesTheBoxAndEndsTheProgram) {
   EXPECT_TRUE(forms.ending());
 }
 
+TEST(KeysWithoutAWindow, AreNobodys) {
+  Application::instance().setWorkingWindow(nullptr);
+  ASSERT_EQ(QGuiApplication::focusWindow(), nullptr);
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+  EXPECT_TRUE(QCoreApplication::sendEvent(qApp, &press));
+}
+
 }  // namespace
 }  // namespace karvenis

@@ -135,6 +135,7 @@ TEST_F(FormsTest, AWindowLeadsBackToTheOneItWasLastShownFrom) {
 TEST_F(FormsTest, TheWindowThatTheUserGoesToIsActivatedOnce) {
   Noting* a = show("frmA");
   show("frmB");
+  letSettle();
   taken();
   go(a);
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));

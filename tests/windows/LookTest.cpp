@@ -81,6 +81,17 @@ TEST_F(Look, TheOpeningPictureHasTheCornersOfItsPanel) {
   EXPECT_NE(shown.pixelColor(shown.width() / 2, 1), QColor(look::amber)) << "it has no focus";
 }
 
+TEST(Drawings, TheArrowAtTheEndOfMenusPointsToTheRight) {
+  const QIcon icon =
+      QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+  const QImage arrow = icon.pixmap(9, 9, QIcon::Normal).toImage();
+  EXPECT_EQ(arrow.pixelColor(5, 4), QColor(look::ink));
+  EXPECT_EQ(arrow.pixelColor(2, 2), QColor(look::ink));
+  EXPECT_EQ(arrow.pixelColor(2, 6), QColor(look::ink));
+  EXPECT_EQ(arrow.pixelColor(2, 4).alpha(), 0);
+  EXPECT_EQ(arrow.pixelColor(8, 4).alpha(), 0);
+}
+
 TEST(Drawings, ABallHasAShadowOfItsOwnOnlyWhereItLies) {
   Artwork artwork;
   const auto shadow = [&](const QString& step) {
