@@ -92,11 +92,11 @@ TEST_F(ApplicationTest, AltClosesAnOpenMenuAndOpensNoneAnew) {
 }
 
 TEST_F(ApplicationTest, AltWithAnotherKeyOrAClickIsNotAlone) {
-  down(Qt::Key_Alt, Qt::AltModifier);
+  down(Qt::Key_Alt);
   press(main, Qt::Key_Tab, Qt::AltModifier);
   up(Qt::Key_Alt);
   EXPECT_FALSE(menus().hasFocus());
-  down(Qt::Key_Alt, Qt::AltModifier);
+  down(Qt::Key_Alt);
   click(main, {3, main->height() - 3});
   up(Qt::Key_Alt);
   EXPECT_FALSE(menus().hasFocus());

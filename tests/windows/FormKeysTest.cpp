@@ -102,6 +102,19 @@ TEST_F(FormKeysTest, FunctionKeysAndEscAreTheWindowsAlone) {
   EXPECT_EQ(seen.all, (std::vector<int>{Qt::Key_7, Qt::Key_Shift}));
 }
 
+TEST_F(FormKeysTest, DigitsAndLettersHaveCodesOfTheirOwn) {
+  Noting* a = show("frmA");
+  for (const int key : {Qt::Key_0, Qt::Key_9, Qt::Key_A, Qt::Key_Z}) {
+    taken();
+    send(a, static_cast<Qt::Key>(key));
+    EXPECT_EQ(taken(), (Log{"frmA KeyDown " + std::to_string(key) + "/0"}));
+  }
+  for (const auto key : {Qt::Key_Slash, Qt::Key_Colon, Qt::Key_At, Qt::Key_BracketLeft}) {
+    send(a, key);
+    EXPECT_EQ(taken(), (Log{"frmA KeyDown 255/0"}));
+  }
+}
+
 TEST_F(FormKeysTest, FunctionKeysIgnoreRepeatsAndOthersDoNot) {
   Noting* a = show("frmA");
   taken();

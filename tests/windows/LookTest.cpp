@@ -84,7 +84,8 @@ TEST_F(Look, TheOpeningPictureHasTheCornersOfItsPanel) {
 TEST(Drawings, TheArrowAtTheEndOfMenusPointsToTheRight) {
   const QIcon icon =
       QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
-  const QImage arrow = icon.pixmap(9, 9, QIcon::Normal).toImage();
+  EXPECT_EQ(icon.availableSizes(), QList<QSize>{QSize(9, 9)});
+  const QImage arrow = icon.pixmap(9, 9).toImage();
   EXPECT_EQ(arrow.pixelColor(5, 4), QColor(look::ink));
   EXPECT_EQ(arrow.pixelColor(2, 2), QColor(look::ink));
   EXPECT_EQ(arrow.pixelColor(2, 6), QColor(look::ink));
