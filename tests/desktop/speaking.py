@@ -96,12 +96,23 @@ class SpeakingScreen(Screen):
                              "SPEECHD_ADDRESS": f"unix_socket:{self.voice.server_address}"}
         version = re.search(r"(\d+)\.", self.run("orca", "--version"))
         self.is_newer = int(version.group(1)) > 43  # than the one whose words the tests have
-        self._orca = self._start(["orca", "--disable", "key-echo"])
-        wait_for(lambda: "Ekran okuyucusu açık" in self.voice.lines, "Orca to say that it is on")
+        self.start_reader()
 
-    def close(self):
+    def start_reader(self):
+        """Starts Orca, in place of the one that runs."""
+        self._end_reader()
+        before = len(self.voice.lines)
+        self._orca = self._start(["orca", "--disable", "key-echo"])
+        wait_for(lambda: "Ekran okuyucusu açık" in self.voice.lines[before:],
+                 "Orca to say that it is on")
+
+    def _end_reader(self):
         if hasattr(self, "_orca"):
             self._orca.kill()  # it takes its time to end by itself
+            self._orca.wait()
+
+    def close(self):
+        self._end_reader()
         super().close()
         if hasattr(self, "voice"):
             self.voice.close()

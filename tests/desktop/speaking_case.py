@@ -18,6 +18,10 @@ class SpeakingCase(DesktopCase):
         super().setUpClass()
 
     def start(self, files=None, **options):
+        # Newer Orcas keep what they know of a control under an address that another control can
+        # have later, and then count or name the other one wrongly. A fresh one knows nothing yet.
+        if self.screen.is_newer:
+            self.screen.start_reader()
         self._heard = len(self.screen.voice.lines)  # how many lines the test has told of
         program = super().start(files, **options)
         self.hear("KARVENIS 2005 Randomizer", "Kolon düğme", "Yeni Kolon")
