@@ -266,6 +266,18 @@ TEST(QtBoxes, HaveIconsOfTheirOwnThatSayWhatTheyAre) {
   }
 }
 
+TEST(QtBoxes, HaveIconsThatGrowWithTheLetters) {
+  const auto width = [](double growth) {
+    const BigLetters letters("DejaVu Sans", growth);
+    double found = 0;
+    message("X", Icon::critical, [&](const QMessageBox& box) {
+      found = box.iconPixmap().deviceIndependentSize().width();
+    });
+    return found;
+  };
+  EXPECT_NEAR(width(2), 2 * width(1), 4) << "sizes of letters are rounded";
+}
+
 TEST(QtBoxes, ShowMarkupAsTheTextThatItIs) {
   message("<b>X</b>", Icon::none, [](const QMessageBox& box) {
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
