@@ -31,14 +31,14 @@ constexpr int margin = 16;
 constexpr int cellWidth = 120;
 constexpr int restTop = 84;
 constexpr int plateTop = 210;
-constexpr int ballNumber = 30;    // letters on the balls
-constexpr int plateNumber = 20;   // and on the plates below them
+constexpr int ballNumber = 30;   // letters on the balls
+constexpr int plateNumber = 20;  // and on the plates below them
 // Letters may grow by this factor more than their pictures and still fit:
 constexpr double ballRoom = 1.1;   // on a ball
 constexpr double plateRoom = 1.2;  // on a plate
 constexpr double wordRoom = 1.5;   // in the panel
-constexpr int tickOfBalls = 20;   // milliseconds
-constexpr int tickOfClock = 100;  // milliseconds
+constexpr int tickOfBalls = 20;    // milliseconds
+constexpr int tickOfClock = 100;   // milliseconds
 
 QRect scaled(const QRect& place, double growth) {
   return {place.topLeft() * growth, place.size() * growth};
