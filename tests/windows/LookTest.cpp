@@ -47,6 +47,25 @@ TEST_F(Look, SmallWindowsHaveTheirButtonsInTheSameCorner) {
   }
 }
 
+TEST_F(Look, WindowsHaveTheSizeOfWhatTheyHold) {
+  world.boxes.expectBeep();
+  for (const char* name : {"frmLoto", "frmBalls", "frmBanko", "frmList", "frmRnd", "frmRndDel",
+                           "frmRLPrint", "frmCLPrint"}) {
+    const Form* form = open(name);
+    EXPECT_EQ(form->minimumSize(), form->maximumSize()) << name;
+  }
+}
+
+TEST_F(Look, APageStandsInTheUpperThirdOfALargerWindow) {
+  for (const char* name : {"frmRndLst", "frmComLst"}) {
+    Form* form = open(name);
+    const QWidget* page = control(form, "Surface");
+    const int above = page->y();
+    form->resize(form->width(), form->height() + 300);
+    EXPECT_TRUE(waitFor([&] { return page->y() == above + 100; })) << page->y() - above;
+  }
+}
+
 TEST_F(Look, TheCommandOfAListingKeepsItsWidthWithItsWord) {
   for (const char* name : {"frmRLPrint", "frmCLPrint"}) {
     Form* form = open(name);
