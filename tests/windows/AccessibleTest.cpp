@@ -195,7 +195,7 @@ TEST_F(ToldOfWindows, WhatIsAnnounced) {
   Form* balls = open("frmBalls");
   const Reports reports;
   press(balls, Qt::Key_F4);
-  EXPECT_TRUE(waitFor([&] { return balls->findChild<Announcer*>() != nullptr; }));
+  ASSERT_TRUE(waitFor([&] { return balls->findChild<Announcer*>() != nullptr; }));
   auto* announcer = balls->findChild<Announcer*>();
   EXPECT_EQ(told(announcer).role(), QAccessible::Notification);
   EXPECT_EQ(told(announcer).text(QAccessible::Name), u"49 top işaretli");
@@ -211,7 +211,7 @@ TEST_F(ToldOfWindows, AFinishedDraw) {
   const Reports reports;
   world.boxes.expectBeep(6);
   click(control(loto, "Command1"));
-  EXPECT_TRUE(waitFor([&] { return loto->findChild<Announcer*>() != nullptr; }));
+  ASSERT_TRUE(waitFor([&] { return loto->findChild<Announcer*>() != nullptr; }));
   EXPECT_TRUE(world.boxes.finished()) << "it is told when the last ball lies";
   EXPECT_EQ(loto->findChild<Announcer*>()->accessibleName(),
             toQt("Kolon: " + listed(world.state.Drawn)));
