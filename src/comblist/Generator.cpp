@@ -32,7 +32,7 @@ Generator::Outcome Generator::start(Mode mode, std::string_view text) {
   if (refuses(mode)) return Outcome::refused;
   if (mode == Mode::newList && !mayReplaceList()) return Outcome::kept;
   around_.chance.seedFrom(around_.clock);
-  GeneratorDraw draw(around_.state);
+  const GeneratorDraw draw(around_.state);
   if (mode == Mode::newList) {
     GenerateNewList(draw);
   } else {
@@ -65,7 +65,7 @@ bool Generator::mayReplaceList() {
 }
 
 /// Writes records 1..WantedCount.
-void Generator::GenerateNewList(GeneratorDraw& draw) {
+void Generator::GenerateNewList(const GeneratorDraw& draw) {
   backUpAnyList(around_);
   replaceList(around_, overOldList, [&](ColumnFile& list) {
     RecordNo = 0;
@@ -78,7 +78,7 @@ void Generator::GenerateNewList(GeneratorDraw& draw) {
 }
 
 /// Writes WantedCount records behind those that the list has now.
-void Generator::AppendToList(GeneratorDraw& draw) {
+void Generator::AppendToList(const GeneratorDraw& draw) {
   std::int16_t Start = 0;
   replaceList(around_, overOldList, [&](ColumnFile& list) {
     RecordNo = Start = checked<std::int16_t>(list.count());

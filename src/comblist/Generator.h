@@ -45,8 +45,8 @@ class Generator {
  private:
   bool refuses(Mode mode);
   bool mayReplaceList();
-  void GenerateNewList(GeneratorDraw& draw);
-  void AppendToList(GeneratorDraw& draw);
+  void GenerateNewList(const GeneratorDraw& draw);
+  void AppendToList(const GeneratorDraw& draw);
   void writeNext(ColumnFile& list, const Column& drawn);
   void finish(const std::string& message);
 

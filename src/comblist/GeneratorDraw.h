@@ -9,6 +9,10 @@
 
 namespace karvenis {
 
+/// The balls that can be drawn. Element 0: how many; entries behind them are left over from earlier
+/// draws, and an empty pool still gives its first one.
+using BallPool = std::array<std::int16_t, ballsInAll + 1>;
+
 /// The generator's own way of drawing a column: every ball leaves the pool as it is drawn, so that
 /// nothing has to be drawn again. Unlike the main window's draw it leaves the bag as it is.
 ///
@@ -24,18 +28,10 @@ class GeneratorDraw {
   /// Draws the next column: every banko, and balls of the pool in the other positions, ascending
   /// and each once. If that leaves less than six balls, the last positions keep what was drawn
   /// there.
-  [[nodiscard]] Column draw(Chance& chance);
+  [[nodiscard]] Column draw(Chance& chance) const;
 
  private:
-  std::int16_t take(std::int16_t drawn);
-  static void sortByPresence(Column& column);
-
-  // Element 0: how many entries can be drawn. Entries behind them are left over from earlier draws;
-  // an empty pool still gives its first one.
-  using Table = std::array<std::int16_t, ballsInAll + 1>;
-
-  Table full_{};     // the pool at the start of every column
-  Table Pool{};      // what the current column can still draw
+  BallPool full_{};  // the pool at the start of every column
   Column bankos_{};  // in the first positions of every column
   std::size_t bankoCount_ = 0;
 };
