@@ -85,11 +85,7 @@ class Pictures : public WindowTest {
     if (QLibraryInfo::version().minorVersion() != 4 || qApp->devicePixelRatio() != 1) {
       GTEST_SKIP() << "the pictures are taken with Qt 6.4 on a plain screen";
     }
-    QFont plain(u"DejaVu Sans"_s);
-    plain.setPixelSize(13);
-    plain.setStyleStrategy(QFont::NoAntialias);
-    plain.setHintingPreference(QFont::PreferNoHinting);
-    QApplication::setFont(plain);
+    setLettersTo(13);
     QApplication::setCursorFlashTime(0);
     addWindows(forms, around);
     world.files.folder["KARVENIS.RND"] = countedColumns(30);
@@ -99,6 +95,13 @@ class Pictures : public WindowTest {
     WindowTest::TearDown();
     QApplication::setFont(usual_);
     QApplication::setCursorFlashTime(flash_);
+  }
+  static void setLettersTo(int pixels) {
+    QFont plain(u"DejaVu Sans"_s);
+    plain.setPixelSize(pixels);
+    plain.setStyleStrategy(QFont::NoAntialias);
+    plain.setHintingPreference(QFont::PreferNoHinting);
+    QApplication::setFont(plain);
   }
   /// The main window; its timers tick only when the test says so.
   Form* openLoto() {
@@ -203,6 +206,19 @@ TEST_F(Pictures, OfTheBag) {
   point(control(balls, "cmdBall_10"));
   control<QAbstractButton>(balls, "cmdBall_20")->setDown(true);
   expectPicture("bag", *balls);
+}
+
+TEST_F(Pictures, OfWindowsWithLargeLetters) {
+  setLettersTo(18);
+  setBag(world.state, {1, 8, 25, 49});
+  expectPicture("bag-large", *open("frmBalls"));
+  Form* loto = openLoto();
+  click(control(loto, "Option2"));
+  world.chance.script = {0.5F};
+  world.boxes.expectBeep();
+  click(control(loto, "Command1"));
+  tick(loto, 0);
+  expectPicture("column-large", *loto);
 }
 
 TEST_F(Pictures, OfTheBankos) {
