@@ -190,5 +190,13 @@ TEST_F(FrmLoto, TabLeadsToTheChosenSourceAlone) {
   EXPECT_EQ(focused(), "Option1");
 }
 
+// A ball that is late is seen; the clock may be, and so wakes the machine less often.
+TEST_F(FrmLoto, TheTimersOfTheBallsArePrecise) {
+  for (int number = 0; number <= 6; ++number) {
+    const auto* timer = control<QTimer>(loto, QStringLiteral("Timer%1").arg(number));
+    EXPECT_EQ(timer->timerType(), number == 0 ? Qt::CoarseTimer : Qt::PreciseTimer) << number;
+  }
+}
+
 }  // namespace
 }  // namespace karvenis
