@@ -300,7 +300,8 @@ TEST_F(Pictures, OfBoxes) {
   for (const auto& [name, icon] :
        {std::pair("box-plain", Icon::none), std::pair("box-warning", Icon::exclamation),
         std::pair("box-critical", Icon::critical)}) {
-    expectBox(name, [&](QtBoxes& boxes) { boxes.message(lines, standardTitle, icon); });
+    expectBox(name,
+              [&, icon = icon](QtBoxes& boxes) { boxes.message(lines, standardTitle, icon); });
   }
   expectBox("box-question", [&](QtBoxes& boxes) { boxes.ask("Silinsin mi?", standardTitle); });
   expectBox("box-input", [&](QtBoxes& boxes) {
