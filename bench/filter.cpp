@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
       for (int round = 0; round < rounds; ++round) {
         makeList(world, count);
         seconds.push_back(secondsOf(
-            [&, filter = filter] { filterList(filter, world.around, page, world.title); }));
+            [&, chosen = filter] { filterList(chosen, world.around, page, world.title); }));
       }
       const double perRecord = median(seconds) / count;
       if (smallest == 0) smallest = perRecord;

@@ -20,9 +20,9 @@ class frmCLPrint final : public frmListing {
   void Text2_KeyPress();
   void Command1_Click() override;
 
-  QLabel* Label1;    // "Başlangıç :"
+  QLabel* Label1;      // "Başlangıç :"
   NumberField* Text1;  // the first record's number
-  QLabel* Label2;    // "Bitiş :"
+  QLabel* Label2;      // "Bitiş :"
   NumberField* Text2;  // the last record's number
 };
 

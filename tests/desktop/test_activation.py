@@ -232,7 +232,7 @@ class FastKeys(ActivationCase):
         program = self.start()
         program.while_stopped(lambda: program.keys("F10", "Return", "F5"))
         program.activated(BAG)
-        self.assertEqual(program.boxes(), [])
+        program.until(lambda: not program.boxes(), "the box to be gone")
 
 
 class OpenBox(ActivationCase):

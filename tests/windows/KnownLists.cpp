@@ -226,7 +226,7 @@ void KnownProgram::filterByPair() {
       {"İstemediğiniz ikiliyi (sayıların arasına tire/eksi işareti koyarak) girin.", "örnek: 5-12",
        std::to_string(b) + " - " + std::to_string(a), std::to_string(a) + "-" + std::to_string(b),
        "' numaralı topların (ikisinin de) yer aldığı kolonları silmek istiyormusunuz?"},
-      [a = a, b = b](const Column& column) { return !hasBoth(column, a, b); });
+      [one = a, other = b](const Column& column) { return !hasBoth(column, one, other); });
 }
 
 void KnownProgram::filterByPairs() {

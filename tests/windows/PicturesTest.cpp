@@ -301,7 +301,7 @@ TEST_F(Pictures, OfBoxes) {
        {std::pair("box-plain", Icon::none), std::pair("box-warning", Icon::exclamation),
         std::pair("box-critical", Icon::critical)}) {
     expectBox(name,
-              [&, icon = icon](QtBoxes& boxes) { boxes.message(lines, standardTitle, icon); });
+              [&, shown = icon](QtBoxes& boxes) { boxes.message(lines, standardTitle, shown); });
   }
   expectBox("box-question", [&](QtBoxes& boxes) { boxes.ask("Silinsin mi?", standardTitle); });
   expectBox("box-input", [&](QtBoxes& boxes) {
