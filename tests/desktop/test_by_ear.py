@@ -4,6 +4,7 @@ import os
 import unittest
 
 from columns import bag_file, columns
+from screen import TooLate
 from speaking_case import SpeakingCase, Voice
 
 TRANSCRIPT = os.environ.get("KARVENIS_TRANSCRIPT")  # the file that takes what was pressed and said
@@ -38,12 +39,17 @@ class ByEar(SpeakingCase):
         self.told.append(f"\n## {text}\n")
 
     def do(self, key, *patterns):
-        """Presses a key and waits for what is to be heard then, one line behind the other.
-        Returns the last one's match."""
+        """Presses a key and waits for what is to be heard then, one line behind the other. Only the
+        first of several, the title of a window, may be left out. Returns the last one's match."""
         self.note()
         self.told.append(f"- {key}")
         self.program.keys(key)
-        return [self.listen(pattern) for pattern in self.awaited(patterns)][-1]
+        try:
+            return [self.listen(pattern) for pattern in self.awaited(patterns)][-1]
+        except TooLate:
+            if len(patterns) == 1:
+                raise
+            return [self.listen(pattern) for pattern in patterns[1:]][-1]
 
     def write_in(self, digits):
         self.note()
