@@ -38,11 +38,10 @@ class SpeakingCase(DesktopCase):
         self.hear(*lines)
 
     def hear(self, *lines):
-        """Exactly these lines come next, and none of them is cut off by the one behind it. Only the
-        first of several, the title of a window, is left out by a screen reader that is busy."""
+        """Exactly these lines come next, and none of them is cut off by the one behind it. A title
+        may be missing, as in `listen`; a newer Orca says more than these lines."""
         if self.screen.is_newer:
-            for line in self.awaited(lines):
-                self.listen(re.escape(line))
+            self.listen(*map(re.escape, lines))
             return
         end = 0
 
@@ -61,23 +60,33 @@ class SpeakingCase(DesktopCase):
         self.assertEqual(spoken(), list(lines), self._coming())
         self._heard += end
 
-    def awaited(self, lines):
-        """Those of the lines that are waited for. An Orca newer than 43 repeats the surroundings and
-        cuts itself off, so that others may be between them; where it is busy it leaves out the
-        first of several, which is the title of a window."""
-        return lines[1:] if self.screen.is_newer and len(lines) > 1 else lines
-
-    def listen(self, pattern):
-        """The next line that matches, as its match; those before it are passed over."""
-        def matching():
-            for place, line in enumerate(self._coming()):
-                found = line is not Voice.CUT and re.fullmatch(pattern, line)
-                if found:
-                    self._heard += place + 1
-                    return found
-            return None
+    def listen(self, *patterns):
+        """The next lines that match, in this order; others may be between them. Returns the last
+        one's match. Only the first of several, the title of a window, may be missing: a busy
+        screen reader leaves it out, and newer ones so often that it is not waited for."""
+        if len(patterns) > 1 and self.screen.is_newer:
+            return self.listen_to_all(*patterns[1:])
         try:
-            return self.program.until(matching, f"«{pattern}» to be spoken")
+            return self.listen_to_all(*patterns)
+        except TooLate:
+            if len(patterns) == 1:
+                raise
+            return self.listen_to_all(*patterns[1:])
+
+    def listen_to_all(self, *patterns):
+        """`listen`, where no line may be missing."""
+        def matching():
+            rest, found = enumerate(self._coming()), None
+            for pattern in patterns:
+                matches = ((place, line is not Voice.CUT and re.fullmatch(pattern, line))
+                           for place, line in rest)
+                place, found = next((match for match in matches if match[1]), (0, None))
+                if not found:
+                    return None
+            self._heard += place + 1
+            return found
+        try:
+            return self.program.until(matching, f"«{' … '.join(patterns)}» to be spoken")
         except TooLate as late:
             raise TooLate(f"{late}; heard: {self._coming()}") from None
 

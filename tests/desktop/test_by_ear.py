@@ -4,7 +4,6 @@ import os
 import unittest
 
 from columns import bag_file, columns
-from screen import TooLate
 from speaking_case import SpeakingCase, Voice
 
 TRANSCRIPT = os.environ.get("KARVENIS_TRANSCRIPT")  # the file that takes what was pressed and said
@@ -39,27 +38,23 @@ class ByEar(SpeakingCase):
         self.told.append(f"\n## {text}\n")
 
     def do(self, key, *patterns):
-        """Presses a key and waits for what is to be heard then, one line behind the other. Only the
-        first of several, the title of a window, may be left out. Returns the last one's match."""
+        """Presses a key and waits for what is to be heard then, as `listen` does."""
         self.note()
         self.told.append(f"- {key}")
         self.program.keys(key)
-        try:
-            return [self.listen(pattern) for pattern in self.awaited(patterns)][-1]
-        except TooLate:
-            if len(patterns) == 1:
-                raise
-            return [self.listen(pattern) for pattern in patterns[1:]][-1]
+        return self.listen(*patterns)
 
     def write_in(self, digits):
         self.note()
         self.told.append(f"- {' '.join(digits)}")
         self.program.type(digits)
 
-    def agree(self, key, question, *done):
+    def agree(self, key, question, done):
         """A question is heard and answered with yes, and what was done is confirmed."""
-        self.do(key, question, "Evet düğme")
-        self.do("Return", *done, "Tamam düğme")
+        self.do(key, question)
+        self.listen("Evet düğme")
+        self.do("Return", done)
+        self.listen("Tamam düğme")
 
     def find_ball(self, ball):
         """Steps from ball to ball until the wanted one is heard; seven stand in a row."""

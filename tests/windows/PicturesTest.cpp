@@ -10,6 +10,7 @@
 #include "doubles/Sets.h"
 #include "platform/qt/QtBoxes.h"
 #include "windows/BigLetters.h"
+#include "windows/SeenBox.h"
 
 // What is painted: each window, as it reaches the screen, is compared with the picture of it that
 // is kept in tests/windows/pictures. After a change on purpose, KARVENIS_TAKE_PICTURES=1 takes
@@ -278,21 +279,12 @@ TEST_F(Pictures, OfAToolTip) {
 
 /// Opens a real box with `open` and compares it with its picture.
 void expectBox(const char* name, const std::function<void(QtBoxes&)>& open) {
-  QTimer timer;
-  timer.setInterval(0);
-  bool seen = false;
-  QObject::connect(&timer, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (box == nullptr || !box->isActiveWindow()) return;
-    timer.stop();
-    expectPicture(name, *box);
-    seen = true;
-    box->reject();
-  });
-  timer.start();
   QtBoxes boxes;
-  open(boxes);
-  EXPECT_TRUE(seen);
+  seeing<QDialog>([&] { open(boxes); },
+                  [&](QDialog& box) {
+                    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+                    expectPicture(name, box);
+                  });
 }
 
 TEST_F(Pictures, OfBoxes) {

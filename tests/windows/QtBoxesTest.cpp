@@ -18,30 +18,12 @@
 #include "platform/qt/Look.h"
 #include "platform/qt/Text.h"
 #include "windows/BigLetters.h"
+#include "windows/SeenBox.h"
 
 // Real boxes on the screen.
 
 namespace karvenis {
 namespace {
-
-/// Opens a box with `open`, lets `look` see it, and refuses it.
-template <typename Box>
-void seeing(const std::function<void()>& open, const std::function<void(Box&)>& look) {
-  QTimer timer;
-  timer.setInterval(0);
-  bool seen = false;
-  QObject::connect(&timer, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
-    if (box == nullptr || !box->isVisible()) return;
-    timer.stop();
-    look(*box);
-    seen = true;
-    box->reject();
-  });
-  timer.start();
-  open();
-  EXPECT_TRUE(seen);
-}
 
 void message(const QString& text, Icon icon, const std::function<void(QMessageBox&)>& look) {
   seeing<QMessageBox>([&] { QtBoxes().message(fromQt(text), "KARVENIS 2005 Randomizer", icon); },

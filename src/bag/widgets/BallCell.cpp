@@ -61,7 +61,9 @@ void BallCell::grow(double growth) {
 /// A procedure may change a mark twice; the result is reported when the procedure has ended.
 void BallCell::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
-  QMetaObject::invokeMethod(this, &BallCell::reportMark, Qt::QueuedConnection);
+  if (event->type() == QEvent::FontChange) {
+    QMetaObject::invokeMethod(this, &BallCell::reportMark, Qt::QueuedConnection);
+  }
 }
 
 void BallCell::reportMark() {
