@@ -8,6 +8,7 @@ import re
 
 from clang import cindex
 from clang.cindex import CursorKind as Kind
+from clang.cindex import TypeKind
 
 OPERATORS = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&": "||",
              "||": "&&", "+": "-", "-": "+", "*": "/", "/": "*", "%": "*", "<<": ">>", ">>": "<<",
@@ -126,6 +127,10 @@ class Finder:
     def _drop(self, node, above):
         is_expression = node.kind.is_expression()
         is_void_return = node.kind == Kind.RETURN_STMT and not list(node.get_children())
+        function = above[-2]
+        if (function.kind in FUNCTIONS and function.result_type.kind != TypeKind.VOID
+                and node == list(above[-1].get_children())[-1]):
+            return  # without its end the function would return nothing
         if is_expression or is_void_return or node.kind in STATEMENTS:
             begin, end = self._span(node)
             self._add(node, above, "dropped", (begin, end, "if (!mutants::on(#)) ", ""))
@@ -166,7 +171,9 @@ class Finder:
             new = {"true": "false", "false": "true"}[source]
         elif re.fullmatch(r"[\d']+[uUlLzZ]*", source):
             digits = re.match(r"[\d']+", source)[0]
-            new = str(int(digits.replace("'", "")) + 1) + source[len(digits):]
+            is_colour = any(up.spelling == "QColor" for up in above[-3:])
+            step = 64 if is_colour else 1  # one step of a colour is not seen
+            new = str(int(digits.replace("'", "")) + step) + source[len(digits):]
         elif re.fullmatch(r"\d+\.\d*f?", source):
             new = f"({source} + 1)"
         else:

@@ -8,6 +8,7 @@
 #include "core/Numbers.h"
 #include "platform/qt/Accessibles.h"
 #include "platform/qt/Announcer.h"
+#include "platform/qt/NumberField.h"
 #include "windows/WindowTest.h"
 
 // What assistive technology is told of the controls. What a screen reader makes of it is a desktop
@@ -72,6 +73,7 @@ TEST_F(TypedText, IsSelected) {
   EXPECT_EQ(selected(), std::pair(0, 0));
   text().addSelection(2, 5);
   EXPECT_EQ(line.selectedText(), u"345");
+  EXPECT_EQ(line.cursorPosition(), 5) << "at its end";
   EXPECT_EQ(selected(), std::pair(2, 5));
   text().setSelection(0, 1, 3);
   EXPECT_EQ(selected(), std::pair(1, 3));
@@ -136,7 +138,8 @@ class Reports {
   }
   static void note(QAccessibleEvent* event) {
     const QAccessibleInterface* subject = event->accessibleInterface();
-    if (subject != nullptr) all.emplace_back(event->type(), subject->text(QAccessible::Name));
+    if (subject != nullptr && isToBeReported(*event))
+      all.emplace_back(event->type(), subject->text(QAccessible::Name));
   }
   QAccessible::UpdateHandler before_;
 };
@@ -191,6 +194,28 @@ TEST_F(ToldOfWindows, TheFirstLineOfEachPageAsTheFocus) {
       std::ranges::count(Reports::all, QAccessible::Focus, [](auto& one) { return one.first; }), 1);
 }
 
+TEST_F(ToldOfWindows, TheCaretOfTheFieldThatTheUserTypesInto) {
+  Form* listing = open("frmCLPrint");
+  auto* last = control<NumberField>(listing, "Text2");
+  const Reports reports;
+  const auto carets = [] {
+    QStringList names;
+    for (const auto& [kind, name] : std::exchange(Reports::all, {})) {
+      if (kind == QAccessible::TextCaretMoved) names.append(name);
+    }
+    return names;
+  };
+  press(listing, Qt::Key_Tab);
+  ASSERT_TRUE(last->hasFocus());
+  EXPECT_EQ(carets(), QStringList()) << "a field is named first";
+  type(listing, "7");
+  EXPECT_EQ(carets(), QStringList{u"Bitiş :"_s});
+  last->write(u"5"_s);
+  EXPECT_EQ(carets(), QStringList()) << "the program announces its own numbers";
+  control(listing, "Text1")->setFocus();
+  EXPECT_EQ(carets(), QStringList());
+}
+
 TEST_F(ToldOfWindows, WhatIsAnnounced) {
   Form* balls = open("frmBalls");
   const Reports reports;
@@ -206,11 +231,30 @@ TEST_F(ToldOfWindows, WhatIsAnnounced) {
   EXPECT_EQ(std::ranges::count(Reports::all, shown), 1);
 }
 
+TEST_F(ToldOfWindows, WhatIsAnnouncedOnceTheProcedureHasEnded) {
+  Form* balls = open("frmBalls");
+  const Reports reports;
+  balls->run([&] {
+    forms.announce("7 top");
+    QEvent back(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(balls, &back);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(balls->findChild<Announcer*>(), nullptr) << "a box may still open";
+  });
+  EXPECT_TRUE(waitFor([&] { return balls->findChild<Announcer*>() != nullptr; }));
+}
+
 TEST_F(ToldOfWindows, AFinishedDraw) {
   Form* loto = open("frmLoto");
+  auto* sorted = control<QAbstractButton>(loto, "Check1");
   const Reports reports;
   world.boxes.expectBeep(6);
+  click(sorted);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(loto->findChild<Announcer*>(), nullptr) << "the opening picture covers the column";
+  click(sorted);
   click(control(loto, "Command1"));
+  click(sorted);
   ASSERT_TRUE(waitFor([&] { return loto->findChild<Announcer*>() != nullptr; }));
   EXPECT_TRUE(world.boxes.finished()) << "it is told when the last ball lies";
   EXPECT_EQ(loto->findChild<Announcer*>()->accessibleName(),

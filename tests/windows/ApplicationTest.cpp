@@ -211,6 +211,16 @@ TEST_F(ApplicationTest, APressThatBeginsBehindABoxIsNone) {
   })) << "the next one counts";
 }
 
+TEST_F(ApplicationTest, APressThatIsGivenUpBehindABoxStopsNoOtherButton) {
+  auto* column = control<QPushButton>(main, "Command1");
+  whileBoxIsOpen(main, [&](QMessageBox& box) {
+    Q_EMIT column->pressed();
+    box.reject();
+  });
+  control<QPushButton>(main, "Command2")->click();
+  EXPECT_TRUE(forms.ending());
+}
+
 TEST_F(ApplicationTest, APressThatEndsBehindABoxIsNone) {
   auto* exit = control<QPushButton>(main, "Command2");
   exit->animateClick();

@@ -115,6 +115,7 @@ TEST_F(FormsTest, AClosedWindowStaysUntilItsProcedureHasEnded) {
     settle();
     ASSERT_FALSE(b.isNull());
     EXPECT_TRUE(b->isClosing());
+    EXPECT_FALSE(b->isVisible());
   };
   press(b, Qt::Key_F1);
   settle();
@@ -162,6 +163,19 @@ TEST_F(FormsTest, AWindowThatTheKeyboardPassesThroughIsNotActivated) {
   EXPECT_TRUE(waitFor([a] { return a->isActiveWindow(); }));
   letSettle();
   EXPECT_EQ(taken(), (Log{"frmC KeyDown 27/0", "frmA Form_Activate"}));
+}
+
+TEST_F(FormsTest, AClosedBoxGivesTheKeyboardBackToTheWindowAtWork) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  letSettle();
+  taken();
+  a->activateWindow();
+  forms.boxClosed();
+  EXPECT_TRUE(waitFor([b] { return b->isActiveWindow(); }));
+  letSettle();
+  EXPECT_EQ(taken(), Log());
+  EXPECT_EQ(forms.active(), b);
 }
 
 TEST_F(FormsTest, ADesktopThatKeepsTheKeyboardElsewhereIsBelievedInTheEnd) {

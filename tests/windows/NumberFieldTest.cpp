@@ -54,6 +54,16 @@ TEST_F(NumberFields, AreSelectedWhenTheirWindowOpens) {
   EXPECT_EQ(text("Text1"), "7");
 }
 
+TEST_F(NumberFields, AreNotSelectedWhenTheDesktopShowsTheirWindowAgain) {
+  start("frmRnd");
+  type(form, "5");
+  QShowEvent shown;
+  QSpontaneKeyEvent::setSpontaneous(&shown);
+  qApp->notify(field("Text1"), &shown);  // sendEvent() would take it for one of the program
+  type(form, "6");
+  EXPECT_EQ(text("Text1"), "56");
+}
+
 TEST_F(NumberFields, AreSelectedWhenTheirWindowOpensOverNoList) {
   world.files.folder.clear();
   start("frmRnd");

@@ -282,6 +282,18 @@ TEST(QtBoxes, AnInputShowsItsPromptInLinesAndItsPresetSelected) {
                        });
 }
 
+TEST(QtBoxes, CanBeClosedAndMovedAndNothingElse) {
+  const auto look = [](const QDialog& box) {
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::CustomizeWindowHint)) << "nothing is added to these";
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowTitleHint));
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(box.windowFlags() & Qt::WindowMinMaxButtonsHint);
+  };
+  message("X", Icon::none, look);
+  question("X", look);
+  input("X", look);
+}
+
 TEST(QtBoxes, ThePointerIsTheHourglassUntilItIsSetBack) {
   QtBoxes boxes;
   boxes.pointer(Pointer::hourglass);

@@ -2,7 +2,6 @@
 
 #include <qpa/qwindowsysteminterface_p.h>
 
-#include <QDialog>
 #include <QKeyEvent>
 #include <QTimer>
 #include <utility>
@@ -15,11 +14,9 @@ struct Repeat final : QKeyEvent {
   explicit Repeat(const QKeyEvent& press) : QKeyEvent(press) { m_autoRepeat = true; }
 };
 
-/// Whether `receiver` belongs to a box that has closed.
-bool isOfClosedBox(const QObject* receiver) {
-  if (!receiver->isWidgetType()) return false;
-  const QWidget* window = static_cast<const QWidget*>(receiver)->window();
-  return window->isHidden() && qobject_cast<const QDialog*>(window) != nullptr;
+/// Whether `receiver` belongs to a window that has closed.
+bool isOfClosedWindow(const QObject* receiver) {
+  return receiver->isWidgetType() && static_cast<const QWidget*>(receiver)->window()->isHidden();
 }
 
 /// Whether this is Alt and no other key that changes the meaning of keys is held.
@@ -53,10 +50,10 @@ Application::~Application() = default;
 /// Takes the keys and the presses and releases of the mouse that the desktop sends to native
 /// windows (spontaneous events) before any window sees them. All other events pass.
 bool Application::notify(QObject* receiver, QEvent* event) {
-  // Assistive technology sees every event. It need not see that a closed box is no longer active:
-  // if it is busy with a key at that moment, it takes the next window for one that it has read
-  // already, and does not read it. That window's own events tell it enough.
-  if (event->type() == QEvent::WindowDeactivate && isOfClosedBox(receiver)) {
+  // Assistive technology sees every event. It need not see that a closed window is no longer
+  // active: if it is busy with a key at that moment, it takes the next window for one that it has
+  // read already, and does not read it. That window's own events tell it enough.
+  if (event->type() == QEvent::WindowDeactivate && isOfClosedWindow(receiver)) {
     return receiver->event(event);
   }
   if (!receiver->isWindowType() || !event->spontaneous()) {

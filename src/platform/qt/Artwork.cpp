@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QResource>
 #include <QSvgRenderer>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,9 +54,8 @@ QPixmap Artwork::render(const QString& file, const QString& element, const QSize
 }
 
 QSvgRenderer& Artwork::renderer(const QString& file) {
-  if (loaded_ != file) {
+  if (std::exchange(loaded_, file) != file) {
     renderer_ = std::make_unique<QSvgRenderer>(u":/assets/"_s + file);
-    loaded_ = file;
   }
   return *renderer_;
 }

@@ -216,7 +216,8 @@ bool Form::handleKey(const QKeyEvent& key) {
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();
   run([&] { Form_KeyDown(code, shift); });
-  const bool character = (code == keyEnter || code == keyEscape) && (shift & ~shiftKey) == 0;
+  // Esc is the one character that windows take; the others are their controls'.
+  const bool character = code == keyEscape && (shift & ~shiftKey) == 0;
   if (character && !closing_) run([&] { Form_KeyPress(code); });
   if (closing_ || ofWindow) return true;
   if (pressButton(code, focused)) return true;

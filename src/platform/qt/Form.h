@@ -64,7 +64,7 @@ class Form : public QWidget, public TitleBar {
   /// F1..F12 or Esc comes once; other keys repeat. No key comes while a menu is open, and none that
   /// belongs to the desktop (Alt with F1..F12 or Esc) or to a running screen reader.
   virtual void Form_KeyDown(int KeyCode, int Shift);
-  /// The character of a key: Enter (13) and Esc (27) only, not while Ctrl or Alt is held.
+  /// The character of a key: Esc (27) only, not while Ctrl or Alt is held.
   virtual void Form_KeyPress(int KeyAscii);
   /// A left click on the background: on the window itself and not on a control.
   virtual void Form_Click() {}

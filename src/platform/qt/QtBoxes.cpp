@@ -92,7 +92,6 @@ std::string QtBoxes::input(const std::string& prompt, const std::string& title,
   box->findChild<QLineEdit*>()->setPlaceholderText(toQt(example));
   box->setOkButtonText(u"Tamam"_s);
   box->setCancelButtonText(u"İptal"_s);
-  box->setWindowModality(Qt::ApplicationModal);
   auto* label = box->findChild<QLabel*>();
   const int room =
       roomOnScreen().width() - 2 * box->style()->pixelMetric(QStyle::PM_LayoutLeftMargin);

@@ -41,8 +41,7 @@ struct QtPrinter::Document {
   QPdfWriter writer{&pdf};
   QRectF area;  // what may be printed on
   QPainter painter;
-  double x = 0;  // where the next line begins
-  double y = 0;
+  QPointF next;  // where the next line begins
 };
 
 QtPrinter::Document::Document() {
@@ -70,20 +69,20 @@ void QtPrinter::fontSize(double points) {
   painter.setFont(font);
 }
 
-void QtPrinter::currentX(double twips) { document().x = twips; }
-void QtPrinter::currentY(double twips) { document().y = twips; }
+void QtPrinter::currentX(double twips) { document().next.setX(twips); }
+void QtPrinter::currentY(double twips) { document().next.setY(twips); }
 
 void QtPrinter::printLine(const std::string& text) {
   Document& page = document();
   const QFontMetricsF metrics(page.painter.font(), &page.writer);
-  page.y = std::max(page.y, page.area.top());
-  if (page.y + metrics.height() > page.area.bottom()) {
+  double top = std::max(page.next.y(), page.area.top());
+  if (top + metrics.height() > page.area.bottom()) {
     if (!page.writer.newPage()) failToPrint();
-    page.y = page.area.top();
+    top = page.area.top();
   }
-  const double left = std::max(page.x, page.area.left());
-  page.painter.drawText(QPointF(left, page.y + metrics.ascent()), toQt(text));
-  page.y += metrics.height();
+  const double left = std::max(page.next.x(), page.area.left());
+  page.painter.drawText(QPointF(left, top + metrics.ascent()), toQt(text));
+  page.next.setY(top + metrics.height());
 }
 
 void QtPrinter::endDocument() {
