@@ -25,10 +25,11 @@ class Journal {
   std::function<void(const std::string& line)> listener;
 
   void note(std::string_view kind, std::string_view what = {}) {
-    const std::string line = std::string(kind) + (what.empty() ? "" : " ") + std::string(what);
-    const bool goesOn = line == "number" && !lines.empty() && lines.back() == line;
-    if (!goesOn) lines.push_back(line);
-    if (listener) listener(line);
+    const bool goesOn = kind == "number" && !lines.empty() && lines.back() == kind;
+    if (!goesOn) {
+      lines.push_back(std::string(kind) + (what.empty() ? "" : " ") + std::string(what));
+    }
+    if (listener) listener(lines.back());
     if (shownTexts()) shownTexts()(what);
   }
   /// What the lines of one kind tell.

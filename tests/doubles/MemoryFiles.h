@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <string>
 #include <string_view>
@@ -14,6 +15,11 @@
 namespace karvenis {
 
 using Bytes = std::vector<std::byte>;
+
+/// Whether both hold the same bytes; == compares them one by one.
+inline bool isSame(const Bytes& a, const Bytes& b) {
+  return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size()) == 0);
+}
 
 /// A folder in memory, without rights.
 class MemoryFiles : public Files, public Journaling {
@@ -74,7 +80,7 @@ class MemoryFiles : public Files, public Journaling {
     void write(std::uint64_t offset, std::span<const std::byte> data) override {
       door_.note("write", name_);
       if (content_.size() < offset + data.size()) content_.resize(offset + data.size());
-      std::ranges::copy(data, content_.begin() + static_cast<std::ptrdiff_t>(offset));
+      std::copy_n(data.data(), data.size(), content_.data() + offset);
     }
     std::uint64_t length() override { return content_.size(); }
     void takeRightsOf(const std::string&) override {}

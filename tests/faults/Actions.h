@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <memory>
 #include <ostream>
@@ -30,6 +32,9 @@ struct Action {
 
   friend void PrintTo(const Action& action, std::ostream* out) { *out << action.name; }
 };
+
+/// The action's name as that of a test.
+std::string nameOf(const testing::TestParamInfo<Action>& info);
 
 /// Every command that touches a file. The lists hold more columns than one block of memory.
 const std::vector<Action>& actions();

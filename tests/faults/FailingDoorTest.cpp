@@ -87,12 +87,6 @@ TEST_P(FailingDoor, NoFaultIsSwallowedUnlessTheCommandGoesOn) {
   }
 }
 
-std::string nameOf(const testing::TestParamInfo<Action>& info) {
-  std::string name = info.param.name;
-  std::ranges::replace(name, ' ', '_');
-  return name;
-}
-
 INSTANTIATE_TEST_SUITE_P(Every, FailingDoor, testing::ValuesIn(actions()), nameOf);
 
 }  // namespace

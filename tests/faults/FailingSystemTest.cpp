@@ -175,11 +175,6 @@ class Disk {
   std::map<int, std::size_t> open_;
 };
 
-/// The file that is open as `file`.
-std::string nameOfOpen(int file) {
-  return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file)).filename().string();
-}
-
 TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   const Action& action = GetParam();
   folder_.fill(*action.start);
@@ -216,7 +211,7 @@ TEST_P(FailingSystem, APowerLossAfterAnyCallLeavesOldOrNewBytes) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()), OnDisk::nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, FailingSystem, testing::ValuesIn(actions()), nameOf);
 
 }  // namespace
 }  // namespace karvenis

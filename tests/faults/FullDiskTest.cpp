@@ -84,7 +84,7 @@ TEST_P(FullDisk, AfterAnyByteIsToldAndKeepsEveryListWhole) {
 }
 
 constexpr int mountRefused = 77;
-constexpr std::size_t page = 4096;
+constexpr std::size_t pageSize = 4096;
 
 void put(const char* file, const std::string& text) {
   const int open = ::open(file, O_WRONLY);
@@ -109,12 +109,12 @@ void mountSmallDisk(const std::string& folder) {
 void fillUp(std::size_t pages) {
   std::filesystem::create_directory("ballast");
   const int ballast = ::open("ballast/all", O_CREAT | O_TRUNC | O_RDWR | O_CLOEXEC, 0600);
-  const std::string block(page, 'b');
+  const std::string block(pageSize, 'b');
   while (::write(ballast, block.data(), block.size()) > 0) {
   }
   struct stat status {};
   EXPECT_EQ(::fstat(ballast, &status), 0);
-  EXPECT_EQ(::ftruncate(ballast, status.st_size - static_cast<off_t>(pages * page)), 0);
+  EXPECT_EQ(::ftruncate(ballast, status.st_size - static_cast<off_t>(pages * pageSize)), 0);
   ::close(ballast);
 }
 
@@ -155,8 +155,8 @@ TEST_P(FullFileSystem, IsToldAndKeepsEveryListWhole) {
   EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, FullDisk, testing::ValuesIn(actions()), OnDisk::nameOf);
-INSTANTIATE_TEST_SUITE_P(Every, FullFileSystem, testing::ValuesIn(actions()), OnDisk::nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, FullDisk, testing::ValuesIn(actions()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, FullFileSystem, testing::ValuesIn(actions()), nameOf);
 
 }  // namespace
 }  // namespace karvenis

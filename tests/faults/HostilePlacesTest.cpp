@@ -145,12 +145,6 @@ TEST_P(HostilePlace, AFullDiskKeepsEveryListWhole) {
   expectWorksAgain();
 }
 
-std::string nameOf(const testing::TestParamInfo<Action>& info) {
-  std::string name = info.param.name;
-  std::ranges::replace(name, ' ', '_');
-  return name;
-}
-
 INSTANTIATE_TEST_SUITE_P(Every, HostilePlace, testing::ValuesIn(actions()), nameOf);
 
 }  // namespace

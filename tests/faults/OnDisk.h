@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -21,6 +21,11 @@ class Hooked {
   Hooked& operator=(const Hooked&) = delete;
 };
 
+/// The file that is open as `file`.
+inline std::string nameOfOpen(int file) {
+  return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file)).filename().string();
+}
+
 inline bool isCopyUnderWay(const std::string& name) { return name.ends_with('~'); }
 
 /// What a copy that was broken off has left is cleared away by the real files only, so memory does
@@ -32,13 +37,6 @@ inline Folder withoutCopies(Folder folder) {
 
 /// An action on real files in a folder of its own.
 class OnDisk : public testing::TestWithParam<Action> {
- public:
-  static std::string nameOf(const testing::TestParamInfo<Action>& info) {
-    std::string name = info.param.name;
-    std::ranges::replace(name, ' ', '_');
-    return name;
-  }
-
  protected:
   /// Every list holds its old or its new bytes, and nothing left over stands in the way of the next
   /// run.

@@ -57,10 +57,6 @@ TEST_P(Rights, OfEveryFileSurvive) {
   }
 }
 
-std::string nameOfOpen(int file) {
-  return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file)).filename();
-}
-
 bool isScratch(const std::string& name) {
   return name == tmpScratch || name == yndScratch || name == ylsScratch || isCopyUnderWay(name);
 }
@@ -86,7 +82,7 @@ TEST_P(Rights, NoScratchFileIsMoreOpenThanItsList) {
   EXPECT_TRUE(!replaces || written > 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, Rights, testing::ValuesIn(actions()), OnDisk::nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, Rights, testing::ValuesIn(actions()), nameOf);
 
 // --- protected files
 
@@ -135,7 +131,7 @@ TEST_P(ProtectedFile, IsRefusedBeforeAnyByteIsWritten) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, ProtectedFile, testing::ValuesIn(actions()), OnDisk::nameOf);
+INSTANTIATE_TEST_SUITE_P(Every, ProtectedFile, testing::ValuesIn(actions()), nameOf);
 
 // --- the door alone
 

@@ -4,7 +4,7 @@
 namespace karvenis {
 namespace {
 
-const bool added =
+const bool filterUnwantedNumbers =
     addTarget("filter_unwanted_numbers", [](const std::uint8_t* data, std::size_t size) {
       filterWith(Filter::FilterUnwantedNumbers, textOf(data, size));
     });

@@ -4,7 +4,7 @@
 namespace karvenis {
 namespace {
 
-const bool added =
+const bool filterUnwantedPair =
     addTarget("filter_unwanted_pair", [](const std::uint8_t* data, std::size_t size) {
       filterWith(Filter::FilterUnwantedPair, textOf(data, size));
     });

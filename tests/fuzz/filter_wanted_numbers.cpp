@@ -4,7 +4,7 @@
 namespace karvenis {
 namespace {
 
-const bool added =
+const bool filterWantedNumbers =
     addTarget("filter_wanted_numbers", [](const std::uint8_t* data, std::size_t size) {
       filterWith(Filter::FilterWantedNumbers, textOf(data, size));
     });

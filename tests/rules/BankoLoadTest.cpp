@@ -18,7 +18,7 @@ constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
 using Words = std::vector<std::string>;
 using Texts = PlainFields::Texts;
 
-const Set wholeBag = {7, 12, 30, 44};
+const Set fullBag = {7, 12, 30, 44};
 
 struct Load {
   const char* name;
@@ -33,7 +33,7 @@ class LoadBankoInWindow : public testing::TestWithParam<Load> {};
 TEST_P(LoadBankoInWindow, TakesAndShowsTheFile) {
   World world;
   PlainFields fields;
-  setBag(world.state, wholeBag);
+  setBag(world.state, fullBag);
   setBanko(world.state, {48, 49});
   fields.chosen = 5;
   fields.texts = {"1", "2", "3", "4", "5"};
@@ -53,13 +53,13 @@ INSTANTIATE_TEST_SUITE_P(
     Files, LoadBankoInWindow,
     testing::Values(
         Load{"Two", {2, 30, 7}, {30, 7}, {"30", "7"}, {12, 44}},
-        Load{"Five", {5, 1, 2, 3, 4, 5}, {1, 2, 3, 4, 5}, {"1", "2", "3", "4", "5"}, wholeBag},
+        Load{"Five", {5, 1, 2, 3, 4, 5}, {1, 2, 3, 4, 5}, {"1", "2", "3", "4", "5"}, fullBag},
         Load{"StaleOnesBehind", {1, 7, 12}, {7}, {"7"}, {12, 30, 44}},
         Load{"NotRangeChecked", {2, 77, 7}, {77, 7}, {"", "7"}, {12, 30, 44}},
-        Load{"None", {0}, {}, {}, wholeBag}, Load{"Negative", {-1}, {}, {}, wholeBag},
-        Load{"MostNegative", {-32768}, {}, {}, wholeBag},
-        Load{"Six", {6, 1, 2, 3, 4, 5, 6}, {}, {}, wholeBag},
-        Load{"SevenIn118Bytes", {7, 1, 2, 3, 4, 5, 6, 7, 8}, {}, {}, wholeBag}),
+        Load{"None", {0}, {}, {}, fullBag}, Load{"Negative", {-1}, {}, {}, fullBag},
+        Load{"MostNegative", {-32768}, {}, {}, fullBag},
+        Load{"Six", {6, 1, 2, 3, 4, 5, 6}, {}, {}, fullBag},
+        Load{"SevenIn118Bytes", {7, 1, 2, 3, 4, 5, 6, 7, 8}, {}, {}, fullBag}),
     [](const auto& row) { return row.param.name; });
 
 struct Broken {

@@ -87,14 +87,15 @@ std::optional<Wish> readPairs(std::string input) {
 using Balls = std::array<int, 6>;
 
 bool keeps(Filter filter, const Wish& wish, const Balls& balls) {
-  const Numbers all(balls.begin(), balls.end());
-  Numbers others = {balls[0], balls[1], balls[3], balls[4], balls[5]};
+  const auto isDrawn = [&](int n) { return std::ranges::count(balls, n) > 0; };
+  const auto isDrawnOutsideTheThird = [&](int n) {
+    return std::ranges::count(balls, n) > (balls[2] == n ? 1 : 0);
+  };
   switch (filter) {
     case Filter::FilterUnwantedNumbers:
-      return std::ranges::none_of(wish.numbers, [&](int n) { return all.contains(n); });
+      return std::ranges::none_of(wish.numbers, isDrawn);
     case Filter::FilterWantedNumbers:
-      return balls[2] == -1 ||
-             std::ranges::any_of(wish.numbers, [&](int n) { return others.contains(n); });
+      return balls[2] == -1 || std::ranges::any_of(wish.numbers, isDrawnOutsideTheThird);
     case Filter::FilterUnwantedPair:
       return std::ranges::count_if(balls, [&](int n) { return wish.numbers.contains(n); }) < 2;
     case Filter::FilterWantedPairs:
@@ -119,12 +120,12 @@ std::optional<Bytes> filtered(Filter filter, const Wish& wish, Bytes list) {
   const std::size_t whole = list.size() / 16;
   const std::size_t count = whole + (rest > 8 || (rest == 8 && whole % 2 == 1) ? 1 : 0);
   list.resize(count * 16);
+  const Bytes mark = hex("A1 01 00 00");  // 417
   Bytes kept;
   for (std::size_t start = 0; start < list.size(); start += 16) {
     Balls balls{};
     for (std::size_t k = 0; k < 6; ++k) balls.at(k) = word16(list, start + 4 + 2 * k);
     if (!keeps(filter, wish, balls)) continue;
-    const Bytes mark = hex("A1 01 00 00");  // 417
     kept.insert(kept.end(), mark.begin(), mark.end());
     const auto from = list.begin() + static_cast<std::ptrdiff_t>(start);
     kept.insert(kept.end(), from + 4, from + 16);

@@ -41,7 +41,7 @@ TEST_P(LoadBag, TakesWhatIsUsable) {
   EXPECT_EQ(world.windows.announced, loaded ? Words{spokenBag(world.state)} : Words{});
 }
 
-const Set before = {40, 41};
+const Set earlier = {40, 41};
 
 INSTANTIATE_TEST_SUITE_P(
     Files, LoadBag,
@@ -56,18 +56,18 @@ INSTANTIATE_TEST_SUITE_P(
                     BagLoad{"OneBall", words({1, 49}), {}, {49}, 2},
                     BagLoad{"OddLengthLosesTheHalfWord", hex("02 00 05 00 06"), {}, {5, 6}, 2},
                     BagLoad{"OddLengthWithHalfABall", hex("01 00 05"), {}, {5}, 2},
-                    BagLoad{"CountZero", words(bagPart({0, 5})), {}, before, 1},
-                    BagLoad{"CountNegative", words(bagPart({-1, 5})), {}, before, 1},
-                    BagLoad{"CountMostNegative", words(bagPart({-32768, 5})), {}, before, 1},
-                    BagLoad{"LengthTwiceTheCount", words({2, 5}), {}, before, 1},
-                    BagLoad{"LengthBelowTwiceTheCount", words({3, 5}), {}, before, 1},
-                    BagLoad{"Empty", {}, {}, before, 1},
-                    BagLoad{"OneByte", hex("05"), {}, before, 1},
-                    BagLoad{"TwoBytes", words({1}), {}, before, 1},
-                    BagLoad{"CountFiftyTooShort", words({50, 1, 2}), {}, before, 1},
+                    BagLoad{"CountZero", words(bagPart({0, 5})), {}, earlier, 1},
+                    BagLoad{"CountNegative", words(bagPart({-1, 5})), {}, earlier, 1},
+                    BagLoad{"CountMostNegative", words(bagPart({-32768, 5})), {}, earlier, 1},
+                    BagLoad{"LengthTwiceTheCount", words({2, 5}), {}, earlier, 1},
+                    BagLoad{"LengthBelowTwiceTheCount", words({3, 5}), {}, earlier, 1},
+                    BagLoad{"Empty", {}, {}, earlier, 1},
+                    BagLoad{"OneByte", hex("05"), {}, earlier, 1},
+                    BagLoad{"TwoBytes", words({1}), {}, earlier, 1},
+                    BagLoad{"CountFiftyTooShort", words({50, 1, 2}), {}, earlier, 1},
                     BagLoad{"CountFiftyLongEnough", words(countAndBalls(50)), {}, {}, 2},
                     BagLoad{"CountSixtyLongEnough", words(countAndBalls(60)), {}, {}, 2},
-                    BagLoad{"CountLargestTooShort", words(bagPart({32767, 5})), {}, before, 1},
+                    BagLoad{"CountLargestTooShort", words(bagPart({32767, 5})), {}, earlier, 1},
                     BagLoad{"CountLargestLongEnough", words(countAndBalls(32767)), {}, {}, 2}),
     [](const auto& row) { return row.param.name; });
 
@@ -80,11 +80,11 @@ TEST(LoadBag, WithoutAFileThereIsABeepAndNothingElse) {
 
 TEST(LoadBag, NoLeavesTheBag) {
   World world;
-  setBag(world.state, before);
+  setBag(world.state, earlier);
   world.files.folder["KARVENIS.DAT"] = words({1, 5});
   world.boxes.expectBeep().expectQuestion(question6, false);
   loadBagInMainWindow(world.around);
-  EXPECT_EQ(bagOf(world.state), before);
+  EXPECT_EQ(bagOf(world.state), earlier);
 }
 
 TEST(LoadBag, AsksWhateverTheLength) {
@@ -112,7 +112,7 @@ TEST_P(LoadBanko, TakesWhatIsWhole) {
   world.boxes.expectBeep().expectQuestion(question8, true).expectBeep();
   loadBankoInMainWindow(world.around);
   EXPECT_EQ(bankoOf(world.state), GetParam().bankoAfter);
-  const bool loaded = GetParam().bankoAfter != before;
+  const bool loaded = GetParam().bankoAfter != earlier;
   EXPECT_EQ(world.windows.announced, loaded ? Words{spokenBanko(world.state)} : Words{});
   EXPECT_EQ(bagOf(world.state), GetParam().bagAfter);
   EXPECT_EQ(world.files.bytes("KARVENIS.DAT"), GetParam().file) << "a load writes nothing";
@@ -127,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(
         BankoLoad{"Five", words(withBankoPart({5, 9, 8, 7, 6, 5})), {}, {9, 8, 7, 6, 5}, {}},
         BankoLoad{"StaleOnesBehind", words(withBankoPart({1, 7, 8})), {7, 8}, {7}, {8}},
         BankoLoad{"NotRangeChecked", words(withBankoPart({2, 77, -3})), {1}, {77, -3}, {1}},
-        BankoLoad{"OneMissing", words(withBankoPart({2, 7})), {40, 1}, before, {1}},
+        BankoLoad{"OneMissing", words(withBankoPart({2, 7})), {40, 1}, earlier, {1}},
         BankoLoad{"HalfMissing",
                   [] {
                     Bytes bytes = words(withBankoPart({2, 7, 8}));
@@ -135,14 +135,14 @@ INSTANTIATE_TEST_SUITE_P(
                     return bytes;
                   }(),
                   {1},
-                  before,
+                  earlier,
                   {1}},
         BankoLoad{"None", words(withBankoPart({0})), {1, 2}, {}, {1, 2}},
         BankoLoad{"Negative", words(withBankoPart({-1})), {1, 2}, {}, {1, 2}},
         BankoLoad{"MostNegative", words(withBankoPart({-32768})), {1, 2}, {}, {1, 2}},
         BankoLoad{"SixWithAllTheirRecords", words(withBankoPart(six)), {1}, {}, {1}},
-        BankoLoad{"SevenTooShort", words(withBankoPart({7})), {1}, before, {1}},
-        BankoLoad{"LargestTooShort", words(withBankoPart({32767})), {1}, before, {1}}),
+        BankoLoad{"SevenTooShort", words(withBankoPart({7})), {1}, earlier, {1}},
+        BankoLoad{"LargestTooShort", words(withBankoPart({32767})), {1}, earlier, {1}}),
     [](const auto& row) { return row.param.name; });
 
 struct TooShort {
@@ -154,11 +154,11 @@ class LoadBankoShort : public testing::TestWithParam<TooShort> {};
 
 TEST_P(LoadBankoShort, StopsBeforeTheQuestion) {
   World world;
-  setBanko(world.state, before);
+  setBanko(world.state, earlier);
   world.files.folder["KARVENIS.DAT"] = Bytes(GetParam().length, std::byte{1});
   world.boxes.expectBeep();
   loadBankoInMainWindow(world.around);
-  EXPECT_EQ(bankoOf(world.state), before);
+  EXPECT_EQ(bankoOf(world.state), earlier);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lengths, LoadBankoShort,
@@ -168,22 +168,22 @@ INSTANTIATE_TEST_SUITE_P(Lengths, LoadBankoShort,
 
 TEST(LoadBag, AFileThatGoesBehindTheQuestionLeavesTheBag) {
   World world;
-  setBag(world.state, before);
+  setBag(world.state, earlier);
   setBanko(world.state, {40});  // as the bag window's save may leave it
   world.files.folder["KARVENIS.DAT"] = words({1, 5});
   world.boxes.whileOpen = [&] { world.files.folder.clear(); };
   world.boxes.expectBeep().expectQuestion(question6, true).expectBeep();
   loadBagInMainWindow(world.around);
-  EXPECT_EQ(bagOf(world.state), before);
+  EXPECT_EQ(bagOf(world.state), earlier);
   EXPECT_EQ(bankoOf(world.state), Set{40});
   EXPECT_TRUE(world.files.folder.empty()) << "no file is made";
 }
 
 TEST(LoadBag, WhatTheFileHoldsWhenItIsOpenedCounts) {
   for (const auto& [meanwhile, bag, beeps] :
-       {std::tuple{words({3, 7}), before, 1}, std::tuple{words({2, 8, 9}), Set{8, 9}, 2}}) {
+       {std::tuple{words({3, 7}), earlier, 1}, std::tuple{words({2, 8, 9}), Set{8, 9}, 2}}) {
     World world;
-    setBag(world.state, before);
+    setBag(world.state, earlier);
     world.files.folder["KARVENIS.DAT"] = words({1, 5, 6, 7});
     world.boxes.whileOpen = [&, changed = meanwhile] {
       world.files.folder["KARVENIS.DAT"] = changed;
@@ -196,23 +196,23 @@ TEST(LoadBag, WhatTheFileHoldsWhenItIsOpenedCounts) {
 
 TEST(LoadBanko, AFileThatGoesBehindTheQuestionLeavesBagAndBankos) {
   World world;
-  setBag(world.state, before);
+  setBag(world.state, earlier);
   setBanko(world.state, {40});  // as the bag window's save may leave it
   world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
   world.boxes.whileOpen = [&] { world.files.folder.clear(); };
   world.boxes.expectBeep().expectQuestion(question8, true).expectBeep();
   loadBankoInMainWindow(world.around);
   EXPECT_EQ(bankoOf(world.state), Set{40});
-  EXPECT_EQ(bagOf(world.state), before);
+  EXPECT_EQ(bagOf(world.state), earlier);
   EXPECT_TRUE(world.files.folder.empty()) << "no file is made";
 }
 
 TEST(LoadBanko, WhatTheFileHoldsWhenItIsOpenedCounts) {
   for (const auto& [meanwhile, bankos] :
-       {std::tuple{words({1, 5}), before}, std::tuple{words(withBankoPart({2, 7})), before},
+       {std::tuple{words({1, 5}), earlier}, std::tuple{words(withBankoPart({2, 7})), earlier},
         std::tuple{words(withBankoPart({2, 8, 9})), Set{8, 9}}}) {
     World world;
-    setBanko(world.state, before);
+    setBanko(world.state, earlier);
     world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
     world.boxes.whileOpen = [&, changed = meanwhile] {
       world.files.folder["KARVENIS.DAT"] = changed;
@@ -232,20 +232,20 @@ TEST(LoadBanko, WithoutAFileThereIsABeepAndNothingElse) {
 
 TEST(LoadBanko, NoLeavesTheBankos) {
   World world;
-  setBanko(world.state, before);
+  setBanko(world.state, earlier);
   world.files.folder["KARVENIS.DAT"] = words(withBankoPart({1, 7}));
   world.boxes.expectBeep().expectQuestion(question8, false);
   loadBankoInMainWindow(world.around);
-  EXPECT_EQ(bankoOf(world.state), before);
+  EXPECT_EQ(bankoOf(world.state), earlier);
 }
 
 TEST(LoadBanko, AShortFileMeanwhileLeavesTheBankos) {
   World world;
-  setBanko(world.state, before);
+  setBanko(world.state, earlier);
   world.files.folder["KARVENIS.DAT"] = words({0});
   world.boxes.expectBeep();
   LoadBankoFromFile(world.around);
-  EXPECT_EQ(bankoOf(world.state), before);
+  EXPECT_EQ(bankoOf(world.state), earlier);
 }
 
 }  // namespace
