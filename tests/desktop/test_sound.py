@@ -1,6 +1,7 @@
 """The beeps as they are heard: a sound server's only output is recorded and its sounds counted."""
 
 import os
+import subprocess
 import unittest
 
 from desktop_case import EXECUTABLE, STANDARD_TITLE, DesktopCase
@@ -100,6 +101,12 @@ class UnderX(SoundCase):
         self.refused()
         self.heard(8)
         self.end()
+
+    def test_the_player_ends_as_soon_as_nobody_can_ask_it(self):
+        player = os.path.join(os.path.dirname(self.executable), PLAYER)
+        ended = subprocess.run([player], stdin=subprocess.DEVNULL, timeout=60,
+                               env={**self.screen.environment, **self.environment})
+        self.assertEqual(ended.returncode, 0)
 
     def test_nothing_of_it_is_loaded_into_the_program(self):
         self.assertEqual(self.children(), {})

@@ -1,4 +1,5 @@
 #include <QBackingStore>
+#include <QClipboard>
 #include <QInputDialog>
 #include <QLibraryInfo>
 #include <QMenu>
@@ -198,6 +199,14 @@ TEST_F(Pictures, OfMenus) {
   auto* bar = balls->findChild<QMenuBar*>();
   bar->setActiveAction(bar->actions()[1]);
   expectPicture("menu-bar", *balls);
+}
+
+TEST_F(Pictures, OfTheMenuOfAField) {
+  QApplication::clipboard()->clear();
+  auto* field = control<QLineEdit>(open("frmRnd"), "Text1");
+  const std::unique_ptr<QMenu> menu(field->createStandardContextMenu());
+  menu->popup(field->window()->pos());
+  expectPicture("menu-field", *menu);
 }
 
 TEST_F(Pictures, OfTheBag) {
