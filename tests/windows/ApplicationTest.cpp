@@ -233,6 +233,32 @@ TEST_F(ApplicationTest, APressThatEndsBehindABoxIsNone) {
   EXPECT_EQ(forms.find("frmBanko"), nullptr);
 }
 
+/// Notes who loses the keyboard, as whoever sees every event does.
+struct Watcher final : QObject {
+  std::vector<const QObject*> inactive;
+  Watcher() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::WindowDeactivate) inactive.push_back(watched);
+    return false;
+  }
+  bool saw(const QObject* object) const { return std::ranges::count(inactive, object) > 0; }
+};
+
+TEST_F(ApplicationTest, NobodySeesThatAClosedWindowIsNoLongerActive) {
+  Form* bag = open("frmBalls");
+  Watcher watcher;
+  QEvent away(QEvent::WindowDeactivate);
+  QCoreApplication::sendEvent(bag, &away);
+  EXPECT_TRUE(watcher.saw(bag));
+  bag->hide();
+  watcher.inactive.clear();
+  QCoreApplication::sendEvent(bag, &away);
+  QCoreApplication::sendEvent(control(bag, "Command1"), &away);
+  EXPECT_TRUE(watcher.inactive.empty());
+  QCoreApplication::sendEvent(bag->windowHandle(), &away);
+  EXPECT_TRUE(watcher.saw(bag->windowHandle())) << "it is no widget";
+}
+
 TEST_F(ApplicationTest, TheDesktopClosesNoWindowBehindItsBox) {
   Form* bag = open("frmBalls");
   whileBoxIsOpen(bag, [&](QMessageBox& box) {

@@ -79,7 +79,8 @@ TEST_F(Look, TheCommandOfAListingKeepsItsWidthWithItsWord) {
 
 TEST_F(Look, MenusHaveTheGroundAndThePaddingOfTheHouse) {
   Form* form = open("frmBalls");
-  EXPECT_FALSE(form->findChild<QMenuBar*>()->isNativeMenuBar()) << "they stand in their window on every desktop";
+  EXPECT_FALSE(form->findChild<QMenuBar*>()->isNativeMenuBar())
+      << "they stand in their window on every desktop";
   auto* menu = form->findChild<QMenu*>("mnuSecim");
   QAction* first = menu->actions().first();
   menu->popup(form->pos());

@@ -237,6 +237,15 @@ TEST_F(FrmRnd, AnOpenOneKeepsItsCountAndAFreshOneCountsAnew) {
   EXPECT_EQ(text1()->text(), "32747");
 }
 
+TEST_F(FrmRnd, AnActivationSetsTheCountAlsoIfAppendingIsChosenAlready) {
+  start(10);
+  put("7");
+  forms.show("opener");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(forms.find("opener")));
+  start();
+  EXPECT_EQ(text1()->text(), "32757");
+}
+
 TEST_F(FrmRnd, KeysThatCameDuringTheRunAreNoCommandsAfterIt) {
   start();
   put("3");

@@ -35,7 +35,9 @@ pid_t spawn(const QString& program, int input) {
 }  // namespace
 
 Bell::Bell(QString player, std::function<void()> fallback)
-    : player_(std::move(player)), fallback_(std::move(fallback)) {}
+    : player_(std::move(player)), fallback_(std::move(fallback)) {
+  QObject::connect(&ended_, &QSocketNotifier::activated, [this] { giveUp(); });
+}
 
 Bell::~Bell() {
   if (socket_ >= 0) ::close(socket_);
@@ -62,8 +64,8 @@ void Bell::start() {
   process_ = spawn(player_, ends[1]);
   ::close(ends[1]);
   socket_ = ends[0];
-  ended_ = std::make_unique<QSocketNotifier>(socket_, QSocketNotifier::Read);
-  QObject::connect(ended_.get(), &QSocketNotifier::activated, [this] { giveUp(); });
+  ended_.setSocket(socket_);
+  ended_.setEnabled(true);
 }
 
 /// Sends the ring. Returns false if the player has ended; a ring that it is too busy for counts as
@@ -74,12 +76,12 @@ bool Bell::passOn() const {
 
 /// Closes the socket and ends the player; from then on the fallback rings.
 void Bell::giveUp() {
-  if (socket_ < 0) return;
-  ended_->setEnabled(false);
+  ended_.setEnabled(false);
   ::close(std::exchange(socket_, -1));
-  if (process_ == 0) return;
-  ::kill(process_, SIGKILL);  // so that the next line never waits
-  ::waitpid(process_, nullptr, 0);
+  const pid_t player = std::exchange(process_, 0);
+  if (player == 0) return;
+  ::kill(player, SIGKILL);  // so that the next line never waits
+  ::waitpid(player, nullptr, 0);
 }
 
 }  // namespace karvenis

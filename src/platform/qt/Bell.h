@@ -6,7 +6,6 @@
 #include <QSocketNotifier>
 #include <QString>
 #include <functional>
-#include <memory>
 
 namespace karvenis {
 
@@ -36,9 +35,9 @@ class Bell {
   QString player_;
   std::function<void()> fallback_;
   bool started_ = false;
-  int socket_ = -1;                         // to the player; -1 while there is none
-  pid_t process_ = 0;                       // the player
-  std::unique_ptr<QSocketNotifier> ended_;  // tells that the player has ended
+  int socket_ = -1;    // to the player; -1 while there is none
+  pid_t process_ = 0;  // the player; 0 while there is none
+  QSocketNotifier ended_{QSocketNotifier::Read};
 };
 
 }  // namespace karvenis
