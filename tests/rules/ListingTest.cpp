@@ -11,7 +11,7 @@ namespace {
 
 using Folder = std::map<std::string, Bytes>;
 
-constexpr char bareTitle[] = "KARVENIS 2005 Randomizer";
+constexpr char listingTitle[] = "KARVENIS 2005 Randomizer";
 constexpr char textQuestionR[] =
     "Rastgele Kolon Listesi'ni KARVENIS.TXT dosyasına yazdırmak istiyormusunuz ?";
 constexpr char printQuestionR[] = "Rastgele Kolon Listesi'ni printere bastırmak istiyormusunuz ?";
@@ -53,7 +53,7 @@ TEST(ListText, OfRandomColumnsByteByByte) {
   world.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(told(expected.size()), bareTitle);
+      .expectMessage(told(expected.size()), listingTitle);
   world.listRandom(Output::text);
   EXPECT_EQ(world.text(), expected);
   EXPECT_EQ(world.files.folder.size(), 2U);
@@ -72,9 +72,9 @@ TEST(ListText, OfARangeOfCombinationsByteByByte) {
   }
   expected += "\r\n< Toplam 11 kolon. >\r\n";
   world.boxes.expectBeep()
-      .expectQuestion(textQuestionC, true, bareTitle)
+      .expectQuestion(textQuestionC, true, listingTitle)
       .expectBeep()
-      .expectMessage(told(expected.size()), bareTitle);
+      .expectMessage(told(expected.size()), listingTitle);
   EXPECT_EQ(world.listRange(Output::text, 95, 105), RangeRefusal::none);
   EXPECT_EQ(world.text(), expected);
 }
@@ -83,9 +83,9 @@ TEST(ListText, OfOneColumn) {
   ListingWorld world;
   world.files.folder["KARVENIS.LST"] = columns139(105);
   world.boxes.expectBeep()
-      .expectQuestion(textQuestionC, true, bareTitle)
+      .expectQuestion(textQuestionC, true, listingTitle)
       .expectBeep()
-      .expectMessage(told(30 + 49 + 2 + 41 + 2 + 21), bareTitle);
+      .expectMessage(told(30 + 49 + 2 + 41 + 2 + 21), listingTitle);
   world.listRange(Output::text, 7, 7);
   EXPECT_NE(world.text().find("\r\n\r\nKolon 7 - "), std::string::npos);
   EXPECT_TRUE(world.text().ends_with("[139]\r\n\r\n< Toplam 1 kolon. >\r\n"));
@@ -106,7 +106,7 @@ TEST(ListText, NumbersAreAsLongAsTheLargest) {
     world.boxes.expectBeep()
         .expectQuestion(textQuestionR, true)
         .expectBeep()
-        .expectMessage(told(bytes), bareTitle);
+        .expectMessage(told(bytes), listingTitle);
     world.listRandom(Output::text);
     EXPECT_NE(world.text().find(row.firstLine), std::string::npos) << row.count;
     EXPECT_EQ(world.text().size(), bytes);
@@ -120,7 +120,7 @@ TEST(ListText, ADateBeyondAsciiKeepsOneByteACharacter) {
   world.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(told(30 + 41 + 2 + 41 + 2 + 21), bareTitle);
+      .expectMessage(told(30 + 41 + 2 + 41 + 2 + 21), listingTitle);
   world.listRandom(Output::text);
   EXPECT_NE(world.text().find("[ 21 ?ub 2026 ] \r\n"), std::string::npos);
 }
@@ -131,7 +131,7 @@ TEST(ListText, ASecondRunReplacesTheFirst) {
   world.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(told(136), bareTitle);
+      .expectMessage(told(136), listingTitle);
   world.listRandom(Output::text);
   EXPECT_EQ(world.text().size(), 136U);
 }
@@ -157,16 +157,16 @@ TEST(ListText, TheTitleTellsTheByteOfEachCharacterAndLine) {
   random.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(told(177), bareTitle);
+      .expectMessage(told(177), listingTitle);
   random.listRandom(Output::text);
   check(" ", 72, random);
 
   ListingWorld combinations;
   combinations.files.folder["KARVENIS.LST"] = columns139(2);
   combinations.boxes.expectBeep()
-      .expectQuestion(textQuestionC, true, bareTitle)
+      .expectQuestion(textQuestionC, true, listingTitle)
       .expectBeep()
-      .expectMessage(told(186), bareTitle);
+      .expectMessage(told(186), listingTitle);
   combinations.listRange(Output::text, 1, 2);
   check("", 81, combinations);
 }
@@ -177,7 +177,7 @@ TEST(ListText, TheLastBoxFindsTheTitleBackAndTheSourceOpen) {
   world.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(told(136), bareTitle);
+      .expectMessage(told(136), listingTitle);
   world.boxes.whileOpen = [&] {
     if (!world.boxes.finished()) return;
     EXPECT_EQ(world.captions().back(), " Rastgele Kolonlar");
@@ -200,7 +200,7 @@ TEST(ListText, EveryFailingCallIsAFault) {
   whole.boxes.expectBeep()
       .expectQuestion(textQuestionR, true)
       .expectBeep()
-      .expectMessage(lastBox, bareTitle);
+      .expectMessage(lastBox, listingTitle);
   const int calls = run(whole, 0);
   EXPECT_GE(calls, 7);
   for (int refusedCall = 1; refusedCall <= calls; ++refusedCall) {
@@ -208,7 +208,7 @@ TEST(ListText, EveryFailingCallIsAFault) {
     world.boxes.expectBeep().expectQuestion(textQuestionR, true);
     if (refusedCall >= calls - 1) world.boxes.expectBeep();  // the box's length is asked for
     if (refusedCall == calls)
-      world.boxes.expectMessage(lastBox, bareTitle);  // the source is closed
+      world.boxes.expectMessage(lastBox, listingTitle);  // the source is closed
     EXPECT_THROW(run(world, refusedCall), RunTimeError) << refusedCall;
     EXPECT_EQ(world.files.bytes("KARVENIS.RND"), columns139(3000));
   }
@@ -238,7 +238,7 @@ TEST(ListPrinter, RandomColumns) {
 TEST(ListPrinter, ARangeOfCombinations) {
   ListingWorld world;
   world.files.folder["KARVENIS.LST"] = columns139(12);
-  world.boxes.expectBeep().expectQuestion(printQuestionC, true, bareTitle);
+  world.boxes.expectBeep().expectQuestion(printQuestionC, true, listingTitle);
   EXPECT_EQ(world.listRange(Output::printer, 9, 10), RangeRefusal::none);
   EXPECT_EQ(world.printed().at(5), "line SAYISAL LOTO Kombinasyon Listesi [ 21.11.2026 ] ");
   EXPECT_EQ(world.printed().at(8), "line Kolon 09 - 03, 11, 17, 25, 38, 45  [139]");
@@ -262,7 +262,7 @@ TEST(ListPrinter, AnyOtherFaultIsToldAsThePrintersToo) {
   ListingWorld world;
   world.files.folder["KARVENIS.LST"] = columnBytes({{0, column(32767, 1, 0, 0, 0, 0)}});
   world.boxes.expectBeep()
-      .expectQuestion(printQuestionC, true, bareTitle)
+      .expectQuestion(printQuestionC, true, listingTitle)
       .expectBeep()
       .expectMessage("Printer hazır değil !", errorTitle, Icon::none);
   world.listRange(Output::printer, 1, 1);
@@ -304,7 +304,7 @@ TEST(ListRandomColumns, ACountBeyond16BitsIsAFault) {
 
 TEST(ListCombinations, NoStopsBeforeTheRangeIsLookedAt) {
   ListingWorld world;
-  world.boxes.expectBeep().expectQuestion(textQuestionC, false, bareTitle);
+  world.boxes.expectBeep().expectQuestion(textQuestionC, false, listingTitle);
   EXPECT_EQ(world.listRange(Output::text, -5, -9), RangeRefusal::none);
 }
 
@@ -312,9 +312,9 @@ TEST(ListCombinations, ACountBeyond16BitsIsNone) {
   ListingWorld world;
   world.files.folder["KARVENIS.LST"] = columns139(40000);
   world.boxes.expectBeep()
-      .expectQuestion(textQuestionC, true, bareTitle)
+      .expectQuestion(textQuestionC, true, listingTitle)
       .expectBeep()
-      .expectMessage(told(30 + 49 + 2 + 2 * 45 + 2 + 21), bareTitle);
+      .expectMessage(told(30 + 49 + 2 + 2 * 45 + 2 + 21), listingTitle);
   world.listRange(Output::text, 39999, 40000);
 }
 
@@ -335,7 +335,7 @@ TEST_P(RefusedRange, TouchesNothing) {
   }
   const Folder before = world.files.folder;
   world.boxes.expectBeep()
-      .expectQuestion(textQuestionC, true, bareTitle)
+      .expectQuestion(textQuestionC, true, listingTitle)
       .expectWarning(GetParam().refused == RangeRefusal::first ? "Başlangıç numarası GEÇERSİZ !"
                                                                : "Bitiş Numarası GEÇERSİZ !",
                      errorTitle);
