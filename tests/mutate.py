@@ -139,8 +139,9 @@ def build(everything):
         if done.returncode == 0:
             return everything
         refused = {(str(pathlib.Path(file).relative_to(TREE)), int(line))
-                   for file, line in re.findall(rf"^({TREE}/src/.*?):(\d+):\d+: error", done.stdout,
-                                                re.M)}
+                   for file, line in re.findall(
+                       rf"^({TREE}/src/.*?):(\d+):\d+:\s+(?:error|required from here)", done.stdout,
+                       re.M)}
         constants = set(re.findall(r"‘[^’]*?(\w+)’", done.stdout))
         kept = [mutant for mutant in everything
                 if (mutant.file, mutant.line) not in refused and mutant.constant not in constants
