@@ -130,7 +130,7 @@ class Finder:
         function = above[-2]
         if (function.kind in FUNCTIONS and function.result_type.kind != TypeKind.VOID
                 and node == list(above[-1].get_children())[-1]):
-            return  # without its end the function would return nothing
+            return  # the function would end without a result, which is undefined
         if is_expression or is_void_return or node.kind in STATEMENTS:
             begin, end = self._span(node)
             self._add(node, above, "dropped", (begin, end, "if (!mutants::on(#)) ", ""))

@@ -45,10 +45,10 @@ MOST_DESKTOP = 3  # desktop tests that are asked about one change, the quickest 
 
 
 def configure():
-    """A copy of the house, ready to be built; only files that differ are written anew."""
-    told = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=ROOT, text=True,
+    """Copies the project, ready to be built; writes only files that differ."""
+    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=ROOT, text=True,
                           capture_output=True, check=True).stdout
-    names = {name for name in told.splitlines() if (ROOT / name).is_file()}
+    names = {name for name in listed.splitlines() if (ROOT / name).is_file()}
     for name in names:
         if not is_changed(name) or not (TREE / name).exists():
             write(TREE / name, (ROOT / name).read_bytes())
@@ -290,6 +290,8 @@ def main():
     with stage("find"):
         configure()
         everything = found()
+    for name in sorted(excused() - {mutant.name for mutant in everything}):
+        print(f"excused, but no longer there: {name}", flush=True)
     with stage("build"):
         everything = build(everything)
     with stage("learn"):

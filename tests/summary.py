@@ -10,6 +10,8 @@ import sys
 
 # The lines in which a test program, a test script and the fuzzers' inputs say how many tests ran.
 COUNTS = re.compile(r"^(?:\[={10}\] (\d+) tests? from .* ran|Ran (\d+) tests? in )", re.M)
+# The line in which a test program says how many of these it skipped.
+SKIPPED = re.compile(r"^\[  SKIPPED \] (\d+) tests?, listed", re.M)
 
 
 def sections(log):
@@ -43,13 +45,14 @@ def main():
         else:
             print(line, end="", flush=True)
     log = pathlib.Path(sys.argv[1], "Testing/Temporary/LastTest.log").read_text(errors="replace")
-    tests = processes = 0
+    tests = processes = skipped = 0
     for name, output, passed in sections(log):
         processes += 1
         tests += sum(int(a or b) for a, b in COUNTS.findall(output)) or 1
+        skipped += sum(map(int, SKIPPED.findall(output)))
         if not passed:
             print(f"===== {name} failed =====\n{without_passed(output)}\n")
-    print(f"{tests} single tests ran in {processes} processes.\n")
+    print(f"{tests - skipped} single tests ran in {processes} processes; {skipped} were skipped.\n")
     print("".join(summary), end="")
 
 

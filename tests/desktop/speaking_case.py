@@ -76,15 +76,15 @@ class SpeakingCase(DesktopCase):
     def listen_to_all(self, *patterns):
         """`listen`, where no line may be missing."""
         def matching():
-            rest, found = enumerate(self._coming()), None
-            for pattern in patterns:
-                matches = ((place, line is not Voice.CUT and re.fullmatch(pattern, line))
-                           for place, line in rest)
-                place, found = next((match for match in matches if match[1]), (0, None))
-                if not found:
-                    return None
-            self._heard += place + 1
-            return found
+            awaited = list(patterns)
+            for place, line in enumerate(self._coming(), 1):
+                found = line is not Voice.CUT and re.fullmatch(awaited[0], line)
+                if found and len(awaited) == 1:
+                    self._heard += place
+                    return found
+                if found:
+                    del awaited[0]
+            return None
         try:
             return self.program.until(matching, f"«{' … '.join(patterns)}» to be spoken")
         except TooLate as late:

@@ -120,7 +120,8 @@ class ByEar(SpeakingCase):
     def load_both(self):
         self.step("Both come back from the file")
         for key, told in (("F6", f"Torbada {len(BALLS)} top"), ("F8", f"Banko: {BANKO}")):
-            self.do(key, r".*KARVENIS\.DAT dosyasından yüklemek istiyormusunuz ?\?", "Evet düğme")
+            self.do(key, r".*KARVENIS\.DAT dosyasından yüklemek istiyormusunuz ?\?")
+            self.listen("Evet düğme")
             self.do("Return", MAIN, f"bildirim {told}")
 
     def draw_and_keep(self):
@@ -184,7 +185,8 @@ class ByEar(SpeakingCase):
         self.step("Six columns more are generated")
         self.do("F11", "6/49 Rastgele Kolon Üreteci", "Kolon Sayısı: metin", "32764 seçilmiş")
         self.write_in("6")
-        self.do("F1", r"6 kolon 'KARVENIS\.LST' dosyasına eklendi", "Tamam düğme")
+        self.do("F1", r"6 kolon 'KARVENIS\.LST' dosyasına eklendi")
+        self.listen("Tamam düğme")
         self.do("Return", MAIN)
         self.assertTrue(self.program.has_file("KARVENIS.LST", 9 * 16))
 
@@ -198,7 +200,8 @@ class ByEar(SpeakingCase):
                 "örnek: 5,12,30")
         self.write_in(str(unwanted))
         self.do("Return", f"'{unwanted}' numaralı topun yer aldığı kolonları silmek "
-                          r"istiyormusunuz\?", "Evet düğme")
+                          r"istiyormusunuz\?")
+        self.listen("Evet düğme")
         self.do("Return", LIST, ROW)
         self.assertEqual(self.listed(), [balls for balls in heard if unwanted not in balls])
 

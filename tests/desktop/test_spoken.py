@@ -21,7 +21,7 @@ class Spoken(SpeakingCase):
         """What is said of three full stops at the end."""
         return "" if self.screen.is_newer else 3 * " nokta"
 
-    def question(self, key, text, title="KARVENIS 2005 Randomizer", answered=()):
+    def question(self, key, text, title="KARVENIS 2005 Randomizer", *, answered):
         """A question that a key brings is read; Enter says yes, which is followed by `answered`."""
         self.press(key, f"uyarı {title}", text, "Evet düğme")
         self.press("Return", *answered)

@@ -10,6 +10,8 @@ namespace karvenis {
 /// The balls of the bag or of the bankos, in their order.
 using Set = std::vector<std::int16_t>;
 
+inline const Set bagOfFour = {7, 12, 30, 44};
+
 inline void setBag(SharedState& state, const Set& balls) {
   state.Bag.clear();
   for (const std::int16_t ball : balls) state.Bag.add(ball);

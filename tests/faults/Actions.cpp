@@ -231,7 +231,7 @@ bool isCreated(const Folder& old, const Folder& now, const std::string& name) {
   return find(old, name) == nullptr && made != nullptr && made->empty();
 }
 
-bool same(const Folder& a, const Folder& b, const std::string& name) {
+bool holdsSame(const Folder& a, const Folder& b, const std::string& name) {
   const Bytes* left = find(a, name);
   const Bytes* right = find(b, name);
   return left == nullptr || right == nullptr ? left == right : isSame(*left, *right);
@@ -258,9 +258,9 @@ bool begins(const Bytes& whole, const Bytes& part) {
   return part.size() <= whole.size() && std::equal(part.begin(), part.end(), whole.begin());
 }
 
-bool isSame(const Folder& a, const Folder& b) {
+bool isSameFolder(const Folder& a, const Folder& b) {
   return std::ranges::equal(a, b, [](const auto& left, const auto& right) {
-    return left.first == right.first && karvenis::isSame(left.second, right.second);
+    return left.first == right.first && isSame(left.second, right.second);
   });
 }
 
@@ -320,22 +320,25 @@ std::string damage(const Action& action, const Folder& now, bool died) {
   for (const char* name : lists) {
     const bool allowed =
         (marked && std::string(name) == combinationList) || isCreated(old, now, name);
-    if (!same(now, old, name) && !same(now, fresh, name) && !allowed) {
+    if (!holdsSame(now, old, name) && !holdsSame(now, fresh, name) && !allowed) {
       return std::string(name) + " holds neither its old nor its new bytes";
     }
   }
-  if (!same(now, old, listBackup) && !same(now, fresh, listBackup)) return "the backup is broken";
+  if (!holdsSame(now, old, listBackup) && !holdsSame(now, fresh, listBackup))
+    return "the backup is broken";
   const bool mayGoOn = !died && action.onFault == Action::OnFault::mayGoOn;
-  if (!mayGoOn && !same(now, old, combinationList) && !same(now, fresh, listBackup)) {
+  if (!mayGoOn && !holdsSame(now, old, combinationList) && !holdsSame(now, fresh, listBackup)) {
     return "the list has changed before its backup was there";
   }
-  const bool moves = !same(old, fresh, randomColumns) && !same(old, fresh, combinationList);
-  if (died && moves && !same(now, old, randomColumns) && !same(now, fresh, combinationList)) {
+  const bool moves =
+      !holdsSame(old, fresh, randomColumns) && !holdsSame(old, fresh, combinationList);
+  if (died && moves && !holdsSame(now, old, randomColumns) &&
+      !holdsSame(now, fresh, combinationList)) {
     return "the columns are in neither list";
   }
   const Bytes* text = find(now, textFile);
   const Bytes* newText = find(fresh, textFile);
-  if (text != nullptr && !same(now, old, textFile) && !(newText && begins(*newText, *text))) {
+  if (text != nullptr && !holdsSame(now, old, textFile) && !(newText && begins(*newText, *text))) {
     return "the text is neither old nor new nor a beginning of it";
   }
   return {};
@@ -343,9 +346,9 @@ std::string damage(const Action& action, const Folder& now, bool died) {
 
 std::string stumbles(const Action& action, const Folder& now) {
   const Folder cleared = withoutLeftOvers(now);
-  if (isSame(cleared, now)) return {};
+  if (isSameFolder(cleared, now)) return {};
   const Folder result = resultOf(action, now);
-  if (isSame(result, resultOf(action, cleared))) return {};
+  if (isSameFolder(result, resultOf(action, cleared))) return {};
   for (const auto& [name, bytes] : result) {
     if (!isLasting(name)) return name + " stays behind";
   }

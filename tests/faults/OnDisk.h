@@ -21,7 +21,7 @@ class Hooked {
   Hooked& operator=(const Hooked&) = delete;
 };
 
-/// The file that is open as `file`.
+/// The name, without its folder, of the file that is open as descriptor `file`.
 inline std::string nameOfOpen(int file) {
   return std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file)).filename().string();
 }

@@ -11,7 +11,7 @@ namespace {
 
 bool isBag(const SharedState& state) { return std::ranges::all_of(state.Bag.balls(), isBall); }
 
-const bool bagFile = addTarget("bag_file", [](const std::uint8_t* data, std::size_t size) {
+const Target bagFile("bag_file", [](const std::uint8_t* data, std::size_t size) {
   QuietWorld world;
   world.files.folder[bagFileName] = bytesOf(data, size);
   world.state.Banko.add(7);

@@ -32,7 +32,7 @@ void look(QuietWorld& world) {
   allowingFaults([&] { listRandomColumns(world.around, world.title, Output::text); });
 }
 
-const bool columnFile = addTarget("column_file", [](const std::uint8_t* data, std::size_t size) {
+const Target columnFile("column_file", [](const std::uint8_t* data, std::size_t size) {
   const Bytes bytes = bytesOf(data, size);
   QuietWorld world;
   world.files.folder = {{randomColumns, bytes}, {combinationList, bytes}};

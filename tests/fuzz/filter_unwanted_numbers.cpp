@@ -4,10 +4,10 @@
 namespace karvenis {
 namespace {
 
-const bool filterUnwantedNumbers =
-    addTarget("filter_unwanted_numbers", [](const std::uint8_t* data, std::size_t size) {
-      filterWith(Filter::FilterUnwantedNumbers, textOf(data, size));
-    });
+const Target filterUnwantedNumbers("filter_unwanted_numbers",
+                                   [](const std::uint8_t* data, std::size_t size) {
+                                     filterWith(Filter::FilterUnwantedNumbers, textOf(data, size));
+                                   });
 
 }  // namespace
 }  // namespace karvenis

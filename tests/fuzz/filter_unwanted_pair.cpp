@@ -4,10 +4,10 @@
 namespace karvenis {
 namespace {
 
-const bool filterUnwantedPair =
-    addTarget("filter_unwanted_pair", [](const std::uint8_t* data, std::size_t size) {
-      filterWith(Filter::FilterUnwantedPair, textOf(data, size));
-    });
+const Target filterUnwantedPair("filter_unwanted_pair",
+                                [](const std::uint8_t* data, std::size_t size) {
+                                  filterWith(Filter::FilterUnwantedPair, textOf(data, size));
+                                });
 
 }  // namespace
 }  // namespace karvenis

@@ -4,10 +4,10 @@
 namespace karvenis {
 namespace {
 
-const bool filterWantedNumbers =
-    addTarget("filter_wanted_numbers", [](const std::uint8_t* data, std::size_t size) {
-      filterWith(Filter::FilterWantedNumbers, textOf(data, size));
-    });
+const Target filterWantedNumbers("filter_wanted_numbers",
+                                 [](const std::uint8_t* data, std::size_t size) {
+                                   filterWith(Filter::FilterWantedNumbers, textOf(data, size));
+                                 });
 
 }  // namespace
 }  // namespace karvenis

@@ -4,10 +4,10 @@
 namespace karvenis {
 namespace {
 
-const bool filterWantedPairs =
-    addTarget("filter_wanted_pairs", [](const std::uint8_t* data, std::size_t size) {
-      filterWith(Filter::FilterWantedPairs, textOf(data, size));
-    });
+const Target filterWantedPairs("filter_wanted_pairs",
+                               [](const std::uint8_t* data, std::size_t size) {
+                                 filterWith(Filter::FilterWantedPairs, textOf(data, size));
+                               });
 
 }  // namespace
 }  // namespace karvenis

@@ -9,7 +9,7 @@
 namespace karvenis {
 namespace {
 
-const bool numbers = addTarget("numbers", [](const std::uint8_t* data, std::size_t size) {
+const Target numbers("numbers", [](const std::uint8_t* data, std::size_t size) {
   const std::string text = textOf(data, size);
   const double number = leadingNumber(text);
   require(!std::isnan(number));

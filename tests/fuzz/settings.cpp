@@ -8,7 +8,7 @@
 namespace karvenis {
 namespace {
 
-const bool settings = addTarget("settings", [](const std::uint8_t* data, std::size_t size) {
+const Target settings("settings", [](const std::uint8_t* data, std::size_t size) {
   QuietWorld world;
   world.files.folder[settingsFile] = bytesOf(data, size);
   const auto place = readPlace(world.files);

@@ -82,8 +82,6 @@ TEST_P(ApplyBanko, TakesTheDistinctNumbersInTheirOrder) {
   EXPECT_EQ(world.windows.announced, Words{spokenBanko(world.state)});
 }
 
-const Set wholeBag = {7, 12, 30, 44};
-
 INSTANTIATE_TEST_SUITE_P(
     Fields, ApplyBanko,
     testing::Values(
@@ -93,14 +91,15 @@ INSTANTIATE_TEST_SUITE_P(
               {"5", "4", "3", "2", "1"},
               {5, 4, 3, 2, 1},
               {"5", "4", "3", "2", "1"},
-              wholeBag},
+              bagOfFour},
         Apply{"ABlankAndARepeat", 3, {"12", "", "12"}, {12}, {"12"}, {7, 30, 44}},
-        Apply{"FieldsBeyondTheCountAreCleared", 1, {"1", "2", "3", "4", "5"}, {1}, {"1"}, wholeBag},
-        Apply{"NoCount", 0, {"12", "7"}, {}, {}, wholeBag},
-        Apply{"AllBlank", 4, {}, {}, {}, wholeBag},
-        Apply{"ABlankFirst", 3, {"", "9", "8"}, {9, 8}, {"9", "8"}, wholeBag},
-        Apply{"AllTheSame", 5, {"9", "9", "9", "9", "9"}, {9}, {"9"}, wholeBag},
-        Apply{"NotInTheBag", 1, {"1"}, {1}, {"1"}, wholeBag},
+        Apply{
+            "FieldsBeyondTheCountAreCleared", 1, {"1", "2", "3", "4", "5"}, {1}, {"1"}, bagOfFour},
+        Apply{"NoCount", 0, {"12", "7"}, {}, {}, bagOfFour},
+        Apply{"AllBlank", 4, {}, {}, {}, bagOfFour},
+        Apply{"ABlankFirst", 3, {"", "9", "8"}, {9, 8}, {"9", "8"}, bagOfFour},
+        Apply{"AllTheSame", 5, {"9", "9", "9", "9", "9"}, {9}, {"9"}, bagOfFour},
+        Apply{"NotInTheBag", 1, {"1"}, {1}, {"1"}, bagOfFour},
         Apply{"TheWholeBag",
               4,
               {"7", "12", "30", "44"},

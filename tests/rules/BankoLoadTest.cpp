@@ -18,8 +18,6 @@ constexpr char broken[] = "'KARVENIS.DAT' dosyası bozuk !";
 using Words = std::vector<std::string>;
 using Texts = PlainFields::Texts;
 
-const Set fullBag = {7, 12, 30, 44};
-
 struct Load {
   const char* name;
   std::vector<int> bankoPart;
@@ -33,7 +31,7 @@ class LoadBankoInWindow : public testing::TestWithParam<Load> {};
 TEST_P(LoadBankoInWindow, TakesAndShowsTheFile) {
   World world;
   PlainFields fields;
-  setBag(world.state, fullBag);
+  setBag(world.state, bagOfFour);
   setBanko(world.state, {48, 49});
   fields.chosen = 5;
   fields.texts = {"1", "2", "3", "4", "5"};
@@ -53,13 +51,13 @@ INSTANTIATE_TEST_SUITE_P(
     Files, LoadBankoInWindow,
     testing::Values(
         Load{"Two", {2, 30, 7}, {30, 7}, {"30", "7"}, {12, 44}},
-        Load{"Five", {5, 1, 2, 3, 4, 5}, {1, 2, 3, 4, 5}, {"1", "2", "3", "4", "5"}, fullBag},
+        Load{"Five", {5, 1, 2, 3, 4, 5}, {1, 2, 3, 4, 5}, {"1", "2", "3", "4", "5"}, bagOfFour},
         Load{"StaleOnesBehind", {1, 7, 12}, {7}, {"7"}, {12, 30, 44}},
         Load{"NotRangeChecked", {2, 77, 7}, {77, 7}, {"", "7"}, {12, 30, 44}},
-        Load{"None", {0}, {}, {}, fullBag}, Load{"Negative", {-1}, {}, {}, fullBag},
-        Load{"MostNegative", {-32768}, {}, {}, fullBag},
-        Load{"Six", {6, 1, 2, 3, 4, 5, 6}, {}, {}, fullBag},
-        Load{"SevenIn118Bytes", {7, 1, 2, 3, 4, 5, 6, 7, 8}, {}, {}, fullBag}),
+        Load{"None", {0}, {}, {}, bagOfFour}, Load{"Negative", {-1}, {}, {}, bagOfFour},
+        Load{"MostNegative", {-32768}, {}, {}, bagOfFour},
+        Load{"Six", {6, 1, 2, 3, 4, 5, 6}, {}, {}, bagOfFour},
+        Load{"SevenIn118Bytes", {7, 1, 2, 3, 4, 5, 6, 7, 8}, {}, {}, bagOfFour}),
     [](const auto& row) { return row.param.name; });
 
 struct Broken {

@@ -87,19 +87,16 @@ TEST(Order, OfShowingTheListPutsTheTitleBackBehindTheWindow) {
   EXPECT_EQ(world.journal.lines, (Lines{"show frmRndLst", "title  KARVENIS 2005 Randomizer"}));
 }
 
-constexpr char makeListQuestion[] =
-    "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?";
-
 TEST(Order, OfMakingTheFileTheList) {
   World world;
   world.files.folder = {{"KARVENIS.RND", countedColumns(3)}, {"KARVENIS.LST", countedColumns(5)}};
   world.boxes.expectBeep()
-      .expectQuestion(makeListQuestion, true)
+      .expectQuestion(changeQuestion, true)
       .expectBeep()
       .expectMessage(" 3 kolon 'KARVENIS.LST' dosyasına kayıtlandı.");
   changeRndFile(world.around, world.title);
   EXPECT_EQ(world.journal.lines,
-            (Lines{"beep", "question " + std::string(makeListQuestion) + " Yes",
+            (Lines{"beep", "question " + std::string(changeQuestion) + " Yes",
                    "copy KARVENIS.LST KARVENIS.OLD", "copy KARVENIS.RND KARVENIS.LST",
                    "remove KARVENIS.RND", "title  KARVENIS 2005 Randomizer", "beep",
                    "message  3 kolon 'KARVENIS.LST' dosyasına kayıtlandı."}));

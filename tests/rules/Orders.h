@@ -10,6 +10,9 @@ namespace karvenis {
 
 using Lines = std::vector<std::string>;
 
+inline constexpr char changeQuestion[] =
+    "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?";
+
 /// The lines of `parts`, one behind the other.
 inline Lines joined(std::initializer_list<Lines> parts) {
   Lines all;

@@ -5,12 +5,11 @@
 #include "core/IgnoringFaults.h"
 #include "doubles/Doubles.h"
 #include "doubles/RefusingFiles.h"
+#include "rules/Orders.h"
 
 namespace karvenis {
 namespace {
 
-constexpr char changeQuestion[] =
-    "KARVENIS.RND dosyasının adını KARVENIS.LST olarak değiştirmek istiyormusunuz?";
 constexpr char deleteQuestion[] = "'KARVENIS.RND' dosyasını silmek istiyormusunuz ?";
 constexpr char emptyWarning[] = "Listelenecek (kayıtlı) Rastgele Kolon yok !";
 

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QCheckBox>
 
 #include "windows/NotingTest.h"
 
@@ -100,6 +101,18 @@ TEST_F(FormKeysTest, FunctionKeysAndEscAreTheWindowsAlone) {
   press(a, Qt::Key_F10, Qt::ShiftModifier);
   press(a, Qt::Key_Escape);
   EXPECT_EQ(seen.all, (std::vector<int>{Qt::Key_7, Qt::Key_Shift}));
+}
+
+TEST_F(FormKeysTest, EnterReachesATextFieldAlone) {
+  Noting* a = show("frmA");
+  QCheckBox mark(a);
+  mark.show();
+  for (QWidget* control : {static_cast<QWidget*>(&mark), static_cast<QWidget*>(a->Text1)}) {
+    control->setFocus();
+    const SeenKeys seen(control);
+    press(a, Qt::Key_Return);
+    EXPECT_EQ(seen.all.size(), control == a->Text1 ? 1U : 0U);
+  }
 }
 
 TEST_F(FormKeysTest, DigitsAndLettersHaveCodesOfTheirOwn) {

@@ -274,6 +274,17 @@ TEST_F(FormsTest, AFaultGivesOneClosingBoxAndEnds) {
   press(a, Qt::Key_F1);  // a second fault says no more
 }
 
+TEST_F(FormsTest, AFaultBehindAFaultSaysNoMore) {
+  Noting* a = show("frmA");
+  const auto fail = [] { throw RunTimeError(Fault::overflow, "X", "y"); };
+  world.boxes.expectMessage("'X' sayısı taştı.\rNeden: y\r\rProgram kapanacak.", "! HATA !",
+                            Icon::critical);
+  a->run([&] {
+    a->run(fail);
+    fail();
+  });
+}
+
 TEST_F(FormsTest, AnyExceptionIsAFault) {
   Noting* a = show("frmA");
   a->onKey = [] { throw std::bad_alloc(); };

@@ -59,7 +59,8 @@ TEST_F(NumberFields, AreNotSelectedWhenTheDesktopShowsTheirWindowAgain) {
   type(form, "5");
   QShowEvent shown;
   QSpontaneKeyEvent::setSpontaneous(&shown);
-  qApp->notify(field("Text1"), &shown);  // sendEvent() would take it for one of the program
+  qApp->notify(field("Text1"),
+               &shown);  // not sendEvent(), which marks each event as the program's own
   type(form, "6");
   EXPECT_EQ(text("Text1"), "56");
 }

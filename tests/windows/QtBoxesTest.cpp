@@ -284,7 +284,8 @@ TEST(QtBoxes, AnInputShowsItsPromptInLinesAndItsPresetSelected) {
 
 TEST(QtBoxes, CanBeClosedAndMovedAndNothingElse) {
   const auto look = [](const QDialog& box) {
-    EXPECT_TRUE(box.windowFlags().testFlag(Qt::CustomizeWindowHint)) << "nothing is added to these";
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::CustomizeWindowHint))
+        << "else the desktop adds its own";
     EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowTitleHint));
     EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowCloseButtonHint));
     EXPECT_FALSE(box.windowFlags() & Qt::WindowMinMaxButtonsHint);
@@ -355,7 +356,7 @@ TEST(QtBoxes, ABoxIsReadEvenIfTheReaderIsStillBusyWithTheOneBeforeIt) {
   EXPECT_TRUE(first->isHidden());
   EXPECT_EQ(first->windowHandle()->type(), Qt::Popup) << "which is in no list of windows";
   first->windowHandle()->destroy();
-  first->windowHandle()->create();  // as a desktop that tells late that it has shown the box
+  first->windowHandle()->create();  // made once more, with the flags of the widget
   EXPECT_EQ(first->windowHandle()->type(), Qt::Popup);
   open();
   EXPECT_FALSE(first) << "it stays for ever";

@@ -135,6 +135,7 @@ TEST_F(FrmLoto, ANumberTellsItselfUnderThePointer) {
   click(control(loto, "Check1"));
   uncover();
   for (int index = 0; index < 12; ++index) {
+    EXPECT_EQ(number(index)->toolTip(), QString()) << "not before";
     QTest::mouseMove(loto->windowHandle(), number(index)->mapTo(loto, QPoint(20, 18)));
     EXPECT_TRUE(waitFor([&] { return number(index)->toolTip() == number(index)->text(); }));
   }

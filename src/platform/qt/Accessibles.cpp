@@ -35,17 +35,10 @@ QAccessibleInterface* make(const QString& className, QObject* object) {
 
 const QObject* reportedFocus = nullptr;  // only compared, since it may be gone
 
-/// The toolkit calls this handler instead of reporting the event, so it is taken out while the
-/// event goes the toolkit's usual way.
-void report(QAccessibleEvent* event) {
-  if (!isToBeReported(*event)) return;
-  QAccessible::installUpdateHandler(nullptr);
-  QAccessible::updateAccessibility(event);
-  QAccessible::installUpdateHandler(report);
-}
-
-}  // namespace
-
+/// Whether assistive technology hears of `event`. It hears of the caret and the selection in a
+/// field only while the field has the focus and that has been reported: a screen reader that hears
+/// of them earlier does not name the field, and a selection that ends when the focus leaves is no
+/// news. A number that the program writes is announced by the program itself.
 bool isToBeReported(const QAccessibleEvent& event) {
   switch (event.type()) {
     case QAccessible::Focus:
@@ -62,6 +55,17 @@ bool isToBeReported(const QAccessibleEvent& event) {
       return true;
   }
 }
+
+/// The toolkit calls this handler instead of reporting the event, so it is taken out while the
+/// event goes the toolkit's usual way.
+void report(QAccessibleEvent* event) {
+  if (!isToBeReported(*event)) return;
+  QAccessible::installUpdateHandler(nullptr);
+  QAccessible::updateAccessibility(event);
+  QAccessible::installUpdateHandler(report);
+}
+
+}  // namespace
 
 void installAccessibles() {
   static std::once_flag done;

@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QResource>
 #include <QSvgRenderer>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -43,7 +42,6 @@ QPixmap Artwork::render(const QString& file, const QString& element, const QSize
   QPixmap drawing(pixels);
   drawing.fill(Qt::transparent);
   QPainter painter(&drawing);
-  painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all(QPointF(0, 0), QSizeF(pixels));
   if (element.isEmpty()) {
     renderer(file).render(&painter, all);
@@ -54,8 +52,9 @@ QPixmap Artwork::render(const QString& file, const QString& element, const QSize
 }
 
 QSvgRenderer& Artwork::renderer(const QString& file) {
-  if (std::exchange(loaded_, file) != file) {
+  if (loaded_ != file) {
     renderer_ = std::make_unique<QSvgRenderer>(u":/assets/"_s + file);
+    loaded_ = file;
   }
   return *renderer_;
 }

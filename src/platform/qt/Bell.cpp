@@ -36,7 +36,7 @@ pid_t spawn(const QString& program, int input) {
 
 Bell::Bell(QString player, std::function<void()> fallback)
     : player_(std::move(player)), fallback_(std::move(fallback)) {
-  QObject::connect(&ended_, &QSocketNotifier::activated, [this] { giveUp(); });
+  QObject::connect(&playerEnd_, &QSocketNotifier::activated, [this] { giveUp(); });
 }
 
 Bell::~Bell() {
@@ -52,8 +52,10 @@ QString Bell::installedPlayer() {
 
 void Bell::ring() {
   if (!started_) start();
-  if (passOn()) return;
-  giveUp();
+  if (socket_ >= 0) {
+    if (passOn()) return;
+    giveUp();
+  }
   fallback_();
 }
 
@@ -64,8 +66,8 @@ void Bell::start() {
   process_ = spawn(player_, ends[1]);
   ::close(ends[1]);
   socket_ = ends[0];
-  ended_.setSocket(socket_);
-  ended_.setEnabled(true);
+  playerEnd_.setSocket(socket_);
+  playerEnd_.setEnabled(true);
 }
 
 /// Sends the ring. Returns false if the player has ended; a ring that it is too busy for counts as
@@ -76,12 +78,11 @@ bool Bell::passOn() const {
 
 /// Closes the socket and ends the player; from then on the fallback rings.
 void Bell::giveUp() {
-  ended_.setEnabled(false);
+  playerEnd_.setEnabled(false);
   ::close(std::exchange(socket_, -1));
-  const pid_t player = std::exchange(process_, 0);
-  if (player == 0) return;
-  ::kill(player, SIGKILL);  // so that the next line never waits
-  ::waitpid(player, nullptr, 0);
+  if (process_ == 0) return;
+  ::kill(process_, SIGKILL);  // so that the next line never waits
+  ::waitpid(process_, nullptr, 0);
 }
 
 }  // namespace karvenis

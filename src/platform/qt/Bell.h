@@ -35,9 +35,9 @@ class Bell {
   QString player_;
   std::function<void()> fallback_;
   bool started_ = false;
-  int socket_ = -1;    // to the player; -1 while there is none
-  pid_t process_ = 0;  // the player; 0 while there is none
-  QSocketNotifier ended_{QSocketNotifier::Read};
+  int socket_ = -1;                                   // to the player; -1 while there is none
+  pid_t process_ = 0;                                 // the player; 0 if it did not start
+  QSocketNotifier playerEnd_{QSocketNotifier::Read};  // tells that the player has ended
 };
 
 }  // namespace karvenis

@@ -83,7 +83,7 @@ QMenuBar* Form::menuBar() {
   if (menuBar_ == nullptr) {
     menuBar_ = new QMenuBar(this);
     menuBar_->setNativeMenuBar(false);
-    if (layout() != nullptr) layout()->setMenuBar(menuBar_);
+    layout()->setMenuBar(menuBar_);
   }
   return menuBar_;
 }
@@ -216,9 +216,9 @@ bool Form::handleKey(const QKeyEvent& key) {
   const int shift = shiftOf(key);
   QWidget* focused = focusWidget();
   run([&] { Form_KeyDown(code, shift); });
-  // Esc is the one character that windows take; the others are their controls'.
-  const bool character = code == keyEscape && (shift & ~shiftKey) == 0;
-  if (character && !closing_) run([&] { Form_KeyPress(code); });
+  // Esc is the only key that a window gets as a character too, not while Ctrl or Alt is held.
+  const bool isCharacter = code == keyEscape && (shift & ~shiftKey) == 0;
+  if (isCharacter && !closing_) run([&] { Form_KeyPress(code); });
   if (closing_ || ofWindow) return true;
   if (pressButton(code, focused)) return true;
   return code == keyEnter && !takesText(focused);  // Enter reaches only a text field

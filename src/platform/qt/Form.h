@@ -64,7 +64,7 @@ class Form : public QWidget, public TitleBar {
   /// F1..F12 or Esc comes once; other keys repeat. No key comes while a menu is open, and none that
   /// belongs to the desktop (Alt with F1..F12 or Esc) or to a running screen reader.
   virtual void Form_KeyDown(int KeyCode, int Shift);
-  /// The character of a key: Esc (27) only, not while Ctrl or Alt is held.
+  /// Called for Esc (27), the only key that a window gets as a character; not with Ctrl or Alt.
   virtual void Form_KeyPress(int KeyAscii);
   /// A left click on the background: on the window itself and not on a control.
   virtual void Form_Click() {}

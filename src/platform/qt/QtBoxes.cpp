@@ -58,8 +58,8 @@ int QtBoxes::serve(QDialog* box) {
   // The desktop may still be giving the keyboard to the window behind.
   QTimer::singleShot(0, box, &QWidget::activateWindow);
   const int result = box->exec();
-  // A hidden popup is in no list of windows. The widget remembers it as well: if the desktop tells
-  // only now that it has shown the box, the toolkit makes the native window anew.
+  // A hidden popup is in no list of windows. The widget keeps the flags too: if the desktop tells
+  // late that it has shown the box, the toolkit makes the native window once more, with these.
   box->overrideWindowFlags(Qt::Popup);
   box->windowHandle()->setFlags(Qt::Popup);
   delete std::exchange(last_, box);

@@ -31,7 +31,7 @@ int narrowest(const QWidget& widget, const QString& text, int width) {
 
 QSize textSize(const QWidget& widget, const QString& text, int width) {
   return widget.fontMetrics()
-      .boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), Qt::TextWordWrap | Qt::AlignLeft, text)
+      .boundingRect({{}, QSize(width, QWIDGETSIZE_MAX)}, Qt::TextWordWrap | Qt::AlignLeft, text)
       .size();
 }
 
