@@ -8,6 +8,7 @@
 #include "core/ColumnFile.h"
 #include "doubles/Columns.h"
 #include "platform/qt/Artwork.h"
+#include "windows/BigLetters.h"
 #include "windows/WindowTest.h"
 
 // What all windows look alike in, and what belongs to a drawing.
@@ -90,6 +91,13 @@ TEST_F(Look, MenusHaveTheGroundAndThePaddingOfTheHouse) {
   EXPECT_GT(menu->actionGeometry(first).left(), 3);
   EXPECT_GE(menu->actionGeometry(first).height(), menu->fontMetrics().height() + 8);
   menu->close();
+}
+
+TEST(ScrollBars, GrowWithTheLetters) {
+  const auto width = [] { return QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent); };
+  const int usual = width();
+  const BigLetters letters("DejaVu Sans", 2);
+  EXPECT_NEAR(width(), 2 * usual, 2);
 }
 
 TEST_F(Look, TheOpeningPictureHasTheCornersOfItsPanel) {

@@ -201,6 +201,14 @@ TEST_F(Pictures, OfMenus) {
   expectPicture("menu-bar", *balls);
 }
 
+TEST_F(Pictures, OfMenusWithoutRoom) {
+  QMenuBar bar;
+  for (const QString& name : {u"Dosya"_s, u"Torba"_s, u"Banko"_s}) bar.addMenu(name);
+  bar.resize(120, bar.sizeHint().height());
+  bar.show();
+  expectPicture("menus-more", bar);
+}
+
 TEST_F(Pictures, OfTheMenuOfAField) {
   QApplication::clipboard()->clear();
   auto* field = control<QLineEdit>(open("frmRnd"), "Text1");
