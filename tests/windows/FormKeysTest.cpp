@@ -173,6 +173,7 @@ TEST_F(FormKeysTest, ADoubleClickBegunElsewhereIsNone) {
   QEvent away(QEvent::WindowDeactivate);
   QCoreApplication::sendEvent(a, &away);
   taken();
+  QTest::mousePress(a->windowHandle(), Qt::LeftButton, {}, {150, 100});
   QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(150, 100), QPointF(150, 100),
                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(a, &second);
