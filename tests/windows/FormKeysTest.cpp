@@ -178,6 +178,7 @@ TEST_F(FormKeysTest, ADoubleClickBegunElsewhereIsNone) {
                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(a, &second);
   EXPECT_EQ(std::ranges::count(log, "frmA DblClick"), 0);
+  QTest::mouseRelease(a->windowHandle(), Qt::LeftButton, {}, {150, 100});
 }
 
 TEST_F(FormKeysTest, CtrlAndAltGiveNoCharacter) {
