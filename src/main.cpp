@@ -49,7 +49,6 @@ int main(int, char** argv) {
   Surroundings around{state, boxes, clock, chance, files, printer, forms};
   boxes.beforeOpening = [&forms] { return forms.boxOpens(); };
   boxes.afterClosing = [&forms] { forms.boxClosed(); };
-  chance.seedFrom(clock);
 
   addWindows(forms, around);
   return forms.run();

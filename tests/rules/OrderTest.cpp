@@ -168,6 +168,18 @@ TEST(Order, OfLoadingTheBankosClosesTheFileBeforeTheyLeaveTheBag) {
   EXPECT_EQ(bagOf(world.state), Set{5});
 }
 
+TEST(Order, OfLoadingTheBankosBeepsWithThemOutOfTheBag) {
+  World world;
+  setBag(world.state, {5, 7});
+  world.files.folder["KARVENIS.DAT"] = bagFile();
+  const AtLine gone(world, "beep", [&] { return bagOf(world.state) == Set{5}; });
+  world.boxes.expectBeep()
+      .expectQuestion("Banko seçimini KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?", true)
+      .expectBeep();
+  loadBankoInMainWindow(world.around);
+  EXPECT_TRUE(gone.holds()) << "at the last one";
+}
+
 class NoButtons final : public BallButtons {
  public:
   bool isMarked(int) const override { return false; }

@@ -120,6 +120,8 @@ TEST_F(MainWindow, LoadingTheBagOrTheBankosRedrawsNothing) {
   file.insert(file.end(), {1, 7});
   world.files.folder["KARVENIS.DAT"] = words(file);
   timer(0)->stop();
+  world.boxes.expectBeep();
+  click(control(loto, "Picture0"));  // what it covers is not painted
   Paints paints(loto);
   EXPECT_TRUE(waitFor([&] { return paints.since() == 0; }));
   world.boxes.expectBeep()

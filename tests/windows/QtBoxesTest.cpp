@@ -248,6 +248,10 @@ TEST(QtBoxes, HaveIconsOfTheirOwnThatSayWhatTheyAre) {
   }
 }
 
+TEST(QtBoxes, AQuestionHasItsIcon) {
+  question("X", [](const QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::Question); });
+}
+
 TEST(QtBoxes, HaveIconsThatGrowWithTheLetters) {
   const auto width = [](double growth) {
     const BigLetters letters("DejaVu Sans", growth);

@@ -1,9 +1,11 @@
 #include <QRadioButton>
 
+#include "doubles/Columns.h"
 #include "doubles/Doubles.h"
 #include "doubles/Sets.h"
 #include "doubles/YieldingBoxes.h"
 #include "platform/qt/QtBoxes.h"
+#include "platform/qt/Surface.h"
 #include "windows/WholeProgram.h"
 #include "windows/WindowTest.h"
 
@@ -52,6 +54,14 @@ TEST_F(Together, TheBagWindowShowsWhatF6LoadedWhenItIsComeBackTo) {
   open("frmBalls");
   EXPECT_TRUE(marked(balls, 8));
   EXPECT_FALSE(marked(balls, 9));
+}
+
+TEST_F(Together, TheListIsShownAsItIsBehindItsHelp) {
+  files.folder["KARVENIS.LST"] = countedColumns(3);
+  Form* list = open("frmComLst");
+  files.folder["KARVENIS.LST"] = countedColumns(2);
+  press(list, Qt::Key_F10);
+  EXPECT_EQ(list->findChild<Surface*>()->lines().size(), 2U);
 }
 
 TEST_F(Together, TheBankoWindowShowsWhatF8LoadedWhenItIsComeBackTo) {
