@@ -93,6 +93,16 @@ TEST_F(Look, MenusHaveTheGroundAndThePaddingOfTheHouse) {
   menu->close();
 }
 
+// What is not set comes from the desktop's own theme, black selected letters for instance.
+TEST(Colours, OfWhatIsReadAreTheHouses) {
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Base,
+        QPalette::Highlight, QPalette::HighlightedText, QPalette::PlaceholderText,
+        QPalette::ToolTipBase, QPalette::ToolTipText}) {
+    EXPECT_TRUE(QApplication::palette().isBrushSet(QPalette::Active, role)) << role;
+  }
+}
+
 TEST(ScrollBars, GrowWithTheLetters) {
   const auto width = [] { return QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent); };
   const int usual = width();

@@ -42,6 +42,7 @@ QPixmap Artwork::render(const QString& file, const QString& element, const QSize
   QPixmap drawing(pixels);
   drawing.fill(Qt::transparent);
   QPainter painter(&drawing);
+  painter.setRenderHint(QPainter::Antialiasing);
   const QRectF all(QPointF(0, 0), QSizeF(pixels));
   if (element.isEmpty()) {
     renderer(file).render(&painter, all);

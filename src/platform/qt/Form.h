@@ -115,7 +115,7 @@ class Form : public QWidget, public TitleBar {
   QMenu* addMenu(const char* menuName, const QString& text);
   QAction* addMenuEntry(QMenu* menu, const char* entryName, const QString& text,
                         std::function<void()> procedure);
-  QMenuBar* menuBar();
+  QMenuBar* menuBar();  // precondition: the form has a layout
 
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;

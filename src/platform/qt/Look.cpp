@@ -26,6 +26,7 @@ QPalette palette() {
   colours.setColor(QPalette::Base, QColor(look::paper));
   colours.setColor(QPalette::ToolTipBase, QColor(look::paper));
   colours.setColor(QPalette::Highlight, QColor(look::petrol));
+  colours.setColor(QPalette::HighlightedText, Qt::white);
   colours.setColor(QPalette::PlaceholderText, QColor(look::pale));
   colours.setColor(QPalette::Link, QColor(look::petrol));
   return colours;

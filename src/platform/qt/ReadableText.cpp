@@ -31,7 +31,8 @@ int narrowest(const QWidget& widget, const QString& text, int width) {
 
 QSize textSize(const QWidget& widget, const QString& text, int width) {
   return widget.fontMetrics()
-      .boundingRect({{}, QSize(width, QWIDGETSIZE_MAX)}, Qt::TextWordWrap | Qt::AlignLeft, text)
+      .boundingRect(QRect({}, QSize(width, QWIDGETSIZE_MAX)), Qt::TextWordWrap | Qt::AlignLeft,
+                    text)
       .size();
 }
 
