@@ -41,8 +41,7 @@ void frmListing::Form_KeyDown(int KeyCode, int) {
       return Command1_Click();
     case keyF10:
       around_.boxes.beep();
-      around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", functionKeysTitle);
-      return;
+      return around_.boxes.message("F1= Yaz/Bas\r\rESC= Kapat", functionKeysTitle);
     default:
       return;
   }

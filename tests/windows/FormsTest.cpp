@@ -1,5 +1,7 @@
 #include "platform/qt/Forms.h"
 
+#include <QElapsedTimer>
+
 #include "platform/RunTimeError.h"
 #include "windows/KeySoon.h"
 #include "windows/NotingTest.h"
@@ -180,12 +182,20 @@ TEST_F(FormsTest, AClosedBoxGivesTheKeyboardBackToTheWindowAtWork) {
 
 TEST_F(FormsTest, ADesktopThatKeepsTheKeyboardElsewhereIsBelievedInTheEnd) {
   Noting* a = show("frmA");
+  Noting* c = show("frmC");
   show("frmB");
+  letSettle();
+  c->windowHandle()->setFlag(Qt::WindowDoesNotAcceptFocus);
+  QElapsedTimer time;
+  time.start();
+  const auto complain = qInstallMessageHandler([](auto...) {});  // the toolkit tells of the refusal
   forms.show("frmC");
+  qInstallMessageHandler(complain);
   a->activateWindow();
   taken();
   EXPECT_TRUE(waitFor([&] { return forms.active() == a; }));
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
+  EXPECT_GE(time.elapsed(), 1000) << "not before the keyboard has had its time to arrive";
 }
 
 TEST_F(FormsTest, AWindowThatComesBackFromBeingMinimisedIsActivated) {

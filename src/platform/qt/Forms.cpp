@@ -202,10 +202,7 @@ Form* Forms::successorOf(const Form& form) const {
 void Forms::dropInput() { Application::instance().dropInput(); }
 void Forms::tellBusy() const { Application::instance().setBusy(running_ > 0); }
 
-void Forms::procedureBegins() {
-  ++running_;
-  tellBusy();
-}
+void Forms::procedureBegins() { ++running_; }
 
 void Forms::procedureEnds() {
   --running_;
