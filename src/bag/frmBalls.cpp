@@ -37,7 +37,6 @@ frmBalls::frmBalls(Surroundings& around) : frmSelection(around) {
     for (BallCell* cell : cmdBall) cell->grow(growth);
   });
   takeTabStop(1);
-  cmdBall[1]->setFocus();
 }
 
 void frmBalls::buildMenus() {

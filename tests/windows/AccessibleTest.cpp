@@ -9,6 +9,7 @@
 #include "core/Numbers.h"
 #include "platform/qt/Accessibles.h"
 #include "platform/qt/Announcer.h"
+#include "platform/qt/KeyCodes.h"
 #include "platform/qt/NumberField.h"
 #include "windows/WindowTest.h"
 
@@ -152,6 +153,18 @@ class Reports {
   }
   static inline QAccessible::UpdateHandler before_ = nullptr;
 };
+
+TEST(KeysOfAScreenReader, AreNotTheWindowsOwn) {
+  const auto isOfReader = [](Qt::Key key, Qt::KeyboardModifiers held = {}) {
+    return isOfScreenReader(QKeyEvent(QEvent::KeyPress, key, held));
+  };
+  const Reports listening;
+  EXPECT_TRUE(isOfReader(Qt::Key_Control, Qt::ControlModifier));
+  EXPECT_TRUE(isOfReader(Qt::Key_CapsLock));
+  EXPECT_TRUE(isOfReader(Qt::Key_Insert));
+  EXPECT_FALSE(isOfReader(Qt::Key_Insert, Qt::ShiftModifier)) << "pastes";
+  EXPECT_FALSE(isOfReader(Qt::Key_F1));
+}
 
 class ToldOfWindows : public WindowTest {
  protected:

@@ -56,7 +56,6 @@ void Form::showCaption() {
 }
 
 void Form::unload() {
-  if (closing_) return;
   closing_ = true;
   hide();
   forms_.closed(*this);
