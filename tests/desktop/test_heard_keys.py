@@ -39,7 +39,7 @@ class HeardKeys(DesktopCase):
         program.box().press("Return")
         self.assertEqual(len(program.bytes("KARVENIS.RND")), 16)
 
-    def test_enter_answers_the_question_and_the_box_behind_it(self):
+    def test_enter_answers_the_question_and_space_the_box_behind_it(self):
         program = self.start()
         self.open("F5", BAG)
         program.keys("F3")
@@ -47,7 +47,7 @@ class HeardKeys(DesktopCase):
         program.keys("Return")
         program.until(lambda: program.has_file("KARVENIS.DAT"), "the file")
         program.box()
-        program.keys("Return")
+        program.keys("space")
         program.activated(BAG)
         self.assertEqual(program.titles(), [STANDARD_TITLE, BAG])
         self.assertEqual(program.bytes("KARVENIS.DAT"), bag_file([]))
