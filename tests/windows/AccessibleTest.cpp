@@ -342,6 +342,15 @@ TEST_F(ToldOfWindows, TheMarksOfBalls) {
   const std::pair<QAccessible::Event, QString> changed(QAccessible::StateChanged, u"7"_s);
   EXPECT_TRUE(waitFor([&] { return std::ranges::count(Reports::all, changed) > 0; }));
   EXPECT_EQ(std::ranges::count(Reports::all, changed), 1);
+
+  world.files.folder["KARVENIS.DAT"] = words({2, 7, 8});
+  world.boxes.expectBeep()
+      .expectQuestion("Topları KARVENIS.DAT dosyasından yüklemek istiyormusunuz ?", true)
+      .expectBeep();
+  press(balls, Qt::Key_F2);
+  const std::pair<QAccessible::Event, QString> other(QAccessible::StateChanged, u"8"_s);
+  EXPECT_TRUE(waitFor([&] { return std::ranges::count(Reports::all, other) > 0; }));
+  EXPECT_EQ(std::ranges::count(Reports::all, changed), 1) << "unmarked and marked again at once";
   actions->doAction(QAccessibleActionInterface::setFocusAction());
   EXPECT_TRUE(seven->hasFocus());
 }
