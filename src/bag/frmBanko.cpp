@@ -61,7 +61,6 @@ QWidget* frmBanko::buildOptions() {
     row->addWidget(option);
     ++count;
   }
-  row->addStretch();
   return holder;
 }
 
