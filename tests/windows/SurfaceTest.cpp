@@ -4,6 +4,7 @@
 #include <QImage>
 
 #include "platform/qt/Accessibles.h"
+#include "platform/qt/Letters.h"
 #include "windows/WindowTest.h"
 
 namespace karvenis {
@@ -38,6 +39,18 @@ TEST(SurfaceColours, AreThoseOfThePaletteOnWhite) {
       EXPECT_EQ(seen.contains(foreign), other == colour) << static_cast<int>(other);
     }
   }
+}
+
+/// The size of the letters of a page, which has margins as high as two lines.
+int lettersOf(int lines) { return Surface(nullptr, lines).font().pixelSize(); }
+
+TEST(SurfaceLetters, AreSmallerOnAPageThatWouldBeHigherThanTheScreen) {
+  QFont designed = QWidget().font();
+  designed.setPixelSize(designedLetters);
+  const int lines = static_cast<int>(roomOnScreen().height() / QFontMetricsF(designed).height());
+  EXPECT_EQ(lettersOf(lines - 2), designedLetters);
+  EXPECT_EQ(lettersOf(lines - 1), designedLetters - 1);
+  EXPECT_EQ(lettersOf(10 * lines), 10) << "smaller ones cannot be read";
 }
 
 /// A printed line as assistive technology knows it.
