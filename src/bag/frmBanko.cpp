@@ -89,7 +89,6 @@ QWidget* frmBanko::buildField(int index) {
   QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
   kept.setRetainSizeWhenHidden(true);
   field->setSizePolicy(kept);
-  field->hide();
   on(field, &NumberField::textChanged, [this, index] { Text1_Change(index); });
   onEnter(field, [this, index] { Text1_KeyPress(index); });
   return field;

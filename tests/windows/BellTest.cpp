@@ -7,9 +7,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <cerrno>
+#include <optional>
 
 namespace karvenis {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 /// A bell whose player is a shell script, in a folder of its own.
 class BellTest : public testing::Test {
@@ -126,6 +129,75 @@ TEST_F(BellTest, NoOtherProgramInheritsThePipe) {
   const QString list = path("files");
   ASSERT_EQ(std::system(("ls -l /proc/self/fd >" + list).toLocal8Bit()), 0);
   EXPECT_FALSE(content("files").contains("socket:"));
+}
+
+/// The program's own player before a sound library that plays nothing.
+class BellPlayer : public BellTest {
+ protected:
+  BellPlayer() {
+    qputenv("LD_LIBRARY_PATH", KARVENIS_SOUND_DOUBLE);
+    qputenv("KARVENIS_HEARD", QFile::encodeName(path("heard")));
+  }
+  ~BellPlayer() override {
+    for (const char* name : {"LD_LIBRARY_PATH", "KARVENIS_HEARD", "KARVENIS_SILENT"}) {
+      qunsetenv(name);
+    }
+  }
+  BellPlayer(const BellPlayer&) = delete;
+  BellPlayer& operator=(const BellPlayer&) = delete;
+
+  /// The calls of the sound library, and the least time between two sounds in milliseconds.
+  QList<QByteArray> calls() const {
+    QList<QByteArray> names;
+    for (const QByteArray& line : content("heard").split('\n')) names += line.split(' ').first();
+    names.removeLast();
+    return names;
+  }
+  qint64 leastPause() const {
+    qint64 least = std::numeric_limits<qint64>::max();
+    std::optional<qint64> last;
+    for (const QByteArray& line : content("heard").split('\n')) {
+      if (!line.startsWith("bell ")) continue;
+      const qint64 now = line.split(' ').last().toLongLong();
+      if (last) least = std::min(least, now - *last);
+      last = now;
+    }
+    return least;
+  }
+  /// Has the player play `rings` that wait already, and end. Returns its status.
+  static int played(int rings) {
+    const QString rung = u"printf %%1s | "_s.arg(rings) + KARVENIS_BELL;
+    return WEXITSTATUS(std::system(rung.toLocal8Bit()));
+  }
+};
+
+const QList<QByteArray> ready{"create", "name", "open"};
+
+TEST_F(BellPlayer, PlaysEachRingOnce) {
+  {
+    Bell bell(QStringLiteral(KARVENIS_BELL), counted());
+    for (int ring = 0; ring < 6; ++ring) bell.ring();
+    EXPECT_TRUE(waitFor([&] { return calls().size() >= 9; }));
+  }
+  EXPECT_TRUE(waitFor([] { return ::waitpid(-1, nullptr, WNOHANG) > 0; }));
+  EXPECT_EQ(calls(), ready + QList<QByteArray>(6, "bell"));
+  EXPECT_EQ(fallbacks, 0);
+}
+
+TEST_F(BellPlayer, KeepsWaitingRingsApartAndDropsThoseThatWouldComeTooLate) {
+  EXPECT_EQ(played(20), 0);
+  EXPECT_EQ(calls(), ready + QList<QByteArray>(8, "bell"));
+  EXPECT_GE(leastPause(), 80);
+}
+
+TEST_F(BellPlayer, EndsWhereItCannotPlay) {
+  for (const QByteArray& silent : ready + QList<QByteArray>{"bell"}) {
+    QFile::remove(path("heard"));
+    qputenv("KARVENIS_SILENT", silent);
+    EXPECT_EQ(played(3), 1) << silent.constData();
+    EXPECT_EQ(calls().last(), silent);
+    EXPECT_EQ(calls().count(silent), 1);
+  }
 }
 
 }  // namespace

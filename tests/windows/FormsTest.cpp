@@ -18,6 +18,16 @@ TEST_F(FormsTest, AWindowLoadsResizesAndActivatesOnce) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Load", "frmA Resize", "frmA Form_Activate"}));
 }
 
+TEST_F(FormsTest, AWindowResizesOnlyToAnotherSize) {
+  Noting* a = show("frmA");
+  taken();
+  QResizeEvent same(a->size(), a->size());
+  QCoreApplication::sendEvent(a, &same);
+  EXPECT_EQ(taken(), Log());
+  a->resize(210, 120);
+  EXPECT_EQ(taken(), Log{"frmA Resize"});
+}
+
 TEST_F(FormsTest, AWindowThatNobodyMadeKnownIsNotShownInSilence) {
   try {
     forms.show("frmNowhere");

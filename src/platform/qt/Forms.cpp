@@ -168,7 +168,7 @@ QWidget* Forms::boxOpens() {
 }
 
 void Forms::boxClosed() {
-  if (active_ && !ending_) giveKeyboard(*active_);
+  if (active_) giveKeyboard(*active_);
 }
 
 void Forms::closed(const Form& form) {
