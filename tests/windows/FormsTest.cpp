@@ -45,6 +45,9 @@ TEST_F(FormsTest, ShowingAnOpenWindowRaisesIt) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate"}));
   show("frmB");
   EXPECT_EQ(taken(), (Log{"frmB Form_Activate"}));
+  letSettle();
+  forms.show("frmB");
+  EXPECT_TRUE(forms.isSettled()) << "it has the keyboard already";
 }
 
 TEST_F(FormsTest, AWindowOpensBelowAndRightOfItsOpenerAndOfWhatStandsThere) {
@@ -218,6 +221,17 @@ TEST_F(RefusedKeyboard, TheNextKeyIsOfTheWindowThatWasShown) {
   EXPECT_EQ(taken(), Log{"frmC KeyDown 112/0"});
 }
 
+TEST_F(RefusedKeyboard, IsNoLongerWaitedForAfterAClick) {
+  click(a->Command1);
+  Form* b = forms.find("frmB");
+  b->activateWindow();
+  EXPECT_TRUE(waitFor([b] { return b->isActiveWindow(); }));
+  taken();
+  pressSoon(b, Qt::Key_F1);
+  EXPECT_TRUE(waitFor([this] { return !log.empty(); }));
+  EXPECT_EQ(taken(), (Log{"frmB Form_Activate", "frmB KeyDown 112/0"}));
+}
+
 TEST_F(RefusedKeyboard, IsBelievedInTheEnd) {
   forms.find("frmC")->setCaption("a change of its own");
   EXPECT_TRUE(waitFor([&] { return forms.active() == a; }));
@@ -347,6 +361,16 @@ TEST_F(FormsTest, TheScreenHearsOfFewCaptionsAndOfTheLastWhenTheProcedureEnds) {
   press(a, Qt::Key_F1);
   EXPECT_EQ(fromQt(a->windowTitle()), "BYTE= 1000");
   EXPECT_LT(told, 1000);
+}
+
+TEST_F(FormsTest, ABoxOpensBeforeTheLastCaption) {
+  Noting* a = show("frmA");
+  a->onKey = [&] {
+    for (const char* caption : {"BYTE= 1", "BYTE= 2", "BYTE= 3"}) a->setCaption(caption);
+    EXPECT_EQ(forms.boxOpens(), a);
+    EXPECT_EQ(a->windowTitle(), "BYTE= 3");
+  };
+  press(a, Qt::Key_F1);
 }
 
 }  // namespace

@@ -10,7 +10,16 @@
 namespace karvenis {
 namespace {
 
-/// The colours that stand on a surface after `text` has been printed in `colour`.
+std::set<QRgb> coloursOf(const QPixmap& picture) {
+  const QImage image = picture.toImage().convertToFormat(QImage::Format_RGB32);
+  std::set<QRgb> all;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) all.insert(image.pixel(x, y));
+  }
+  return all;
+}
+
+/// The colours that stand on a surface after a text has been printed in `colour`.
 std::set<QRgb> colours(QBColor colour) {
   Surface surface(nullptr, 1);
   surface.resize(400, 60);
@@ -18,12 +27,7 @@ std::set<QRgb> colours(QBColor colour) {
   surface.currentY(200);
   surface.foreColor(colour);
   surface.print("Kolon - 1 : [ 139 ]");
-  const QImage image = surface.grab().toImage().convertToFormat(QImage::Format_RGB32);
-  std::set<QRgb> all;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) all.insert(image.pixel(x, y));
-  }
-  return all;
+  return coloursOf(surface.grab());
 }
 
 TEST(SurfaceColours, AreThoseOfThePaletteOnWhite) {
@@ -39,6 +43,18 @@ TEST(SurfaceColours, AreThoseOfThePaletteOnWhite) {
       EXPECT_EQ(seen.contains(foreign), other == colour) << static_cast<int>(other);
     }
   }
+}
+
+TEST(SurfaceColours, LeaveTheScreenWhenThePageIsCleared) {
+  Surface surface(nullptr, 1);
+  surface.print("Kolon - 1 : [ 139 ]");
+  surface.show();
+  const auto onScreen = [&] {
+    return coloursOf(surface.screen()->grabWindow(surface.winId())).size();
+  };
+  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() > 1; }));
+  surface.cls();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() == 1; }));
 }
 
 /// The size of the letters of a page, which has margins as high as two lines.

@@ -76,6 +76,7 @@ TEST_F(FrmLotoPictures, SpaceOrEnterLiftsTheOpeningPictureAndTheFocusGoesToKolon
 }
 
 TEST_F(FrmLotoPictures, TheOpeningPictureIsLiftedByItsAccessibleAction) {
+  EXPECT_EQ(control(loto, "Picture0")->cursor().shape(), Qt::PointingHandCursor);
   auto* picture = QAccessible::queryAccessibleInterface(control(loto, "Picture0"));
   EXPECT_EQ(picture->role(), QAccessible::Button);
   world.boxes.expectBeep();

@@ -72,7 +72,7 @@ void Form::run(const std::function<void()>& procedure) {
   }
   forms_.procedureEnds();
   --running_;
-  if (running_ == 0) showCaption();
+  showCaption();
 }
 
 void Form::Form_KeyDown(int, int) {}

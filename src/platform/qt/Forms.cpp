@@ -48,7 +48,6 @@ Forms::Forms(Boxes& boxes) : boxes_(boxes) {
 }
 
 Forms::~Forms() {
-  ending_ = true;
   for (const QPointer<Form>& form : windows_) delete form;
 }
 
@@ -121,9 +120,7 @@ void Forms::present(Form& form) {
 
 void Forms::giveKeyboard(Form& form) {
   form.activateWindow();
-  if (form.isActiveWindow()) return;
-  calm_.stop();
-  onItsWay_.start();
+  if (!form.isActiveWindow()) onItsWay_.start();
 }
 
 void Forms::gotKeyboard(const Form& form) {
