@@ -80,7 +80,6 @@ void frmBalls::buildCell(int index) {
   connect(cell, &BallCell::entered, this, [this, index] { takeTabStop(index); });
   guard(cell);
   on(cell, &QPushButton::clicked, [this, index] { cmdBall_Click(index); });
-  setMarked(index, false);
 }
 
 void frmBalls::Form_Activate() { showBag(around_.state, *this); }

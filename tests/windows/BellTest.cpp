@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <optional>
 
+#include "platform/qt/QtBoxes.h"
+
 namespace karvenis {
 namespace {
 
@@ -182,6 +184,15 @@ TEST_F(BellPlayer, PlaysEachRingOnce) {
   EXPECT_TRUE(waitFor([] { return ::waitpid(-1, nullptr, WNOHANG) > 0; }));
   EXPECT_EQ(calls(), ready + QList<QByteArray>(6, "bell"));
   EXPECT_EQ(fallbacks, 0);
+}
+
+TEST_F(BellPlayer, IsTheOneBesideTheProgram) {
+  const QString beside = QCoreApplication::applicationDirPath() + u"/karvenis-bell"_s;
+  ASSERT_TRUE(QFile::link(QStringLiteral(KARVENIS_BELL), beside));
+  QtBoxes boxes;
+  boxes.beep();
+  EXPECT_TRUE(QFile::remove(beside));
+  EXPECT_TRUE(waitFor([&] { return calls() == ready + QList<QByteArray>{"bell"}; }));
 }
 
 TEST_F(BellPlayer, KeepsWaitingRingsApartAndDropsThoseThatWouldComeTooLate) {

@@ -363,6 +363,12 @@ TEST_F(FormsTest, TheScreenHearsOfFewCaptionsAndOfTheLastWhenTheProcedureEnds) {
   EXPECT_LT(told, 1000);
 }
 
+TEST_F(FormsTest, ABoxBeforeTheFirstWindowBelongsToNone) {
+  EXPECT_EQ(forms.boxOpens(), nullptr);
+  forms.boxClosed();
+  EXPECT_TRUE(forms.isSettled());
+}
+
 TEST_F(FormsTest, ABoxOpensBeforeTheLastCaption) {
   Noting* a = show("frmA");
   a->onKey = [&] {

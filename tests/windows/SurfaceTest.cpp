@@ -111,5 +111,14 @@ TEST(SurfaceLines, AreOtherObjectsAfterEachRedraw) {
   EXPECT_NE(QAccessible::uniqueId(line(surface, 0)), before);
 }
 
+TEST(SurfaceLines, GoWithTheirSurface) {
+  installAccessibles();
+  auto surface = std::make_unique<Surface>(nullptr, 25);
+  printPage(*surface, 1);
+  const QAccessible::Id first = QAccessible::uniqueId(line(*surface, 0));
+  surface.reset();
+  EXPECT_EQ(QAccessible::accessibleInterface(first), nullptr);
+}
+
 }  // namespace
 }  // namespace karvenis
