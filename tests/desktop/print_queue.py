@@ -1,5 +1,6 @@
 """A print server of the tests' own, with one queue: the machine's queues are never touched."""
 
+import contextlib
 import getpass
 import grp
 import os
@@ -36,10 +37,12 @@ LogLevel info
 """
 
 # What stands for the device: it keeps each job as a file, and the job's title and options as another.
+# It takes as long as there is a file "slow".
 _DEVICE = """\
 #!/bin/sh
 [ $# -gt 0 ] || exit 0
 printf '%s\\n' "$3" "$5" >"{home}/printed/$1.words"
+while [ -e "{home}/slow" ]; do sleep 0.1; done
 cat "${{6:--}}" >"{home}/printed/$1.pdf"
 """
 
@@ -169,6 +172,17 @@ class PrintQueue:
         """From now on the user prints with this option, whatever the queue's own defaults are."""
         with open(os.path.join(self.home, "lpoptions"), "w", encoding="utf-8") as file:
             file.write(f"Default {QUEUE} {option}\n")
+
+    @contextlib.contextmanager
+    def at_work(self):
+        """Meanwhile the device works at a job of somebody else."""
+        slow = os.path.join(self.home, "slow")
+        with open(slow, "w", encoding="utf-8") as file:
+            file.write("any document")
+        self._run("lp", "-d", QUEUE, "-o", "raw", slow)
+        wait_for(lambda: self.documents() == ["1.words"], "the job to begin")
+        yield
+        os.unlink(slow)
 
     def refuse(self):
         """From now on the queue takes no job."""

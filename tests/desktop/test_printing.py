@@ -1,6 +1,7 @@
 """Printing a list: on a real queue, and where there is none, one that refuses or no server."""
 
 import html
+import os
 import re
 import resource
 import subprocess
@@ -160,13 +161,15 @@ class Printing(DesktopCase):
 
     def test_with_a_queue_that_refuses_and_takes_jobs_again(self):
         queue = self.queue()
-        queue.refuse()
-        self.open_dialog(3, queue.environment)
-        self.assert_not_ready()
-        self.assertEqual(queue.jobs(), 0)
+        with queue.at_work():
+            queue.refuse()
+            self.open_dialog(3, queue.environment)
+            self.assert_not_ready()
+        self.assertTrue(os.path.exists(queue.printed(1)), "nobody else's job is cancelled")
+        self.assertEqual(queue.jobs(), 1)
         queue.accept()
         self.press_print()
-        self.check(Paper(queue.printed()), 3)
+        self.check(Paper(queue.printed(2)), 3)
 
     def test_with_a_server_that_cannot_take_the_whole_document(self):
         queue = self.queue(largest="8k")
