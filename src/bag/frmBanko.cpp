@@ -84,7 +84,6 @@ QWidget* frmBanko::buildField(int index) {
   field->setAccessibleName(u"%1. banko top"_s.arg(index + 1));
   field->setAlignment(Qt::AlignCenter);
   field->setFixedHeight(qRound(fieldHeight * letterGrowth()));
-  field->setMinimumWidth(field->height());
   setLetters(*field, fieldLetters * letterGrowth());
   QSizePolicy kept(QSizePolicy::Ignored, QSizePolicy::Fixed);
   kept.setRetainSizeWhenHidden(true);

@@ -65,9 +65,7 @@ void frmList::Form_KeyDown(int KeyCode, int) {
 
 void frmList::Form_DblClick() { coupon_.newPage(); }
 
-void frmList::Timer1_Timer() {
-  if (!isClosing()) coupon_.tick();
-}
+void frmList::Timer1_Timer() { coupon_.tick(); }
 
 void frmList::enableTimer1(bool enabled) {
   // Restarting a running timer would put off its tick, for ever while a key is held.

@@ -328,7 +328,7 @@ bool frmLoto::eventFilter(QObject* watched, QEvent* event) {
 void frmLoto::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  if (!background_.isNull()) painter.drawPixmap(0, 0, background_);
+  painter.drawPixmap(0, 0, background_);
   painter.setPen(QColor(look::edge));
   painter.setBrush(QColor(255, 253, 247, 150));
   painter.drawRoundedRect(QRectF(stage_->geometry()).adjusted(0.5, 0.5, -0.5, -0.5),

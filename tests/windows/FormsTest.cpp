@@ -165,6 +165,16 @@ TEST_F(FormsTest, AClickActivatesItsWindowBeforeTheControlSeesIt) {
   EXPECT_EQ(taken(), (Log{"frmA Form_Activate", "frmA Command1_Click"}));
 }
 
+TEST_F(FormsTest, AClickThatComesBehindTheClosingOfItsWindowActivatesNothing) {
+  Noting* a = show("frmA");
+  Noting* b = show("frmB");
+  taken();
+  b->unload();
+  click(b->Command1);
+  EXPECT_EQ(taken(), Log{"frmA Form_Activate"});
+  EXPECT_EQ(forms.active(), a);
+}
+
 // A desktop gives the keyboard to the window that was used last before it hears of the other one.
 TEST_F(FormsTest, AWindowThatTheKeyboardPassesThroughIsNotActivated) {
   Noting* a = show("frmA");

@@ -29,17 +29,6 @@ TEST_F(FrmLotoPictures, TheBannerSwaysWithItsCompanion) {
   EXPECT_EQ(control(loto, "Picture3")->x(), control(loto, "Picture4")->x());
 }
 
-TEST_F(FrmLotoPictures, EachBallRollsDownFromTheRightToItsRest) {
-  for (int k = 1; k <= ballsInColumn; ++k) {
-    for (const char step : {'b', 'c', 'd'}) {
-      const QPoint before = image(imageIndex(k, static_cast<char>(step - 1)))->pos();
-      const QPoint here = image(imageIndex(k, step))->pos();
-      EXPECT_LT(here.x(), before.x()) << k << step;
-      EXPECT_GT(here.y(), before.y()) << k << step;
-    }
-  }
-}
-
 TEST_F(FrmLotoPictures, EveryPressOfKolonStampsTheMinuteAndTakesThePicture) {
   setBag(world.state, {5});
   world.clock.minuteOfHour = 7;

@@ -62,7 +62,7 @@ void Form::unload() {
 }
 
 void Form::run(const std::function<void()>& procedure) {
-  if (forms_.ending()) return;
+  if (closing_ || forms_.ending()) return;
   ++running_;
   forms_.procedureBegins();
   try {
@@ -205,7 +205,7 @@ bool Form::handleKey(const QKeyEvent& key) {
   const bool inMenus = QApplication::activePopupWidget() != nullptr ||
                        qobject_cast<QMenuBar*>(focusWidget()) != nullptr;
   if (inMenus) return false;
-  if (closing_ || isOfScreenReader(key) || isOfDesktop(key)) return true;
+  if (isOfScreenReader(key) || isOfDesktop(key)) return true;
   const int code = keyCodeOf(key);
   // Function keys and Esc belong to the window alone, and come once however long they are held.
   const bool ofWindow = isFunctionKey(code) || code == keyEscape;
@@ -217,8 +217,8 @@ bool Form::handleKey(const QKeyEvent& key) {
   run([&] { Form_KeyDown(code, shift); });
   // Esc is the only key that a window gets as a character too, not while Ctrl or Alt is held.
   const bool isCharacter = code == keyEscape && (shift & ~shiftKey) == 0;
-  if (isCharacter && !closing_) run([&] { Form_KeyPress(code); });
-  if (closing_ || ofWindow) return true;
+  if (isCharacter) run([&] { Form_KeyPress(code); });
+  if (ofWindow) return true;
   if (pressButton(code, focused)) return true;
   return code == keyEnter && !takesText(focused);  // Enter reaches only a text field
 }
@@ -242,7 +242,7 @@ bool Form::pressButton(int code, QWidget* focused) {
 
 void Form::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (closing_ || isBoxOpen()) return;
+  if (isBoxOpen()) return;
   // A window that the user has just turned to is activated first, so that closing it leads back to
   // its opener.
   forms_.settle();

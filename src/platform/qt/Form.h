@@ -51,7 +51,8 @@ class Form : public QWidget, public TitleBar {
   /// Returns whether the window has been minimised since the last call, and forgets it.
   [[nodiscard]] bool takeMinimised() { return std::exchange(wasMinimised_, false); }
 
-  /// Runs an event procedure; a fault ends the program with its one closing box.
+  /// Runs an event procedure, unless the window has closed or the program ends; a fault ends the
+  /// program with its one closing box.
   void run(const std::function<void()>& procedure);
 
   /// The window has been made and is about to be shown.

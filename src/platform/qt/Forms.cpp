@@ -148,7 +148,7 @@ void Forms::clicked(Form& form) {
 /// Makes `form` the window that the user works in. Runs its Form_Activate if that was another
 /// window before, or if it comes back from being minimised.
 void Forms::activate(Form& form) {
-  if (ending_ || form.isClosing()) return;
+  if (form.isClosing()) return;
   const bool wasMinimised = form.takeMinimised();
   if (active_ == &form && !wasMinimised) return;
   active_ = &form;
