@@ -141,10 +141,7 @@ void frmLoto::mnuAbout_Click() {
   around_.boxes.message(aboutText(around_.files.currentFolder()), aboutTitle);
 }
 
-void frmLoto::showImage(int index, bool visible) {
-  Picture* image = Image1[index];
-  if (image != nullptr) image->setVisible(visible);
-}
+void frmLoto::showImage(int index, bool visible) { Image1[index]->setVisible(visible); }
 
 void frmLoto::showLabel(int index, bool visible) { Label1[index]->setVisible(visible); }
 

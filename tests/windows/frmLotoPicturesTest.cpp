@@ -16,6 +16,7 @@ class FrmLotoPictures : public FrmLotoTest {};
 TEST_F(FrmLotoPictures, TheCoverGoesWithABeepAndComesBackInTheNextMinute) {
   uncover();
   EXPECT_TRUE(hidden("Picture0"));
+  EXPECT_TRUE(hidden("Picture2")) << "it is the background's picture";
   world.clock.now = "12:34:59";
   EXPECT_TRUE(waitFor([this] { return control<QLabel>(loto, "Label3")->text() == "12:34:59"; }));
   EXPECT_TRUE(hidden("Picture0"));

@@ -39,9 +39,7 @@ Bell::Bell(QString player, std::function<void()> fallback)
   QObject::connect(&playerEnd_, &QSocketNotifier::activated, [this] { giveUp(); });
 }
 
-Bell::~Bell() {
-  if (socket_ >= 0) ::close(socket_);
-}
+Bell::~Bell() { ::close(socket_); }
 
 /// The player beside this program, as in a build folder, else the installed one.
 QString Bell::installedPlayer() {
@@ -52,10 +50,8 @@ QString Bell::installedPlayer() {
 
 void Bell::ring() {
   if (!started_) start();
-  if (socket_ >= 0) {
-    if (passOn()) return;
-    giveUp();
-  }
+  if (passOn()) return;
+  giveUp();
   fallback_();
 }
 
@@ -80,9 +76,10 @@ bool Bell::passOn() const {
 void Bell::giveUp() {
   playerEnd_.setEnabled(false);
   ::close(std::exchange(socket_, -1));
-  if (process_ == 0) return;
-  ::kill(process_, SIGKILL);  // so that the next line never waits
-  ::waitpid(process_, nullptr, 0);
+  const pid_t process = std::exchange(process_, 0);
+  if (process == 0) return;
+  ::kill(process, SIGKILL);  // so that the next line never waits
+  ::waitpid(process, nullptr, 0);
 }
 
 }  // namespace karvenis

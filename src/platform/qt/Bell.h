@@ -36,7 +36,7 @@ class Bell {
   std::function<void()> fallback_;
   bool started_ = false;
   int socket_ = -1;                                   // to the player; -1 while there is none
-  pid_t process_ = 0;                                 // the player; 0 if it did not start
+  pid_t process_ = 0;                                 // the player; 0 while there is none
   QSocketNotifier playerEnd_{QSocketNotifier::Read};  // tells that the player has ended
 };
 
