@@ -138,6 +138,8 @@ class Printing(DesktopCase):
         check(5, 4, (420, 595))
         queue.choose_for_user("PageSize=Letter media=iso_a5_148x210mm sides=two-sided-long-edge")
         check(6, 3, (612, 792))
+        queue.choose_for_user("media=a-paper-that-nobody-knows")
+        check(7, 3, (595, 842))
         title, options = queue.words(6)
         self.assertEqual(title, "KARVENIS")
         self.assertIn("sides=two-sided-long-edge", options)

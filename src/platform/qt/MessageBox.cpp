@@ -49,7 +49,6 @@ MessageBox::MessageBox(const QString& text, const QString& title, QMessageBox::I
   setIcon(icon);
   scroller_->setFrameShape(QFrame::NoFrame);
   scroller_->setWidgetResizable(true);
-  scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 /// The toolkit's own layout has no room for a scroll bar and keeps a column for a missing icon.
