@@ -122,7 +122,6 @@ void drawMenuEntry(const QStyleOptionMenuItem& entry, QPainter& painter, const Q
     style.drawItemText(&painter, inside, alignment | Qt::AlignVCenter | Qt::TextShowMnemonic,
                        entry.palette, enabled, words, colour);
   };
-  painter.setFont(entry.font);
   draw(Qt::AlignLeft, entry.text.section(u'\t', 0, 0));
   draw(Qt::AlignRight, entry.text.section(u'\t', 1));
 }
