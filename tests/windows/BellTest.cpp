@@ -114,6 +114,12 @@ TEST_F(BellTest, RingsOtherwiseWhereThereIsNoPlayer) {
   EXPECT_FALSE(hasChild());
 }
 
+TEST_F(BellTest, EndsAPlayerThatNoLongerListens) {
+  Bell bell(player("exec <&-; exec sleep 1000"), counted());
+  bell.ring();
+  EXPECT_TRUE(waitFor([] { return !hasChild(); }));
+}
+
 TEST_F(BellTest, DropsWhatAPlayerThatHangsHasNoRoomFor) {
   Bell bell(player("echo $$ >process; exec sleep 1000"), counted());
   for (int ring = 0; ring < 100000; ++ring) bell.ring();

@@ -102,7 +102,7 @@ void Forms::placeBeside(Form& window, const Form& opener) const {
   constexpr QPoint step(36, 56);
   QPoint place = opener.pos();
   const auto isTaken = [&](const QPointer<Form>& other) {
-    return other != nullptr && other != &window && other->isVisible() && other->pos() == place;
+    return other != nullptr && other->isVisible() && other->pos() == place;
   };
   do {
     place += step;
@@ -171,7 +171,6 @@ void Forms::boxClosed() {
 void Forms::closed(const Form& form) {
   if (ending_) return;
   if (Form* next = successorOf(form)) present(*next);
-  deleteClosed();
 }
 
 void Forms::deleteClosed() const {

@@ -44,9 +44,9 @@ class TypedTextAccessible final : public QAccessibleWidget,
     *start = field_->hasSelectedText() ? field_->selectionStart() : 0;
     *end = *start + field_->selectionLength();
   }
-  void addSelection(int start, int end) override { setSelection(0, start, end); }
+  void addSelection(int start, int end) override { field_->setSelection(start, end - start); }
   void removeSelection(int) override { field_->deselect(); }
-  void setSelection(int, int start, int end) override { field_->setSelection(start, end - start); }
+  void setSelection(int, int start, int end) override { addSelection(start, end); }
 
   int cursorPosition() const override { return field_->cursorPosition(); }
   void setCursorPosition(int position) override { field_->setCursorPosition(position); }

@@ -4,7 +4,6 @@
 #include <QScreen>
 #include <QWidget>
 #include <algorithm>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -22,21 +21,17 @@ bool isOnScreen(const QRect& area) {
 
 /// The place nearest to `frame` that lies wholly on a screen.
 QPoint nearestPlace(const QRect& frame) {
-  QPoint best = frame.topLeft();
-  int shortest = std::numeric_limits<int>::max();
-  for (const QScreen* screen : QGuiApplication::screens()) {
+  const auto placeOn = [&frame](const QScreen* screen) {
     const QRect area = screen->availableGeometry();
-    const QPoint place(
+    return QPoint(
         std::clamp(frame.x(), area.left(), std::max(area.left(), area.right() + 1 - frame.width())),
         std::clamp(frame.y(), area.top(),
                    std::max(area.top(), area.bottom() + 1 - frame.height())));
-    const int distance = (place - frame.topLeft()).manhattanLength();
-    if (distance < shortest) {
-      shortest = distance;
-      best = place;
-    }
-  }
-  return best;
+  };
+  const auto distance = [&](const QScreen* screen) {
+    return (placeOn(screen) - frame.topLeft()).manhattanLength();
+  };
+  return placeOn(std::ranges::min(QGuiApplication::screens(), {}, distance));
 }
 
 }  // namespace
