@@ -41,7 +41,6 @@ MOST = 1 << 16  # as in Mutants.h
 PROGRAMS = ("rules_tests", "windows_tests")
 DESKTOP = ("main_window", "heard_keys", "activation", "bag_windows", "combination_list",
            "random_list", "printing", "sound", "locales", "reading_aids")
-MOST_DESKTOP = 7  # desktop tests that are asked about one change, the quickest that come by it
 
 
 def configure():
@@ -233,13 +232,13 @@ def learned(jobs, with_desktop):
 
 
 def judge(mutant, suites):
-    """Who notices the change: the quick suites that come by it, the slow ones, a desktop test.
+    """Who notices the change: the quick suites that come by it, the slow ones, the desktop tests.
     Returns nothing if nobody does."""
     asked = [suite for suite in suites if suite.reached[mutant.number]]
     groups = [[suite for suite in asked
                if suite.program == program and (suite.seconds < 1) == quick]
               for quick in (True, False) for program in reversed(PROGRAMS)]
-    groups += [[suite] for suite in asked if suite.program not in PROGRAMS][:MOST_DESKTOP]
+    groups += [[suite] for suite in asked if suite.program not in PROGRAMS]
     for group in filter(None, groups):
         with tempfile.TemporaryDirectory(dir=MEMORY) as folder:
             seconds = 30 + 3 * sum(suite.seconds for suite in group)

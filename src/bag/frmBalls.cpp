@@ -65,8 +65,7 @@ void frmBalls::buildCells() {
 void frmBalls::buildCell(int index) {
   const bool isBall = index > 0;
   const QString caption = isBall ? toQt(padded(index, 2)) : u"top"_s;
-  auto* cell = new BallCell(caption, Frame1);
-  cell->setObjectName(u"cmdBall_%1"_s.arg(index));
+  auto* cell = control<BallCell>(u"cmdBall_%1"_s.arg(index), caption);
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cell->setAccessibleName(cell->toolTip());
   cmdBall[index] = cell;
@@ -78,7 +77,6 @@ void frmBalls::buildCell(int index) {
   connect(cell, &BallCell::stepped, this,
           [this, index](int columns, int rows) { step(index, columns, rows); });
   connect(cell, &BallCell::entered, this, [this, index] { takeTabStop(index); });
-  guard(cell);
   on(cell, &QPushButton::clicked, [this, index] { cmdBall_Click(index); });
 }
 

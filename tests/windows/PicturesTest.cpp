@@ -231,6 +231,7 @@ TEST_F(Pictures, OfWindowsWithLargeLetters) {
   setLettersTo(18);
   setBag(world.state, {1, 8, 25, 49});
   expectPicture("bag-large", *open("frmBalls"));
+  setLettersTo(26);  // more than the screen has room for
   Form* loto = openLoto();
   click(control(loto, "Option2"));
   world.chance.script = {0.5F};

@@ -286,6 +286,14 @@ TEST(QtBoxes, AnInputShowsItsPromptInLinesAndItsPresetSelected) {
                        });
 }
 
+TEST(QtBoxes, AnInputThatIsAcceptedGivesItsText) {
+  seeing<QInputDialog>([] { EXPECT_EQ(QtBoxes().input("X", "Kolon SİLME", "0", ""), "12,ş"); },
+                       [](QInputDialog& box) {
+                         box.setTextValue("12,ş");
+                         box.accept();
+                       });
+}
+
 TEST(QtBoxes, CanBeClosedAndMovedAndNothingElse) {
   const auto look = [](const QDialog& box) {
     EXPECT_TRUE(box.windowFlags().testFlag(Qt::CustomizeWindowHint))

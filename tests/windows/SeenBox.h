@@ -9,7 +9,7 @@
 
 namespace karvenis {
 
-/// Opens a real box with `open`, lets `look` see it, and refuses it.
+/// Opens a real box with `open`, lets `look` see it, and refuses it if `look` has not answered it.
 template <typename Box>
 void seeing(const std::function<void()>& open, const std::function<void(Box&)>& look) {
   QTimer timer;
@@ -21,7 +21,7 @@ void seeing(const std::function<void()>& open, const std::function<void(Box&)>& 
     timer.stop();
     look(*box);
     seen = true;
-    box->reject();
+    if (box->isVisible()) box->reject();
   });
   timer.start();
   QTimer::singleShot(20000, &timer, [] {  // a box of another kind, which would wait for ever

@@ -58,7 +58,7 @@ void MessageBox::layOut() {
   const bool hasIcon = icon() != NoIcon;
   delete layout();
   auto* grid = new QGridLayout(this);
-  if (hasIcon) grid->addWidget(picture, 0, 0, Qt::AlignTop);
+  grid->addWidget(picture, 0, 0, Qt::AlignTop);
   grid->addWidget(scroller_, 0, hasIcon ? 1 : 0, 1, hasIcon ? 1 : 2);
   grid->addWidget(buttons, 1, 0, 1, 2);
   scroller_->setWidget(label_);
