@@ -3,6 +3,7 @@
 #include <qpa/qplatformintegration.h>
 
 #include <QAccessible>
+#include <QMessageBox>
 #include <set>
 
 #include "AllWindows.h"
@@ -11,6 +12,8 @@
 #include "platform/qt/Announcer.h"
 #include "platform/qt/KeyCodes.h"
 #include "platform/qt/NumberField.h"
+#include "platform/qt/QtBoxes.h"
+#include "windows/SeenBox.h"
 #include "windows/WindowTest.h"
 
 // What assistive technology is told of the controls. What a screen reader makes of it is a desktop
@@ -164,6 +167,13 @@ TEST(KeysOfAScreenReader, AreNotTheWindowsOwn) {
   EXPECT_TRUE(isOfReader(Qt::Key_Insert));
   EXPECT_FALSE(isOfReader(Qt::Key_Insert, Qt::ShiftModifier)) << "pastes";
   EXPECT_FALSE(isOfReader(Qt::Key_F1));
+}
+
+TEST(ToldOfBoxes, ThatOneHasOpened) {
+  const Reports reports;
+  seeing<QMessageBox>([] { QtBoxes().message("X", "! HATA !", Icon::none); }, [](const QMessageBox&) {});
+  const std::pair<QAccessible::Event, QString> opened(QAccessible::Alert, u"! HATA !"_s);
+  EXPECT_EQ(std::ranges::count(Reports::all, opened), 1);
 }
 
 class ToldOfWindows : public WindowTest {

@@ -267,6 +267,17 @@ TEST_F(FormsTest, AWindowThatComesBackFromBeingMinimisedIsActivated) {
   EXPECT_EQ(taken(), Log()) << "once";
 }
 
+TEST_F(FormsTest, AWindowThatBecomesLargeIsNotActivated) {
+  Noting* a = show("frmA");
+  letSettle();
+  taken();
+  a->showMaximized();
+  EXPECT_TRUE(waitFor([a] { return a->isMaximized(); }));
+  forms.show("frmA");
+  letSettle();
+  EXPECT_EQ(taken(), Log{"frmA Resize"});
+}
+
 TEST_F(FormsTest, TheMinimisedMainWindowComesBackWhenTheLastOtherCloses) {
   Noting* a = show("frmA");
   Noting* b = show("frmB");

@@ -61,9 +61,7 @@ void BallCell::grow(double growth) {
 /// A procedure may change a mark twice; the result is reported when the procedure has ended.
 void BallCell::changeEvent(QEvent* event) {
   QPushButton::changeEvent(event);
-  if (event->type() == QEvent::FontChange) {
-    QMetaObject::invokeMethod(this, &BallCell::reportMark, Qt::QueuedConnection);
-  }
+  QMetaObject::invokeMethod(this, &BallCell::reportMark, Qt::QueuedConnection);
 }
 
 void BallCell::reportMark() {

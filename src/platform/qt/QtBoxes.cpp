@@ -78,9 +78,8 @@ bool QtBoxes::ask(const std::string& text, const std::string& title) {
   QWidget* owner = announceOpening();
   auto* box = new MessageBox(toQtLines(text), toQt(title), QMessageBox::Question, owner);
   QPushButton* yes = box->addButton(u"Evet"_s, QMessageBox::YesRole);
-  QPushButton* no = box->addButton(u"Hayır"_s, QMessageBox::NoRole);
+  box->addButton(u"Hayır"_s, QMessageBox::NoRole);  // Esc presses it
   box->setDefaultButton(yes);
-  box->setEscapeButton(no);
   serve(box);
   return box->clickedButton() == yes;
 }
