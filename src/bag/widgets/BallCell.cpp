@@ -91,7 +91,6 @@ void BallCell::paintEvent(QPaintEvent*) {
     QRectF ring(0, 0, ringDiameter * growth_, ringDiameter * growth_);
     ring.moveCenter(cell.center());
     painter.setPen(QPen(QColor(look::petrol), 3 * growth_));
-    painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(ring);
   }
   painter.setPen(QColor(look::ink));

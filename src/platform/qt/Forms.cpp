@@ -169,7 +169,6 @@ void Forms::boxClosed() {
 }
 
 void Forms::closed(const Form& form) {
-  if (ending_) return;
   if (Form* next = successorOf(form)) present(*next);
 }
 
