@@ -69,10 +69,7 @@ void frmBalls::buildCell(int index) {
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cell->setAccessibleName(cell->toolTip());
   cmdBall[index] = cell;
-  if (!isBall) {
-    cell->hide();
-    return;
-  }
+  cell->setVisible(isBall);
   cell->setFocusPolicy(Qt::ClickFocus);
   connect(cell, &BallCell::stepped, this,
           [this, index](int columns, int rows) { step(index, columns, rows); });
