@@ -317,6 +317,13 @@ TEST(QtBoxes, ThePointerIsTheHourglassUntilItIsSetBack) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "however often it was set";
 }
 
+TEST(QtBoxes, AreAsLargeAsTheirContent) {
+  message("X", Icon::none, [](const QMessageBox& box) {
+    EXPECT_EQ(box.minimumSize(), box.layout()->totalSizeHint());
+    EXPECT_EQ(box.maximumSize(), box.minimumSize());
+  });
+}
+
 TEST(QtBoxes, KeepNoColumnForAMissingIcon) {
   message("X", Icon::none, [](const QMessageBox& box) {
     EXPECT_EQ(scrollerOf(box).x(), box.layout()->contentsMargins().left());
