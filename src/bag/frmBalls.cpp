@@ -69,7 +69,7 @@ void frmBalls::buildCell(int index) {
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cell->setAccessibleName(cell->toolTip());
   cmdBall[index] = cell;
-  cell->setVisible(isBall);
+  if (!isBall) cell->hide();
   cell->setFocusPolicy(Qt::ClickFocus);
   connect(cell, &BallCell::stepped, this,
           [this, index](int columns, int rows) { step(index, columns, rows); });

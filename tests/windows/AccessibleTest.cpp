@@ -125,6 +125,7 @@ TEST_F(TypedText, HasItsCharactersWhereTheyArePainted) {
 class Reports {
  public:
   Reports() {
+    installAccessibles();
     all.clear();
     setActive(true);
     before_ = QAccessible::installUpdateHandler(note);
