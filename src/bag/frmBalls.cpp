@@ -37,6 +37,7 @@ frmBalls::frmBalls(Surroundings& around) : frmSelection(around) {
     for (BallCell* cell : cmdBall) cell->grow(growth);
   });
   takeTabStop(1);
+  cmdBall[1]->setFocus();
 }
 
 void frmBalls::buildMenus() {
@@ -65,15 +66,20 @@ void frmBalls::buildCells() {
 void frmBalls::buildCell(int index) {
   const bool isBall = index > 0;
   const QString caption = isBall ? toQt(padded(index, 2)) : u"top"_s;
-  auto* cell = control<BallCell>(u"cmdBall_%1"_s.arg(index), caption);
+  auto* cell = new BallCell(caption, Frame1);
+  cell->setObjectName(u"cmdBall_%1"_s.arg(index));
   cell->setToolTip(isBall ? QString::number(index) : u"Top"_s);
   cell->setAccessibleName(cell->toolTip());
   cmdBall[index] = cell;
-  if (!isBall) cell->hide();
+  if (!isBall) {
+    cell->hide();
+    return;
+  }
   cell->setFocusPolicy(Qt::ClickFocus);
   connect(cell, &BallCell::stepped, this,
           [this, index](int columns, int rows) { step(index, columns, rows); });
   connect(cell, &BallCell::entered, this, [this, index] { takeTabStop(index); });
+  guard(cell);
   on(cell, &QPushButton::clicked, [this, index] { cmdBall_Click(index); });
 }
 

@@ -21,7 +21,7 @@ Browsing Off
 BrowseLocalProtocols none
 DefaultAuthType None
 WebInterface No
-MaxJobTime 60
+MaxJobTime 600
 LimitRequestBody {largest}
 LogLevel info
 <Location />
@@ -181,8 +181,10 @@ class PrintQueue:
             file.write("any document")
         self._run("lp", "-d", QUEUE, "-o", "raw", slow)
         wait_for(lambda: self.documents() == ["1.words"], "the job to begin")
-        yield
-        os.unlink(slow)
+        try:
+            yield
+        finally:
+            os.unlink(slow)
 
     def refuse(self):
         """From now on the queue takes no job."""

@@ -215,6 +215,12 @@ class FastKeys(ActivationCase):
         self.assertEqual(program.boxes(), [])
         self.assertEqual(program.bytes("KARVENIS.RND"), ONE)
 
+    def test_space_behind_f5_marks_the_first_ball(self):
+        program = self.start()
+        program.while_stopped(lambda: program.keys("F5", "space"))
+        self.bag = program.window(BAG)
+        self.expect_marks(1)
+
     def test_escape_behind_f5_closes_the_bag(self):
         program = self.start()
         program.while_stopped(lambda: program.keys("F5", "Escape"))

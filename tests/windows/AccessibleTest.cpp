@@ -172,7 +172,8 @@ TEST(KeysOfAScreenReader, AreNotTheWindowsOwn) {
 
 TEST(ToldOfBoxes, ThatOneHasOpened) {
   const Reports reports;
-  seeing<QMessageBox>([] { QtBoxes().message("X", "! HATA !", Icon::none); }, [](const QMessageBox&) {});
+  seeing<QMessageBox>([] { QtBoxes().message("X", "! HATA !", Icon::none); },
+                      [](const QMessageBox&) {});
   const std::pair<QAccessible::Event, QString> opened(QAccessible::Alert, u"! HATA !"_s);
   EXPECT_EQ(std::ranges::count(Reports::all, opened), 1);
 }
@@ -318,6 +319,18 @@ TEST_F(ToldOfWindows, AFinishedDraw) {
   EXPECT_TRUE(world.boxes.finished()) << "it is told when the last ball lies";
   EXPECT_EQ(loto->findChild<Announcer*>()->accessibleName(),
             toQt("Kolon: " + listed(world.state.Drawn)));
+}
+
+TEST_F(ToldOfWindows, AColumnFromTheList) {
+  Form* loto = open("frmLoto");
+  click(control(loto, "Option2"));
+  const Reports reports;
+  world.chance.script = {0.0F};
+  world.boxes.expectBeep();
+  click(control(loto, "Command1"));
+  ASSERT_TRUE(waitFor([&] { return loto->findChild<Announcer*>() != nullptr; }));
+  EXPECT_EQ(loto->findChild<Announcer*>()->accessibleName(),
+            toQt("Kayıt 1: " + listed(world.state.Drawn)));
 }
 
 // The option that has the focus is told as the focus.

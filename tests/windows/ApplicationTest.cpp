@@ -211,6 +211,17 @@ TEST_F(ApplicationTest, APressThatBeginsBehindABoxIsNone) {
   })) << "the next one counts";
 }
 
+TEST_F(ApplicationTest, APressOnABallThatBeginsBehindABoxIsNone) {
+  Form* bag = open("frmBalls");
+  auto* five = control<QAbstractButton>(bag, "cmdBall_5");
+  whileBoxIsOpen(bag, [&](QMessageBox& box) {
+    five->animateClick();
+    box.reject();
+  });
+  EXPECT_TRUE(waitFor([&] { return !five->isDown(); }));
+  EXPECT_EQ(control<QLabel>(bag, "Label1")->text(), "0 top işaretli");
+}
+
 TEST_F(ApplicationTest, APressThatIsGivenUpBehindABoxStopsNoOtherButton) {
   auto* column = control<QPushButton>(main, "Command1");
   whileBoxIsOpen(main, [&](QMessageBox& box) {

@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStyle>
+#include <QToolTip>
 
 #include "AllWindows.h"
 #include "core/ColumnFile.h"
@@ -101,6 +102,7 @@ TEST(Colours, OfWhatIsReadAreTheHouses) {
         QPalette::ToolTipBase, QPalette::ToolTipText}) {
     EXPECT_TRUE(QApplication::palette().isBrushSet(QPalette::Active, role)) << role;
   }
+  EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipBase), QColor(look::paper));
 }
 
 TEST(ScrollBars, GrowWithTheLetters) {

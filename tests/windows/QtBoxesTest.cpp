@@ -317,6 +317,8 @@ TEST(QtBoxes, ThePointerIsTheHourglassUntilItIsSetBack) {
   EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "however often it was set";
 }
 
+TEST(QtBoxes, BreakAWordThatNoLineTakes) { message(QString(250, u'm'), Icon::none, expectWhole); }
+
 TEST(QtBoxes, AreAsLargeAsTheirContent) {
   message("X", Icon::none, [](const QMessageBox& box) {
     EXPECT_EQ(box.minimumSize(), box.layout()->totalSizeHint());

@@ -52,9 +52,9 @@ TEST(SurfaceColours, LeaveTheScreenWhenThePageIsCleared) {
   const auto onScreen = [&] {
     return coloursOf(surface.screen()->grabWindow(surface.winId())).size();
   };
-  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() > 1; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() > 1; }, 20000));
   surface.cls();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() == 1; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() == 1; }, 20000));
 }
 
 /// The size of the letters of a page, which has margins as high as two lines.

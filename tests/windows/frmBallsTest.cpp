@@ -240,9 +240,20 @@ TEST_F(FrmBalls, ABrokenFileIsToldAndKeepsTheMarks) {
   EXPECT_EQ(marked(), Set{5});
 }
 
-TEST_F(FrmBalls, ArrowsMoveInsideTheGridAndSpaceMarks) {
+TEST_F(FrmBalls, TheBallWithoutANumberTakesNoPart) {
   start();
+  ball(0)->click();
+  EXPECT_TRUE(ball(0)->isHidden());
+  EXPECT_EQ(ball(0)->parentWidget(), control(balls, "Frame1"));
+  EXPECT_EQ(marked(), Set{});
+}
+
+TEST_F(FrmBalls, ArrowsMoveInsideTheGridAndSpaceMarks) {
+  forms.show("frmBalls");
+  balls = forms.find("frmBalls");
+  ASSERT_NE(balls->focusWidget(), nullptr) << "also before it has the keyboard";
   EXPECT_EQ(focused(), 1);
+  start();
   const std::vector<std::pair<Qt::Key, int>> walk = {
       {Qt::Key_Up, 1},    {Qt::Key_Left, 1},  {Qt::Key_Right, 2}, {Qt::Key_Down, 9},
       {Qt::Key_Left, 8},  {Qt::Key_Left, 8},  {Qt::Key_Up, 1},    {Qt::Key_Down, 8},

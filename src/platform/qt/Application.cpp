@@ -19,11 +19,6 @@ bool isOfClosedWindow(const QObject* receiver) {
   return receiver->isWidgetType() && static_cast<const QWidget*>(receiver)->window()->isHidden();
 }
 
-/// Whether this is Alt and no other key that changes the meaning of keys is held.
-bool isAltAlone(const QKeyEvent& key) {
-  return key.key() == Qt::Key_Alt && (key.modifiers() & ~Qt::AltModifier) == 0;
-}
-
 }  // namespace
 
 /// Gives the keys to the open box from the start. The desktop sends them to the window behind it
@@ -148,8 +143,8 @@ void Application::servePress(QKeyEvent& press, QWindow& window) {
   if (!press.isAutoRepeat()) {
     pressedIn_ = &window;
     altAlone_.reset();
-    if (isAltAlone(press) && activePopupWidget() == nullptr) {
-      altAlone_ = press.QInputEvent::modifiers();
+    if (press.key() == Qt::Key_Alt && activePopupWidget() == nullptr) {
+      altAlone_ = press.QInputEvent::modifiers();  // the menus look whether others are held
     }
   }
   if (&window == pressedIn_) sendEvent(&window, &press);

@@ -37,8 +37,8 @@ class Application final : public QApplication {
   /// Sets the window that has the keys while no box is open; null: the one that has the keyboard.
   void setWorkingWindow(QWidget* window) { working_ = window; }
 
-  /// Tells whether an event procedure runs, each time when one opens a box or ends. The keys that
-  /// have waited are served in the next turn of the event loop.
+  /// Tells whether an event procedure runs, whenever one opens a box or ends. The keys that have
+  /// waited are served in the next turn of the event loop.
   void setBusy(bool busy);
 
   /// Drops the keys that wait, and the keys and clicks that come until the event loop has run
@@ -62,7 +62,7 @@ class Application final : public QApplication {
   class KeysOfBoxes;
 
   bool takeKey(QKeyEvent& key);
-  /// Whether keys must wait: a procedure runs and no box is open.
+  /// Whether keys must wait: a procedure's box has been answered, and the procedure goes on.
   bool mustWait() const { return busy_ && activeModalWidget() == nullptr; }
   void serveWaiting();
   void serve(QKeyEvent& key);

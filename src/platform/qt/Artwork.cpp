@@ -32,7 +32,7 @@ QPixmap Artwork::pixmap(const QString& file, const QString& element, const QSize
   if (!drawing.isNull() || pixels.isEmpty()) return drawing;
 
   // What the first painted window shows on a plain screen was rendered when the program was built.
-  drawing = prerenderedDrawing(QFileInfo(file).baseName(), pixels);
+  if (element.isEmpty()) drawing = prerenderedDrawing(QFileInfo(file).baseName(), pixels);
   if (drawing.isNull()) drawing = render(file, element, pixels);
   drawing.setDevicePixelRatio(ratio);
   return drawing;

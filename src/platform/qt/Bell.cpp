@@ -66,7 +66,7 @@ void Bell::start() {
   playerEnd_.setEnabled(true);
 }
 
-/// Sends the ring. Returns false if the player has ended; a ring that it is too busy for counts as
+/// Sends the ring. Returns false if there is no player; a ring that it is too busy for counts as
 /// sent.
 bool Bell::passOn() const {
   return ::send(socket_, "", 1, MSG_DONTWAIT | MSG_NOSIGNAL) == 1 || errno == EAGAIN;

@@ -274,6 +274,7 @@ void Form::notePress(const QMouseEvent& press) {
 void Form::mouseReleaseEvent(QMouseEvent* event) {
   const bool click =
       clickArmed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+  clickArmed_ = false;
   if (click) run([this] { Form_Click(); });
 }
 

@@ -165,10 +165,11 @@ QWidget* Forms::boxOpens() {
 }
 
 void Forms::boxClosed() {
-  if (active_) giveKeyboard(*active_);
+  if (active_ && !ending_) giveKeyboard(*active_);
 }
 
 void Forms::closed(const Form& form) {
+  if (ending_) return;
   if (Form* next = successorOf(form)) present(*next);
 }
 

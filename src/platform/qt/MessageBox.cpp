@@ -21,10 +21,11 @@ namespace {
 constexpr int besideTitle = 110;  // what a frame shows beside its title
 
 /// `text` with places to break lines: behind the commas and slashes of a long word, such as a list
-/// of many numbers or the name of a folder, which would be cut off otherwise.
+/// of many numbers or the name of a folder, and inside what is long without them. It would be cut
+/// off otherwise.
 QString breakable(const QString& text) {
   static const QRegularExpression longWord(u"\\S{50,}"_s);
-  static const QRegularExpression mark(u"([,/])"_s);
+  static const QRegularExpression mark(u"([,/]|[^,/]{40})"_s);
   QString broken;
   qsizetype done = 0;
   for (auto words = longWord.globalMatch(text); words.hasNext();) {

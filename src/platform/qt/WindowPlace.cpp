@@ -19,7 +19,7 @@ bool isOnScreen(const QRect& area) {
       screens, [&](const QScreen* screen) { return screen->geometry().intersects(area); });
 }
 
-/// The place nearest to `frame` that lies wholly on a screen.
+/// The place nearest to `frame` that lies wholly on a screen; the toolkit always has one.
 QPoint nearestPlace(const QRect& frame) {
   const auto placeOn = [&frame](const QScreen* screen) {
     const QRect area = screen->availableGeometry();
