@@ -60,6 +60,18 @@ class Bag(DesktopCase):
         program.activated(BAG)
         self.assertEqual((self.marked(), program.files()), ([44], []))
 
+    def test_yes_stands_left_of_no_whatever_the_desktop_prefers(self):
+        for desktop in ("GNOME", "KDE"):
+            with self.subTest(desktop):
+                program = self.start(environment={"XDG_CURRENT_DESKTOP": desktop})
+                self.open("F5", BAG)
+                program.keys("F3")
+                box = program.box()
+                yes, no = (box.node.find("push button", name).place for name in box.buttons)
+                self.assertLess(yes[0], no[0])
+                box.press("Escape")
+                program.close()
+
     def test_all_and_none(self):
         program = self.start()
         self.bag = self.open("F5", BAG)
