@@ -294,6 +294,11 @@ TEST(QtBoxes, AnInputThatIsAcceptedGivesItsText) {
                        });
 }
 
+TEST(QtBoxes, AnInputIsNoWiderThanTheScreen) {
+  const BigLetters letters("DejaVu Sans", 3);
+  input("X", [](const QInputDialog& box) { EXPECT_TRUE(fitsOnScreen(box)) << box.width(); });
+}
+
 TEST(QtBoxes, CanBeClosedAndMovedAndNothingElse) {
   const auto look = [](const QDialog& box) {
     EXPECT_TRUE(box.windowFlags().testFlag(Qt::CustomizeWindowHint))
