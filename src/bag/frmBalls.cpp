@@ -36,7 +36,6 @@ frmBalls::frmBalls(Surroundings& around) : frmSelection(around) {
   growWithLetters(*this, [this](double growth) {
     for (BallCell* cell : cmdBall) cell->grow(growth);
   });
-  takeTabStop(1);
   cmdBall[1]->setFocus();
 }
 

@@ -105,8 +105,7 @@ void frmRnd::Command1_Click() {
   const auto mode = Option1->isChecked() ? Generator::Mode::newList : Generator::Mode::append;
   switch (generator_.start(mode, fromQt(Text1->text()))) {
     case Generator::Outcome::refused:
-      Text1->askAgain();
-      return;
+      return Text1->askAgain();
     case Generator::Outcome::kept:
       return;
     case Generator::Outcome::done:
