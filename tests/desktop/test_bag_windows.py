@@ -131,6 +131,17 @@ class Bankos(DesktopCase):
         program.until(lambda: self.boxes() == ["12"], "one banko")
         self.assertIsNotNone(self.banko.find("label", "Banko Top:"))
 
+    def test_the_menu_of_a_field_is_turkish(self):
+        program = self.start()
+        banko = self.open("F7", BANKO)
+        program.keys("F6")
+        field = banko.find("text", "1. banko top")
+        program.until(lambda: field.has("focused"), "the focus")
+        program.keys("7", "ctrl+a")
+        program.until(lambda: field.text == "7", "the number")
+        program.keys("Menu", "s")  # Kes
+        program.until(lambda: field.text == "", "the number to be cut")
+
     def test_only_balls_can_be_typed(self):
         program = self.start()
         self.banko = self.open("F7", BANKO)

@@ -188,9 +188,12 @@ class ToldOfWindows : public WindowTest {
 };
 
 TEST_F(ToldOfWindows, ThePrintedLines) {
+  forms.show("frmRndLst");
+  auto* page = forms.find("frmRndLst")->findChild<Surface*>();
+  EXPECT_EQ(page->window()->focusWidget(), page) << "also before it has the keyboard";
   Form* list = open("frmRndLst");
-  auto* page = list->findChild<Surface*>();
   QAccessibleInterface& lines = told(page);
+  EXPECT_TRUE(lines.state().focusable);
   ASSERT_EQ(lines.childCount(), 25);
   EXPECT_EQ(lines.child(-1), nullptr);
   EXPECT_EQ(lines.child(25), nullptr);

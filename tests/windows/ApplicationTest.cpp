@@ -194,16 +194,21 @@ TEST_F(ApplicationTest, APressThatBeginsBehindABoxIsNone) {
   auto* exit = control<QPushButton>(main, "Command2");
   auto* fromList = control<QAbstractButton>(main, "Option2");
   auto* sorted = control<QAbstractButton>(main, "Check1");
+  auto* opening = control<QAbstractButton>(main, "Picture0");
   whileBoxIsOpen(main, [&](QMessageBox& box) {
-    for (QAbstractButton* button : {static_cast<QAbstractButton*>(exit), fromList, sorted}) {
+    for (QAbstractButton* button :
+         {static_cast<QAbstractButton*>(exit), fromList, sorted, opening}) {
       button->animateClick();
     }
     box.reject();
   });
-  EXPECT_TRUE(waitFor([&] { return !exit->isDown() && !fromList->isDown() && !sorted->isDown(); }));
+  EXPECT_TRUE(waitFor([&] {
+    return !exit->isDown() && !fromList->isDown() && !sorted->isDown() && !opening->isDown();
+  }));
   EXPECT_FALSE(forms.ending());
   EXPECT_FALSE(fromList->isChecked());
   EXPECT_FALSE(sorted->isChecked());
+  EXPECT_FALSE(opening->isHidden());
   EXPECT_TRUE(world.files.folder.empty());
   EXPECT_TRUE(waitFor([&] {
     sorted->setChecked(true);
